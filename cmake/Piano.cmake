@@ -1,0 +1,16 @@
+# piano(name SOURCES ... LINKS ...): one folder, one static library. Its headers are found only by
+# who links it, so that an include against the floors does not compile.
+function(piano name)
+    cmake_parse_arguments(P "" "" "SOURCES;LINKS" ${ARGN})
+    add_library(${name} STATIC ${P_SOURCES})
+    target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+    target_link_libraries(${name} PUBLIC ${P_LINKS} PRIVATE avvisi)
+endfunction()
+
+# prova(name SOURCES ... LINKS ...): a test program; every test in it becomes a test of CTest.
+function(prova name)
+    cmake_parse_arguments(P "" "" "SOURCES;LINKS" ${ARGN})
+    add_executable(${name} ${P_SOURCES})
+    target_link_libraries(${name} PRIVATE ${P_LINKS} prova_main avvisi)
+    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+endfunction()
