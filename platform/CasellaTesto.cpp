@@ -1,0 +1,103 @@
+#include "CasellaTesto.h"
+
+#include "Codifica.h"
+#include "Finestra.h"
+
+#include <QApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+
+CasellaTesto::CasellaTesto(const QString &nome, QWidget *dentro, const QString &testo)
+    : Controllo(nome, dentro)
+{
+    setText(testo);
+    connect(this, &QLineEdit::textChanged, this, [this] { Change(); });
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget *, QWidget *ora) { fuocoCambiato(ora); });
+}
+
+QString CasellaTesto::filtrato(const QString &battuto)
+{
+    QString passati;
+    for (const QChar c : battuto) {
+        const char byte = Codifica::inByte(QStringView(&c, 1)).front();
+        const int prima = static_cast<unsigned char>(byte);
+        int dopo = prima;
+        KeyPress(dopo);
+        if (dopo == prima)
+            passati += c;
+        else if (dopo > 0 && dopo < 256)
+            passati += Codifica::daByte(QByteArray(1, static_cast<char>(dopo)));
+    }
+    return passati;
+}
+
+void CasellaTesto::keyPressEvent(QKeyEvent *evento)
+{
+    if (evento->key() == Qt::Key_Backspace) {
+        int tasto = 8;
+        KeyPress(tasto);
+        if (tasto == 8)
+            QLineEdit::keyPressEvent(evento);
+        return;
+    }
+    const QString testo = evento->text();
+    const bool battuto = !testo.isEmpty() && testo.front().isPrint() &&
+                         !(evento->modifiers() & (Qt::ControlModifier | Qt::MetaModifier));
+    if (!battuto) {
+        QLineEdit::keyPressEvent(evento);
+        return;
+    }
+    const QString passati = filtrato(testo);
+    if (!passati.isEmpty())
+        insert(passati);
+    evento->accept();
+}
+
+void CasellaTesto::inputMethodEvent(QInputMethodEvent *evento)
+{
+    QInputMethodEvent filtratoEvento(evento->preeditString(), evento->attributes());
+    filtratoEvento.setCommitString(filtrato(evento->commitString()), evento->replacementStart(),
+                                   evento->replacementLength());
+    QLineEdit::inputMethodEvent(&filtratoEvento);
+}
+
+void CasellaTesto::focusOutEvent(QFocusEvent *evento)
+{
+    QLineEdit::focusOutEvent(evento);
+    switch (evento->reason()) {
+    case Qt::PopupFocusReason:
+    case Qt::MenuBarFocusReason:
+        break;
+    case Qt::ActiveWindowFocusReason:
+        m_inSospeso = true;
+        break;
+    default:
+        LostFocus();
+    }
+}
+
+void CasellaTesto::fuocoCambiato(QWidget *ora)
+{
+    if (!m_inSospeso || !ora)
+        return;
+    if (ora == this) {
+        m_inSospeso = false;
+    } else if (qobject_cast<Finestra *>(ora->window())) {
+        m_inSospeso = false;
+        LostFocus();
+    }
+}
+
+void CasellaTesto::mouseReleaseEvent(QMouseEvent *evento)
+{
+    Controllo::mouseReleaseEvent(evento);
+    if (evento->button() == Qt::LeftButton && rect().contains(evento->position().toPoint()))
+        Click();
+}
+
+void soloCifre(int &KeyAscii)
+{
+    if (KeyAscii != 8 && (KeyAscii < '0' || KeyAscii > '9'))
+        KeyAscii = 0;
+}

@@ -1,0 +1,158 @@
+#include "Elenco.h"
+
+#include "Tasti.h"
+
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+
+Elenco::Elenco(const QString &nome, QWidget *dentro, Stile stile)
+    : Controllo(nome, dentro), m_stile(stile)
+{
+    setUniformItemSizes(true);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    // Qt would move the current row along when rows come and go: that is no choice of the user's.
+    connect(this, &QListWidget::currentRowChanged, this, [this](int) {
+        if (!m_zitto)
+            Click();
+    });
+    connect(this, &QListWidget::itemChanged, this, [this](QListWidgetItem *) {
+        if (!m_zitto)
+            Click();
+    });
+}
+
+QListWidgetItem *Elenco::riga(int numero, int errore) const
+{
+    QListWidgetItem *voce = item(numero);
+    if (!voce)
+        throw Errore(errore);
+    return voce;
+}
+
+void Elenco::setListIndex(int numero)
+{
+    if (numero < -1 || numero >= count())
+        throw Errore(Errore::ProprietaNonValida);
+    if (numero == currentRow())
+        return;
+    const QScopedValueRollback zitto(m_zitto, m_zitto || numero == -1);
+    setCurrentRow(numero);
+    if (numero == -1)
+        clearSelection();
+}
+
+QString Elenco::List(int numero) const
+{
+    return riga(numero)->text();
+}
+
+void Elenco::setList(int numero, const QString &testo)
+{
+    const QScopedValueRollback zitto(m_zitto, true);
+    riga(numero)->setText(testo);
+}
+
+QString Elenco::Text() const
+{
+    return currentItem() ? currentItem()->text() : QString();
+}
+
+QListWidgetItem *Elenco::nuova(const QString &testo) const
+{
+    auto *voce = new QListWidgetItem(testo);
+    if (m_stile == Stile::ConSpunte) {
+        voce->setFlags(voce->flags() | Qt::ItemIsUserCheckable);
+        voce->setCheckState(Qt::Unchecked);
+    }
+    return voce;
+}
+
+void Elenco::AddItem(const QString &testo)
+{
+    AddItem(testo, count());
+}
+
+void Elenco::AddItem(const QString &testo, int numero)
+{
+    if (numero < 0 || numero > count())
+        throw Errore(Errore::ChiamataNonValida);
+    const QScopedValueRollback zitto(m_zitto, true);
+    insertItem(numero, nuova(testo));
+}
+
+void Elenco::RemoveItem(int numero)
+{
+    riga(numero, Errore::ChiamataNonValida);
+    const QScopedValueRollback zitto(m_zitto, true);
+    if (numero == currentRow()) {
+        setCurrentRow(-1);
+        clearSelection();
+    }
+    delete takeItem(numero);
+}
+
+void Elenco::Clear()
+{
+    const QScopedValueRollback zitto(m_zitto, true);
+    clear();
+}
+
+qint32 Elenco::ItemData(int numero) const
+{
+    return riga(numero)->data(Qt::UserRole).toInt();
+}
+
+void Elenco::setItemData(int numero, qint32 valore)
+{
+    const QScopedValueRollback zitto(m_zitto, true);
+    riga(numero)->setData(Qt::UserRole, valore);
+}
+
+bool Elenco::Selected(int numero) const
+{
+    return riga(numero)->checkState() == Qt::Checked;
+}
+
+void Elenco::setSelected(int numero, bool valore)
+{
+    riga(numero)->setCheckState(valore ? Qt::Checked : Qt::Unchecked);
+}
+
+double Elenco::AltezzaRiga() const
+{
+    return Unita::unita(count() > 0 ? sizeHintForRow(0) : fontMetrics().height());
+}
+
+void Elenco::mousePressEvent(QMouseEvent *evento)
+{
+    const int prima = currentRow();
+    const QListWidgetItem *sotto = itemAt(evento->position().toPoint());
+    const Qt::CheckState spunta = sotto ? sotto->checkState() : Qt::Unchecked;
+    Controllo::mousePressEvent(evento);
+    // A click on the row that is selected already is a click as well.
+    const QListWidgetItem *dopo = itemAt(evento->position().toPoint());
+    if (evento->button() == Qt::LeftButton && sotto && dopo == sotto && row(sotto) == prima &&
+        sotto->checkState() == spunta)
+        Click();
+}
+
+void Elenco::focusInEvent(QFocusEvent *evento)
+{
+    // Qt makes the first row the current one when the focus comes and there is none.
+    const QScopedValueRollback zitto(m_zitto, true);
+    const int prima = currentRow();
+    Controllo::focusInEvent(evento);
+    if (prima == -1) {
+        setCurrentRow(-1);
+        clearSelection();
+    }
+}
+
+void Elenco::keyPressEvent(QKeyEvent *evento)
+{
+    int codice = Tasti::codice(*evento);
+    KeyDown(codice, numeroMaiuscole(evento->modifiers()));
+    if (codice != 0)
+        Controllo::keyPressEvent(evento);
+}

@@ -1,0 +1,40 @@
+// Events of controls, and the one road by which handlers run.
+#pragma once
+
+#include <functional>
+#include <utility>
+
+// Runs a handler. No exception leaves it: an error that nobody handled is shown in a message box,
+// and the program ends.
+void eseguiGestore(const std::function<void()> &gestore);
+
+// One event of one control, with the one handler that its window gave it.
+template <class... Argomenti>
+class Evento
+{
+public:
+    template <class Finestra, class Classe, class... Parametri>
+    void collega(Finestra *finestra, void (Classe::*gestore)(Parametri...))
+    {
+        m_gestore = [finestra, gestore](Argomenti... argomenti) {
+            // A handler may leave out the arguments that it has no use for.
+            if constexpr (sizeof...(Parametri) == 0)
+                (finestra->*gestore)();
+            else
+                (finestra->*gestore)(argomenti...);
+        };
+    }
+    void collega(std::function<void(Argomenti...)> gestore) { m_gestore = std::move(gestore); }
+
+    void operator()(Argomenti... argomenti) const
+    {
+        if (m_gestore) {
+            // A copy: the handler may live longer than its control.
+            const auto gestore = m_gestore;
+            eseguiGestore([&] { gestore(argomenti...); });
+        }
+    }
+
+private:
+    std::function<void(Argomenti...)> m_gestore;
+};

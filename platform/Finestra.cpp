@@ -1,0 +1,201 @@
+#include "Finestra.h"
+
+#include "Tasti.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QWindow>
+
+namespace {
+
+// The window of the program that was activated last: coming back to it from a message box or from
+// another program is no activation.
+QPointer<Finestra> ultimaAttiva;
+
+} // namespace
+
+Finestra::Finestra(const QString &nome, const QString &titolo)
+{
+    setObjectName(nome);
+    setWindowTitle(titolo);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_QuitOnClose, false);
+}
+
+bool Finestra::carica()
+{
+    if (m_caricata)
+        return true;
+    if (!m_inizializzata) {
+        m_inizializzata = true;
+        m_misura = size();
+        Initialize();
+    }
+    m_caricata = true;
+    Load();
+    return m_caricata;
+}
+
+void Finestra::Mostra()
+{
+    if (Visible() || !carica())
+        return;
+    show();
+    Resize();
+    ultimaAttiva = this;
+    Activate();
+}
+
+void Finestra::MostraModale()
+{
+    if (Visible() || !carica())
+        return;
+    const QWidget *sopra = QApplication::activeWindow();
+    setWindowModality(Qt::ApplicationModal);
+    setWindowFlag(Qt::Dialog);
+    winId();
+    if (sopra && sopra->windowHandle())
+        windowHandle()->setTransientParent(sopra->windowHandle());
+    Mostra();
+    QEventLoop attesa;
+    while (Visible())
+        attesa.processEvents(QEventLoop::WaitForMoreEvents);
+    setWindowModality(Qt::NonModal);
+}
+
+void Finestra::Scarica()
+{
+    scarica(Chiusura::Codice);
+}
+
+void Finestra::scarica(Chiusura come)
+{
+    if (!m_caricata)
+        return;
+    bool rifiutata = false;
+    QueryUnload(rifiutata, come);
+    if (!rifiutata && m_caricata)
+        Unload(rifiutata);
+    if (rifiutata || !m_caricata)
+        return;
+    m_caricata = false;
+    hide();
+    if (ultimaAttiva == this)
+        ultimaAttiva.clear();
+    Disegno();
+    resize(m_misura);
+}
+
+void Finestra::QueryUnload(bool &, Chiusura) {}
+
+void Finestra::Unload(bool &) {}
+
+void Finestra::KeyDown(int, int) {}
+
+void Finestra::KeyUp(int, int) {}
+
+int Finestra::WindowState() const
+{
+    const Qt::WindowStates stato = windowState();
+    if (stato & Qt::WindowMinimized)
+        return 1;
+    return stato & Qt::WindowMaximized ? 2 : 0;
+}
+
+void Finestra::setWindowState(int stato)
+{
+    Qt::WindowStates nuovo = windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized);
+    if (stato == 1)
+        nuovo |= Qt::WindowMinimized;
+    else if (stato == 2)
+        nuovo |= Qt::WindowMaximized;
+    QWidget::setWindowState(nuovo);
+}
+
+void Finestra::setPredefinito(Pulsante *pulsante)
+{
+    m_predefinito = pulsante;
+    pulsante->setDefault(true);
+}
+
+void Finestra::setKeyPreview()
+{
+    qApp->installEventFilter(this);
+}
+
+void Finestra::attiva()
+{
+    if (ultimaAttiva == this || !Visible())
+        return;
+    ultimaAttiva = this;
+    eseguiGestore([this] { Activate(); });
+}
+
+bool Finestra::event(QEvent *evento)
+{
+    const bool esito = QWidget::event(evento);
+    if (evento->type() == QEvent::WindowActivate)
+        attiva();
+    return esito;
+}
+
+bool Finestra::eventFilter(QObject *oggetto, QEvent *evento)
+{
+    if (evento->type() != QEvent::KeyPress && evento->type() != QEvent::KeyRelease)
+        return false;
+    // A key that nobody takes travels up through the parents: only its first stop counts.
+    const QWidget *primo = QApplication::focusWidget() ? QApplication::focusWidget() : this;
+    if (oggetto != primo || primo->window() != this)
+        return false;
+    const auto *tasto = static_cast<QKeyEvent *>(evento);
+    const int codice = Tasti::codice(*tasto);
+    const int maiuscole = numeroMaiuscole(tasto->modifiers());
+    if (evento->type() == QEvent::KeyPress)
+        eseguiGestore([&] { KeyDown(codice, maiuscole); });
+    else if (!tasto->isAutoRepeat())
+        eseguiGestore([&] { KeyUp(codice, maiuscole); });
+    return false;
+}
+
+void Finestra::closeEvent(QCloseEvent *evento)
+{
+    // Where the window goes is decided below, not by Qt.
+    evento->ignore();
+    eseguiGestore([this] { scarica(Chiusura::Utente); });
+}
+
+void Finestra::changeEvent(QEvent *evento)
+{
+    QWidget::changeEvent(evento);
+    if (evento->type() == QEvent::WindowStateChange && m_caricata)
+        eseguiGestore([this] { Resize(); });
+}
+
+void Finestra::resizeEvent(QResizeEvent *evento)
+{
+    QWidget::resizeEvent(evento);
+    if (m_caricata && Visible())
+        eseguiGestore([this] { Resize(); });
+}
+
+void Finestra::mouseMoveEvent(QMouseEvent *)
+{
+    eseguiGestore([this] { MouseMove(); });
+}
+
+void Finestra::keyPressEvent(QKeyEvent *evento)
+{
+    const int codice = Tasti::codice(*evento);
+    if (codice == Tasti::Invio) {
+        auto *conFuoco = qobject_cast<Pulsante *>(focusWidget());
+        if (Pulsante *pulsante = conFuoco ? conFuoco : m_predefinito)
+            pulsante->click();
+    } else if (codice == Tasti::Esc && m_annulla) {
+        m_annulla->click();
+    } else {
+        QWidget::keyPressEvent(evento);
+    }
+}

@@ -1,0 +1,168 @@
+#include "Grafica.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+QIcon ListaImmagini::immagine(int numero) const
+{
+    if (numero < 1 || numero > ListCount())
+        throw Errore(Errore::ProprietaNonValida);
+    return m_immagini[static_cast<size_t>(numero - 1)];
+}
+
+Etichetta::Etichetta(const QString &nome, QWidget *dentro, const QString &testo)
+    : Cliccabile(nome, dentro)
+{
+    setTextFormat(Qt::PlainText);
+    setText(testo);
+}
+
+void Etichetta::setCaption(const QString &testo)
+{
+    if (testo == text())
+        return;
+    setText(testo);
+    Change();
+}
+
+void Etichetta::setForeColor(const QColor &colore)
+{
+    QPalette tavolozza = palette();
+    tavolozza.setColor(QPalette::WindowText, colore);
+    setPalette(tavolozza);
+}
+
+Immagine::Immagine(const QString &nome, QWidget *dentro, const ListaImmagini *lista, int numero)
+    : Cliccabile(nome, dentro), m_lista(lista)
+{
+    if (numero != 0)
+        setPicture(numero);
+}
+
+Immagine::Immagine(const QString &nome, QWidget *dentro, const QIcon &disegno)
+    : Cliccabile(nome, dentro), m_disegno(disegno)
+{
+}
+
+void Immagine::setPicture(int numero)
+{
+    if (numero == 0) {
+        m_disegno = {};
+    } else {
+        if (!m_lista)
+            throw Errore(Errore::ProprietaNonValida);
+        m_disegno = m_lista->immagine(numero);
+    }
+    m_numero = numero;
+    update();
+}
+
+void Immagine::setDisegno(const QIcon &disegno)
+{
+    m_numero = 0;
+    m_disegno = disegno;
+    update();
+}
+
+void Immagine::setBorderStyle(int bordo)
+{
+    if (bordo != 0 && bordo != 1)
+        throw Errore(Errore::ProprietaNonValida);
+    if (bordo == m_bordo)
+        return;
+    m_bordo = bordo;
+    update();
+}
+
+void Immagine::paintEvent(QPaintEvent *)
+{
+    QPainter pittore(this);
+    pittore.setRenderHint(QPainter::SmoothPixmapTransform);
+    if (!m_disegno.isNull())
+        m_disegno.paint(&pittore, rect());
+    if (m_bordo == 1) {
+        pittore.setPen(palette().color(QPalette::WindowText));
+        pittore.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+Forma::Forma(const QString &nome, QWidget *dentro) : Controllo(nome, dentro)
+{
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void Forma::setColori(const QColor &fondo, const QColor &bordo, int raggio, int spessore)
+{
+    m_fondo = fondo;
+    m_bordo = bordo;
+    m_raggio = raggio;
+    m_spessore = spessore;
+    update();
+}
+
+void Forma::paintEvent(QPaintEvent *)
+{
+    QPainter pittore(this);
+    pittore.setRenderHint(QPainter::Antialiasing, m_raggio > 0);
+    pittore.setBrush(m_fondo);
+    pittore.setPen(m_spessore > 0 ? QPen(m_bordo, m_spessore) : QPen(Qt::NoPen));
+    const double mezzo = m_spessore / 2.0;
+    pittore.drawRoundedRect(QRectF(rect()).adjusted(mezzo, mezzo, -mezzo, -mezzo), m_raggio,
+                            m_raggio);
+}
+
+Superficie::Superficie(const QString &nome, QWidget *dentro, Scala scala) : Cliccabile(nome, dentro)
+{
+    if (scala == Scala::Pixel)
+        unitaPerPixel = 1;
+}
+
+void Superficie::setSfondo(const QIcon &disegno)
+{
+    m_sfondo = disegno;
+    update();
+}
+
+void Superficie::Riempi(const QRect &rettangolo, const QColor &colore)
+{
+    QPainter(&m_disegno).fillRect(rettangolo, colore);
+    update(rettangolo);
+}
+
+void Superficie::Stampa(const QString &testo)
+{
+    QPainter pittore(&m_disegno);
+    pittore.setPen(palette().color(QPalette::WindowText));
+    pittore.setFont(font());
+    pittore.drawText(QRect(QPoint(4, 4), size()), Qt::AlignLeft | Qt::AlignTop, testo);
+    update();
+}
+
+void Superficie::Pulisci()
+{
+    m_disegno.fill(Qt::transparent);
+    update();
+}
+
+void Superficie::resizeEvent(QResizeEvent *)
+{
+    // Grows only, so that what is drawn survives a window made smaller and larger again.
+    const QSize dovuta = size().expandedTo(m_disegno.size());
+    if (dovuta != m_disegno.size()) {
+        QImage nuovo(dovuta, QImage::Format_ARGB32_Premultiplied);
+        nuovo.fill(Qt::transparent);
+        if (!m_disegno.isNull())
+            QPainter(&nuovo).drawImage(0, 0, m_disegno);
+        m_disegno = nuovo;
+    }
+    Resize();
+}
+
+void Superficie::paintEvent(QPaintEvent *evento)
+{
+    QPainter pittore(this);
+    pittore.setRenderHint(QPainter::SmoothPixmapTransform);
+    if (!m_sfondo.isNull())
+        m_sfondo.paint(&pittore, rect());
+    pittore.drawImage(evento->rect(), m_disegno, evento->rect());
+}

@@ -1,0 +1,151 @@
+// What is looked at: labels, images, shapes, surfaces drawn by code.
+#pragma once
+
+#include "Controllo.h"
+
+#include <QIcon>
+#include <QImage>
+#include <QLabel>
+#include <vector>
+
+// Pictures by number, from 1; 0 is no picture.
+class ListaImmagini
+{
+public:
+    ListaImmagini() = default;
+    explicit ListaImmagini(std::vector<QIcon> immagini) : m_immagini(std::move(immagini)) {}
+
+    int ListCount() const { return static_cast<int>(m_immagini.size()); }
+    // Errore::ProprietaNonValida for a number that is not there.
+    QIcon immagine(int numero) const;
+
+private:
+    std::vector<QIcon> m_immagini;
+};
+
+// Adds a Click on the left button's release inside, after MouseUp.
+template <class Base>
+class Cliccabile : public Controllo<Base>
+{
+public:
+    using Controllo<Base>::Controllo;
+    Evento<> Click;
+
+protected:
+    void mousePressEvent(QMouseEvent *evento) override
+    {
+        m_premuto = evento->button() == Qt::LeftButton;
+        Controllo<Base>::mousePressEvent(evento);
+    }
+    void mouseReleaseEvent(QMouseEvent *evento) override
+    {
+        const bool click = m_premuto && evento->button() == Qt::LeftButton &&
+                           this->rect().contains(evento->position().toPoint());
+        if (evento->button() == Qt::LeftButton)
+            m_premuto = false;
+        Controllo<Base>::mouseReleaseEvent(evento);
+        if (click)
+            Click();
+    }
+
+private:
+    bool m_premuto = false;
+};
+
+class Etichetta : public Cliccabile<QLabel>
+{
+    Q_OBJECT
+    CONTROLLO
+    Q_PROPERTY(QString Caption READ Caption WRITE setCaption)
+
+public:
+    Etichetta(const QString &nome, QWidget *dentro, const QString &testo = {});
+
+    QString Caption() const { return text(); }
+    void setCaption(const QString &testo);
+    void setForeColor(const QColor &colore);
+
+    Evento<> Change;
+};
+
+// A picture, by number from a list or given as such, scaled to the control.
+class Immagine : public Cliccabile<QWidget>
+{
+    Q_OBJECT
+    CONTROLLO
+    Q_PROPERTY(int Picture READ Picture WRITE setPicture)
+    Q_PROPERTY(int BorderStyle READ BorderStyle WRITE setBorderStyle)
+
+public:
+    Immagine(const QString &nome, QWidget *dentro, const ListaImmagini *lista = nullptr,
+             int numero = 0);
+    Immagine(const QString &nome, QWidget *dentro, const QIcon &disegno);
+
+    int Picture() const { return m_numero; }
+    // The picture of that number in the list; Errore::ProprietaNonValida where there is none.
+    void setPicture(int numero);
+    void setDisegno(const QIcon &disegno);
+
+    // 0 no border, 1 a plain one.
+    int BorderStyle() const { return m_bordo; }
+    void setBorderStyle(int bordo);
+
+protected:
+    void paintEvent(QPaintEvent *) override;
+
+private:
+    const ListaImmagini *m_lista = nullptr;
+    QIcon m_disegno;
+    int m_numero = 0;
+    int m_bordo = 0;
+};
+
+// A rectangle for looks; the mouse goes through it.
+class Forma : public Controllo<QWidget>
+{
+    Q_OBJECT
+    CONTROLLO
+
+public:
+    Forma(const QString &nome, QWidget *dentro);
+    void setColori(const QColor &fondo, const QColor &bordo, int raggio = 0, int spessore = 1);
+
+protected:
+    void paintEvent(QPaintEvent *) override;
+
+private:
+    QColor m_fondo = Qt::transparent;
+    QColor m_bordo = Qt::black;
+    int m_raggio = 0;
+    int m_spessore = 1;
+};
+
+// A picture box: what code draws on it stays until it is cleared.
+class Superficie : public Cliccabile<QWidget>
+{
+    Q_OBJECT
+    CONTROLLO
+
+public:
+    enum class Scala { Unita, Pixel };
+    Superficie(const QString &nome, QWidget *dentro, Scala scala = Scala::Unita);
+
+    // Drawn beneath everything, scaled to the control.
+    void setSfondo(const QIcon &disegno);
+
+    // Coordinates in logical pixels.
+    void Riempi(const QRect &rettangolo, const QColor &colore);
+    void Stampa(const QString &testo);
+    void Pulisci();
+    const QImage &disegno() const { return m_disegno; }
+
+    Evento<> Resize;
+
+protected:
+    void paintEvent(QPaintEvent *) override;
+    void resizeEvent(QResizeEvent *) override;
+
+private:
+    QIcon m_sfondo;
+    QImage m_disegno;
+};

@@ -1,0 +1,105 @@
+#include "Pulsanti.h"
+
+#include <QPainter>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+Pulsante::Pulsante(const QString &nome, QWidget *dentro, const QString &testo)
+    : Controllo(nome, dentro)
+{
+    setText(testo);
+    connect(this, &QPushButton::clicked, this, [this] { Click(); });
+}
+
+CasellaSpunta::CasellaSpunta(const QString &nome, QWidget *dentro, const QString &testo)
+    : Controllo(nome, dentro)
+{
+    setText(testo);
+    connect(this, &QCheckBox::toggled, this, [this] { Click(); });
+}
+
+void CasellaSpunta::setValue(int valore)
+{
+    if (valore != 0 && valore != 1)
+        throw Errore(Errore::ProprietaNonValida);
+    setChecked(valore == 1);
+}
+
+void CasellaSpunta::setForeColor(const QColor &colore)
+{
+    QPalette tavolozza = palette();
+    tavolozza.setColor(QPalette::WindowText, colore);
+    setPalette(tavolozza);
+}
+
+CasellaOpzione::CasellaOpzione(const QString &nome, QWidget *dentro, const QString &testo)
+    : Controllo(nome, dentro)
+{
+    setText(testo);
+    connect(this, &QRadioButton::toggled, this, [this](bool scelta) {
+        if (scelta)
+            Click();
+    });
+}
+
+void CasellaOpzione::setBackColor(const QColor &colore)
+{
+    m_fondo = colore;
+    // The stated colours are light in every theme, so the text on them is dark in every theme.
+    QPalette tavolozza = palette();
+    tavolozza.setColor(QPalette::WindowText, Qt::black);
+    setPalette(tavolozza);
+    update();
+}
+
+void CasellaOpzione::paintEvent(QPaintEvent *evento)
+{
+    if (m_fondo.isValid()) {
+        QPainter pittore(this);
+        pittore.setRenderHint(QPainter::Antialiasing);
+        pittore.setPen(Qt::NoPen);
+        pittore.setBrush(m_fondo);
+        pittore.drawRoundedRect(rect(), 4, 4);
+    }
+    QRadioButton::paintEvent(evento);
+}
+
+SuGiu::SuGiu(const QString &nome, QWidget *dentro, int minimo, int massimo, int valore)
+    : Controllo(nome, dentro), m_minimo(minimo), m_massimo(massimo), m_valore(valore)
+{
+    auto *colonna = new QVBoxLayout(this);
+    colonna->setContentsMargins(0, 0, 0, 0);
+    colonna->setSpacing(0);
+    const auto freccia = [&](Qt::ArrowType verso, int di, const QString &cosa) {
+        auto *pulsante = new QToolButton(this);
+        pulsante->setObjectName(nome + cosa);
+        pulsante->setArrowType(verso);
+        pulsante->setAutoRepeat(true);
+        pulsante->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+        pulsante->setFocusPolicy(Qt::ClickFocus);
+        pulsante->setMinimumSize(0, 0);
+        connect(pulsante, &QToolButton::clicked, this, [this, di] { passo(di); });
+        colonna->addWidget(pulsante);
+    };
+    freccia(Qt::UpArrow, +1, u".Su"_s);
+    freccia(Qt::DownArrow, -1, u".Giu"_s);
+    setFixedWidth(20);
+}
+
+void SuGiu::setValue(int valore)
+{
+    if (valore < m_minimo || valore > m_massimo)
+        throw Errore(Errore::ProprietaNonValida);
+    if (valore == m_valore)
+        return;
+    m_valore = valore;
+    Change();
+}
+
+void SuGiu::passo(int di)
+{
+    if (m_valore + di >= m_minimo && m_valore + di <= m_massimo)
+        setValue(m_valore + di);
+}
