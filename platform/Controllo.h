@@ -43,16 +43,28 @@ public:
     // As set for this control, whether or not its window is on the screen.
     bool Visible() const { return !Base::isHidden(); }
 
-    // Layout units, relative to what the control lies in.
-    double Left() const { return Unita::unita(Base::x()); }
-    double Top() const { return Unita::unita(Base::y()); }
-    double Width() const { return Unita::unita(Base::width()); }
-    double Height() const { return Unita::unita(Base::height()); }
-    void setLeft(double unita) { Base::move(Unita::pixel(unita), Base::y()); }
-    void setTop(double unita) { Base::move(Base::x(), Unita::pixel(unita)); }
-    void setWidth(double unita) { Base::resize(Unita::pixel(unita), Base::height()); }
-    void setHeight(double unita) { Base::resize(Base::width(), Unita::pixel(unita)); }
-    void Move(double left, double top) { Base::move(Unita::pixel(left), Unita::pixel(top)); }
+    // Layout units, relative to what the control lies in. A value that code has set is read back as
+    // it was set, not as the pixels that it became.
+    double Left() const { return esatta(m_left, Base::x()); }
+    double Top() const { return esatta(m_top, Base::y()); }
+    double Width() const { return esatta(m_width, Base::width()); }
+    double Height() const { return esatta(m_height, Base::height()); }
+    void setLeft(double unita) { Move(unita, Top()); }
+    void setTop(double unita) { Move(Left(), unita); }
+    void setWidth(double unita) { Size(unita, Height()); }
+    void setHeight(double unita) { Size(Width(), unita); }
+    void Move(double left, double top)
+    {
+        m_left = left;
+        m_top = top;
+        Base::move(Unita::pixel(left), Unita::pixel(top));
+    }
+    void Size(double width, double height)
+    {
+        m_width = width;
+        m_height = height;
+        Base::resize(Unita::pixel(width), Unita::pixel(height));
+    }
 
     // Fails with Errore::ChiamataNonValida where the control cannot take the focus now.
     void SetFocus()
@@ -102,5 +114,14 @@ protected:
     }
 
 private:
+    static double esatta(double unita, int pixel)
+    {
+        return Unita::pixel(unita) == pixel ? unita : Unita::unita(pixel);
+    }
+
     QString m_tag;
+    double m_left = 0;
+    double m_top = 0;
+    double m_width = 0;
+    double m_height = 0;
 };

@@ -9,6 +9,8 @@ static QString descrizionePredefinita(int numero)
         return u"Chiamata di routine o argomento non validi"_s;
     case Errore::Overflow:
         return u"Numero troppo grande o troppo piccolo"_s;
+    case Errore::DivisionePerZero:
+        return u"Divisione per zero"_s;
     case Errore::TipoNonCorrispondente:
         return u"Tipo non corrispondente"_s;
     case Errore::FileNonAperto:

@@ -12,6 +12,7 @@ public:
     enum Numero {
         ChiamataNonValida = 5,
         Overflow = 6,
+        DivisionePerZero = 11,
         TipoNonCorrispondente = 13,
         FileNonAperto = 52,
         FileNonTrovato = 53,

@@ -1,0 +1,45 @@
+#include "Accumulatore.h"
+
+#include "Codifica.h"
+
+QByteArray Accumulatore::parte(qsizetype posto, qsizetype quanti) const
+{
+    return m_byte.mid(m_tagliati + posto - 1, quanti);
+}
+
+void Accumulatore::aggiungi(const QByteArray &byte)
+{
+    if (byte.isEmpty())
+        return;
+    m_byte += byte;
+    if (cresciuto)
+        cresciuto();
+}
+
+void Accumulatore::taglia(qsizetype quanti)
+{
+    m_tagliati += qMin(quanti, lunghezza());
+    // What was cut is given back once it outweighs what is left, so that each byte moves at most
+    // once on average.
+    if (m_tagliati >= m_byte.size() - m_tagliati) {
+        m_byte.remove(0, m_tagliati);
+        m_tagliati = 0;
+    }
+}
+
+void Accumulatore::svuota()
+{
+    m_byte.clear();
+    m_tagliati = 0;
+}
+
+QString TemporizzatoreIngresso::Tag() const
+{
+    return Codifica::daByte(accumulatore.tutto());
+}
+
+void TemporizzatoreIngresso::setTag(const QString &tag)
+{
+    accumulatore.svuota();
+    accumulatore.aggiungi(Codifica::inByte(tag));
+}

@@ -1,0 +1,48 @@
+// What the robot sent and nobody has cut into telegrams yet.
+#pragma once
+
+#include "Temporizzatore.h"
+
+#include <QByteArray>
+
+// Grows at its end and shrinks from its beginning, both in time that does not depend on what lies
+// between.
+class Accumulatore
+{
+public:
+    qsizetype lunghezza() const { return m_byte.size() - m_tagliati; }
+    bool vuoto() const { return lunghezza() == 0; }
+    // From 1, as the telegrams count their bytes.
+    quint8 byte(qsizetype posto) const
+    {
+        return static_cast<quint8>(m_byte.at(m_tagliati + posto - 1));
+    }
+    // Up to that many bytes from the given one on.
+    QByteArray parte(qsizetype posto, qsizetype quanti) const;
+    QByteArray tutto() const { return m_byte.sliced(m_tagliati); }
+
+    void aggiungi(const QByteArray &byte);
+    void taglia(qsizetype quanti);
+    void svuota();
+
+    // Called after bytes were added.
+    std::function<void()> cresciuto;
+
+private:
+    QByteArray m_byte;
+    qsizetype m_tagliati = 0;
+};
+
+// The receive timer, whose Tag text is the accumulator.
+class TemporizzatoreIngresso : public Temporizzatore
+{
+    Q_OBJECT
+
+public:
+    using Temporizzatore::Temporizzatore;
+
+    QString Tag() const override;
+    void setTag(const QString &tag) override;
+
+    Accumulatore accumulatore;
+};

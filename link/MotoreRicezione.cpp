@@ -1,0 +1,312 @@
+#include "MotoreRicezione.h"
+
+#include "Abilita_Disabilita.h"
+#include "Cartella.h"
+#include "ComandiTessaro.h"
+#include "DescriviBatteria.h"
+#include "Gest_File.h"
+#include "Gest_Variabili.h"
+#include "Pompa.h"
+#include "Se_Casi.h"
+
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum Tipo : quint8 {
+    RigaVideo = 13,
+    Temperatura = 31,
+    Batterie = 32,
+    Ultrasuoni = 33,
+    StatoMemoria = 42,
+    BloccoFile = 45,
+    BloccoElenco = 47,
+};
+
+constexpr qsizetype lunghezzaRiga = 161;
+constexpr quint8 temperaturaMassima = 50;
+
+} // namespace
+
+MotoreRicezione::MotoreRicezione(ControlloSeriale &com, TemporizzatoreIngresso &timer,
+                                 const ControlliTelemetria &controlli, const QString &cartella)
+    : COM(com),
+      tmrElabInput(timer),
+      m_accumulatore(timer.accumulatore),
+      c(controlli),
+      m_cartella(cartella)
+{
+    tmrElabInput.Timer.collega([this] { tmrElabInput_Timer(); });
+    COM.Arrivo.collega(this, &MotoreRicezione::riprendi);
+    m_accumulatore.cresciuto = [this] { riprendiPresto(); };
+}
+
+MotoreRicezione::~MotoreRicezione()
+{
+    m_accumulatore.cresciuto = nullptr;
+    COM.Arrivo.collega(std::function<void()>());
+    if (m_sospeso)
+        m_sospeso.destroy();
+}
+
+void MotoreRicezione::LeggiIngresso()
+{
+    passaErrori([&] { m_accumulatore.aggiungi(COM.Input()); });
+}
+
+Scatto MotoreRicezione::tmrElabInput_Timer()
+{
+    const Temporizzatore::ScattoAperto aperto(tmrElabInput);
+    do {
+        const quint8 tipo = co_await byte(1);
+        LeggiIngresso();
+        qsizetype consumati = 1;
+        switch (tipo) {
+        case RigaVideo:
+            if (m_accumulatore.lunghezza() < lunghezzaRiga)
+                co_return;
+            videoRiga();
+            consumati = lunghezzaRiga;
+            break;
+        case Temperatura: {
+            const quint8 t = co_await byte(2);
+            consumati = 2;
+            temperatura(t);
+            break;
+        }
+        case Batterie: {
+            const quint8 l = co_await byte(2);
+            const quint8 m = co_await byte(3);
+            consumati = 3;
+            batterie(l, m);
+            break;
+        }
+        case Ultrasuoni: {
+            c.shpUltrasuoniDx.setVisible(co_await byte(2) != 0);
+            c.shpUltrasuoniCe.setVisible(co_await byte(3) != 0);
+            c.shpUltrasuoniSx.setVisible(co_await byte(4) != 0);
+            consumati = 4;
+            riferisciUltrasuoni();
+            break;
+        }
+        case StatoMemoria: {
+            const quint8 k = co_await byte(2);
+            consumati = 3;
+            if (m_file && m_file->visibile()) {
+                const quint8 x = co_await byte(3);
+                statoMemoria(k, x);
+            }
+            break;
+        }
+        case BloccoFile: {
+            const quint8 k = co_await byte(2);
+            const quint8 basso = co_await byte(3);
+            const quint8 alto = co_await byte(4);
+            const qsizetype n = basso + 256 * alto;
+            if (m_file)
+                m_file->ImmagineAttesa(true);
+            // One byte beyond the body is awaited.
+            if (m_accumulatore.lunghezza() - 5 <= n)
+                co_return;
+            salvaFile(k, n);
+            consumati = n + 5;
+            break;
+        }
+        case BloccoElenco: {
+            const quint8 k = co_await byte(2);
+            const qsizetype n = co_await byte(4);
+            // One byte looser than what is consumed.
+            if (m_accumulatore.lunghezza() - 4 < n)
+                co_return;
+            if (m_file && m_file->visibile()) {
+                const quint8 x = co_await byte(3);
+                m_file->VisualizzaElenco(k, x, m_accumulatore.parte(5, n));
+            }
+            consumati = n + 5;
+            break;
+        }
+        default:
+            break;
+        }
+        if (tipo != RigaVideo)
+            c.BarraStato.setPanels(2, u'<' + QString::number(tipo) + u'>');
+        m_accumulatore.taglia(consumati);
+    } while (!m_accumulatore.vuoto());
+}
+
+void MotoreRicezione::videoRiga()
+{
+    if (!m_video || !m_video->cameraAperta())
+        return;
+    m_video->CalcolaRiga(m_accumulatore.parte(2, lunghezzaRiga));
+    LeggiIngresso();
+    pompa();
+}
+
+void MotoreRicezione::temperatura(quint8 t)
+{
+    if (t > temperaturaMassima)
+        c.BarraStato.setPanels(2, u"<?>"_s);
+    else
+        c.lblTemperatura.setCaption(QString::number(t) + u'°');
+    riferisci(u"Temperatura:"_s + QString::number(t));
+}
+
+void MotoreRicezione::batterie(quint8 l, quint8 m)
+{
+    c.imgLivBattLogica.setWidth(Proporzione(l, 255, barraPiena));
+    c.imgLivBattMotori.setWidth(Proporzione(m, 255, barraPiena));
+    c.imgBattLogica.setToolTip(QString::number(l) + u"/255 "_s + DescriviBatteria(l));
+    c.imgBattMotori.setToolTip(QString::number(m) + u"/255 "_s + DescriviBatteria(m));
+    riferisci(u"Batterie:"_s + QString::number(LivelloBatteria(l)) +
+              QString::number(LivelloBatteria(m)));
+}
+
+void MotoreRicezione::riferisciUltrasuoni()
+{
+    const auto cifra = [](const Forma &forma) { return forma.Visible() ? u'1' : u'0'; };
+    riferisci(u"Ultrasuoni:"_s + cifra(c.shpUltrasuoniDx) + cifra(c.shpUltrasuoniCe) +
+              cifra(c.shpUltrasuoniSx));
+}
+
+void MotoreRicezione::riferisci(const QString &testo)
+{
+    if (m_telemetria && m_telemetria->avviato())
+        m_telemetria->VerificaCondizioni(testo);
+}
+
+void MotoreRicezione::statoMemoria(quint8 k, quint8 x)
+{
+    using enum AscoltatoreFile::Attesa;
+    switch (x) {
+    case 0:
+        if (m_file->attesa() == Elenco) {
+            ComandiTessaro::LeggiElenco(COM, k);
+            c.BarraStato.setPanels(3, {});
+        }
+        if (m_file->attesa() == File)
+            ComandiTessaro::LeggiBlocco(COM, k, 255, 255);
+        break;
+    case 4:
+        break;
+    case 255:
+        if (m_file->attesa() == Elenco) {
+            m_file->finisciAttesa();
+            m_file->ImmagineAttesa(false);
+            ComandiTessaro::ChiudiCanale(COM, k);
+        }
+        break;
+    default:
+        c.BarraStato.setPanels(3, u"Errore nella lettura dei file!"_s);
+        for (quint8 canale = 1; canale <= 9; ++canale)
+            ComandiTessaro::ChiudiCanale(COM, canale);
+    }
+}
+
+void MotoreRicezione::salvaFile(quint8 k, qsizetype n)
+{
+    if (!m_file)
+        return;
+    const QString nome = m_file->nomeFile();
+    const QString percorso = conSeparatore(m_cartella) + nome;
+    // A name that leads out of the folder is refused before anything is written; a file that
+    // cannot be written is told the same way.
+    const bool scritto =
+        nomeSicuro(nome) && passaErrori([&] { ScriviFile(percorso, m_accumulatore.parte(5, n)); });
+    if (!scritto) {
+        c.BarraStato.setPanels(3, u"Errore nella lettura dei file!"_s);
+    } else {
+        c.BarraStato.setPanels(3, u"File scaricato correttamente!"_s);
+        if (nome.endsWith(u".jpg"_s)) {
+            try {
+                m_file->caricaFoto(percorso);
+            } catch (const Errore &errore) {
+                if (!ContieneValore(errore.numero(), int{Errore::PercorsoNonTrovato},
+                                    int{Errore::ImmagineNonValida}))
+                    throw;
+                pompa();
+                c.BarraStato.setPanels(3, u"Errore nella rappresentazione dell'immagine!"_s);
+                m_file->togliFoto();
+            }
+            m_file->intitolaFoto(nome);
+        }
+    }
+    m_file->finisciAttesa();
+    m_file->riabilita();
+    m_file->ImmagineAttesa(false);
+    ComandiTessaro::ChiudiCanale(COM, k);
+}
+
+bool MotoreRicezione::Byte::await_ready()
+{
+    if (motore.m_accumulatore.lunghezza() < posto)
+        motore.LeggiIngresso();
+    return motore.m_accumulatore.lunghezza() >= posto;
+}
+
+void MotoreRicezione::Byte::await_suspend(std::coroutine_handle<> sospeso)
+{
+    motore.m_sospeso = sospeso;
+    motore.m_postoAtteso = posto;
+    motore.aggiornaAvviso();
+}
+
+void MotoreRicezione::riprendi()
+{
+    if (!m_sospeso || m_fermi > 0)
+        return;
+    const std::coroutine_handle<> sospeso = std::exchange(m_sospeso, nullptr);
+    if (m_accumulatore.lunghezza() < m_postoAtteso)
+        LeggiIngresso();
+    if (m_accumulatore.lunghezza() < m_postoAtteso) {
+        m_sospeso = sospeso;
+        return;
+    }
+    aggiornaAvviso();
+    sospeso.resume();
+}
+
+void MotoreRicezione::riprendiPresto()
+{
+    // Not from inside the statement that made the accumulator grow.
+    if (!m_sospeso || m_ripresaChiesta)
+        return;
+    m_ripresaChiesta = true;
+    QTimer::singleShot(0, this, [this] {
+        m_ripresaChiesta = false;
+        eseguiGestore([this] { riprendi(); });
+    });
+}
+
+void MotoreRicezione::aggiornaAvviso()
+{
+    COM.avvisa(m_sospeso && m_fermi == 0);
+}
+
+MotoreRicezione::Fermo::Fermo(MotoreRicezione &motore) : m_motore(motore)
+{
+    ++m_motore.m_fermi;
+    m_motore.aggiornaAvviso();
+}
+
+MotoreRicezione::Fermo::~Fermo()
+{
+    --m_motore.m_fermi;
+    m_motore.aggiornaAvviso();
+    m_motore.riprendiPresto();
+}
+
+bool nomeSicuro(const QString &nome)
+{
+    static constexpr QStringView vietati = u"/\\:*?\"<>|";
+    if (nome.isEmpty() || nome == u"."_s || nome == u".."_s || nome.endsWith(u' ') ||
+        nome.endsWith(u'.'))
+        return false;
+    for (const QChar c : nome) {
+        if (c < u' ' || c == QChar(0x7F) || vietati.contains(c))
+            return false;
+    }
+    return true;
+}

@@ -1,0 +1,260 @@
+#include "Sessione.h"
+
+#include "Abilita_Disabilita.h"
+#include "Archivio.h"
+#include "Codifica.h"
+#include "Messaggi.h"
+#include "Numeri.h"
+#include "Pompa.h"
+#include "VisErrori.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum ImmaginePulsante { Connetti = 1, Disconnetti = 6 };
+
+// Rounds of the keep-alive before the search is shown, and before it is given up.
+constexpr int giriRicerca = 5000;
+constexpr int giriMassimi = 100000;
+
+constexpr int intervalloIniziale = 1000;
+constexpr int intervalloSeguente = 5000;
+
+} // namespace
+
+Sessione::Sessione(ControlloSeriale &com, const ControlliSessione &controlli,
+                   const ControlliTelemetria &telemetria, MotoreRicezione &motore,
+                   frmSchermataIniziale &splash, frmImpostaPorta &impostaPorta,
+                   FinestreSessione &finestre)
+    : COM(com),
+      c(controlli),
+      t(telemetria),
+      m_motore(motore),
+      m_splash(splash),
+      m_impostaPorta(impostaPorta),
+      m_finestre(finestre)
+{
+    c.tmrChiusuraAutomatica.Timer.collega(this, &Sessione::tmrChiusuraAutomatica_Timer);
+    c.tmrControllaConn.Timer.collega(this, &Sessione::tmrControllaConn_Timer);
+    c.tmrSensori.Timer.collega(this, &Sessione::tmrSensori_Timer);
+}
+
+void Sessione::Collega()
+{
+    const MotoreRicezione::Fermo fermo(m_motore);
+    PulsanteBarra &pulsante = c.BarraPulsanti.Buttons(1);
+    if (m_splash.Visible())
+        m_splash.lblColl.setCaption(u"Apertura della porta di comunicazione..."_s);
+    pulsante.setEnabled(false);
+    c.BarraStato.setPanels(3, u"Apertura porta..."_s);
+    pompa();
+    if (!COM.PortOpen()) {
+        passaErrori([&] { ApriPortaSalvata(); });
+        pompa();
+    }
+    ComandiTessaro::ApriSessione(COM);
+    pompa();
+    c.BarraStato.setPanels(3, u"Attendere prego..."_s);
+    if (m_splash.Visible()) {
+        m_splash.lblColl.setCaption(u"Attendere il collegamento..."_s);
+        m_splash.tmrAnimazione.setEnabled(true);
+    }
+    c.tmrChiusuraAutomatica.setTag(Numeri::TestoLogico(false));
+    c.tmrChiusuraAutomatica.setEnabled(true);
+    pompa();
+    if (aspettaRobot())
+        connesso();
+    else
+        nonRiuscito();
+}
+
+bool Sessione::aspettaRobot()
+{
+    while (true) {
+        pompa();
+        const bool scaduta = Numeri::Logico(c.tmrChiusuraAutomatica.Tag());
+        if (scaduta)
+            messaggio(u"Collegamento non riuscito!"_s);
+        if (Numeri::Logico(m_splash.pulNonCollegare.Tag()) || scaduta)
+            return false;
+        // Where the count cannot be read, as the port is not open, the wait ends as if the bytes
+        // had come: the keep-alive undoes it.
+        if (provaPassata([&] { return COM.InBufferCount() >= 2; }))
+            return true;
+    }
+}
+
+void Sessione::connesso()
+{
+    PulsanteBarra &pulsante = c.BarraPulsanti.Buttons(1);
+    c.tmrChiusuraAutomatica.setEnabled(false);
+    pulsante.setEnabled(true);
+    pulsante.setImage(Disconnetti);
+    pulsante.setToolTipText(u"Disconnetti"_s);
+    ImpostaAbilitati(true, c.tmrControllaConn, c.tmrElabInput, c.tmrSensori);
+    ComandiTessaro::RichiediStatoA(COM);
+    ComandiTessaro::RichiediStatoB(COM);
+    m_motore.LeggiIngresso();
+    ImpostaVisibili(true, t.imgLivBattLogica, t.imgLivBattMotori);
+    c.BarraStato.setPanels(1, u"Connesso"_s);
+    c.BarraStato.setPanels(3, {});
+    m_finestre.RidaiFuoco();
+}
+
+void Sessione::nonRiuscito()
+{
+    m_splash.pulNonCollegare.setTag(Numeri::TestoLogico(false));
+    c.tmrChiusuraAutomatica.setTag(Numeri::TestoLogico(false));
+    c.tmrChiusuraAutomatica.setEnabled(false);
+    c.BarraPulsanti.Buttons(1).setEnabled(true);
+    if (m_splash.Visible()) {
+        m_splash.lblColl.setCaption(u"Chiusura della porta di comunicazione..."_s);
+        pompa();
+    }
+    COM.setPortOpen(false);
+    c.BarraStato.setPanels(1, u"Non connesso"_s);
+    c.BarraStato.setPanels(3, {});
+}
+
+void Sessione::ApriPortaSalvata()
+{
+    try {
+        Archivio::apri(1, u"Porta COM"_s, Archivio::Modo::Lettura);
+        const quint8 numero = Numeri::Byte(Archivio::leggiNumero(1));
+        Archivio::chiudi();
+        COM.setCommPort(numero);
+        pompa();
+        if (!COM.PortOpen())
+            COM.setPortOpen(true);
+    } catch (const Errore &errore) {
+        Archivio::abbandona();
+        if (errore.numero() != Errore::FileNonTrovato) {
+            MostraErrore(errore.descrizione() + u" ("_s + QString::number(errore.numero()) + u')',
+                         u"Collegamento"_s);
+            return;
+        }
+        ChiediPorta();
+        COM.setCommPort(Numeri::Intero(m_impostaPorta.txtPorta.Text()));
+        if (!COM.PortOpen())
+            COM.setPortOpen(true);
+    }
+}
+
+void Sessione::ChiediPorta()
+{
+    m_impostaPorta.MostraModale();
+    Archivio::apri(1, u"Porta COM"_s, Archivio::Modo::Scrittura);
+    Archivio::stampa(1, Codifica::inByte(m_impostaPorta.txtPorta.Text()) + "\r\n");
+    Archivio::chiudi();
+}
+
+void Sessione::Scollega()
+{
+    m_finestre.scaricaCamera();
+    m_finestre.scaricaEsploraFile();
+    if (m_finestre.vigilioAvviato())
+        m_finestre.stoppaVigilio();
+    ImpostaAbilitati(false, c.tmrControllaConn, c.tmrElabInput, c.tmrSensori);
+    ComandiTessaro::ChiudiSessione(COM);
+    COM.setPortOpen(false);
+    c.BarraStato.setPanels(1, u"Non connesso"_s);
+    c.BarraStato.setPanels(2, u"<>"_s);
+    c.BarraStato.setPanels(3, u"Disconnesso"_s);
+    ImpostaVisibili(false, t.imgLivBattLogica, t.imgLivBattMotori, t.shpUltrasuoniDx,
+                    t.shpUltrasuoniCe, t.shpUltrasuoniSx);
+    t.imgBattLogica.setToolTip({});
+    t.imgBattMotori.setToolTip({});
+    t.lblTemperatura.setCaption({});
+    PulsanteBarra &pulsante = c.BarraPulsanti.Buttons(1);
+    pulsante.setImage(Connetti);
+    pulsante.setToolTipText(u"Connetti ad Tessaro"_s);
+}
+
+void Sessione::MostraInvio(const QString &testo)
+{
+    if (!COM.PortOpen())
+        return;
+    const MotoreRicezione::Fermo fermo(m_motore);
+    BarraDiCaricamento &barra = c.BarraCaricamento;
+    barra.setValore(1);
+    while (true) {
+        // A wait inside this one may have left the bar at its end.
+        passaErrori([&] { barra.setValore(barra.Value() + 1); });
+        pompa();
+        if (barra.Value() >= barra.Max()) {
+            c.BarraStato.setPanels(3, u"Nessuna risposta."_s);
+            return;
+        }
+        // The user may have disconnected meanwhile.
+        if (!COM.PortOpen())
+            return;
+        const auto conteggio = static_cast<qint16>(COM.InBufferCount());
+        if (conteggio != UltimoConteggio) {
+            barra.setValore(1);
+            UltimoConteggio = conteggio;
+            c.BarraStato.setPanels(3, testo);
+            return;
+        }
+    }
+}
+
+void Sessione::mostraMessaggio(const QString &testo)
+{
+    c.BarraStato.setPanels(3, testo);
+}
+
+void Sessione::tmrChiusuraAutomatica_Timer()
+{
+    pompa();
+    Temporizzatore &timer = c.tmrChiusuraAutomatica;
+    if (timer.Interval() == intervalloIniziale) {
+        timer.setInterval(intervalloSeguente);
+    } else if (m_sollecitato) {
+        timer.setTag(Numeri::TestoLogico(true));
+        timer.setEnabled(false);
+        m_sollecitato = false;
+    } else {
+        passaErrori([&] { COM.Output(QByteArray(1, '\1')); });
+        m_sollecitato = true;
+    }
+}
+
+void Sessione::tmrControllaConn_Timer()
+{
+    const MotoreRicezione::Fermo fermo(m_motore);
+    ComandiTessaro::RichiediStatoA(COM);
+    ComandiTessaro::RichiediStatoB(COM);
+    QByteArray risposta;
+    for (int giri = 1; risposta.isEmpty() && giri <= giriMassimi; ++giri) {
+        pompa();
+        // The user may have disconnected meanwhile: there is nothing left to search for.
+        if (!c.tmrControllaConn.Enabled())
+            return;
+        if (giri > giriRicerca) {
+            c.BarraStato.setPanels(1, u"Ricerca..."_s);
+            passaErrori([&] { c.BarraCaricamento.setValore(giri); });
+            pompa();
+        }
+        passaErrori([&] { risposta = COM.Input(); });
+    }
+    if (!risposta.isEmpty()) {
+        c.tmrElabInput.accumulatore.aggiungi(risposta);
+        m_mancato = false;
+        c.BarraCaricamento.setValore(1);
+        c.BarraStato.setPanels(1, u"Connesso"_s);
+    } else if (!m_mancato) {
+        m_mancato = true;
+    } else {
+        c.BarraStato.setPanels(3, u"Robot non trovato, chiusura della connessione in corso..."_s);
+        pompa();
+        m_finestre.BarraPulsanti_ButtonClick(c.BarraPulsanti.Buttons(1));
+        m_mancato = false;
+        c.BarraCaricamento.setValore(1);
+    }
+}
+
+void Sessione::tmrSensori_Timer()
+{
+    ComandiTessaro::RichiediSensori(COM);
+}

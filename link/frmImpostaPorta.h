@@ -1,0 +1,27 @@
+// Asks for the number of the serial port.
+#pragma once
+
+#include "Finestra.h"
+#include "Grafica.h"
+#include "NumeroPorta.h"
+
+class frmImpostaPorta : public Finestra
+{
+    Q_OBJECT
+
+public:
+    frmImpostaPorta();
+
+    Etichetta Label1;
+    CasellaTesto txtPorta;
+    ::SuGiu SuGiu;
+    Pulsante pulOK;
+
+protected:
+    void Disegno() override;
+
+private:
+    void pulOK_Click();
+
+    NumeroPorta m_numeroPorta;
+};

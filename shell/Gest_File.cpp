@@ -1,0 +1,27 @@
+#include "Gest_File.h"
+
+#include "Archivio.h"
+#include "Errore.h"
+
+QByteArray LeggiFile(const QString &nome, quint8 modo)
+{
+    if (modo > 1)
+        return {};
+    Archivio::apri(1, nome, Archivio::Modo::Lettura);
+    const QByteArray contenuto = Archivio::leggi(1, Archivio::lunghezza(1));
+    Archivio::chiudi();
+    return contenuto;
+}
+
+void ScriviFile(const QString &nome, const QByteArray &valore)
+{
+    Archivio::apri(1, nome, Archivio::Modo::Scrittura);
+    try {
+        Archivio::stampa(1, valore);
+    } catch (const Errore &) {
+        // Half a file must not take the place of a whole one.
+        Archivio::abbandona();
+        throw;
+    }
+    Archivio::chiudi();
+}

@@ -1,0 +1,24 @@
+#include "VisErrori.h"
+
+#include "Errore.h"
+#include "Messaggi.h"
+
+#include <QApplication>
+#include <QWidget>
+
+using namespace Qt::StringLiterals;
+
+QString titoloFinestraAttiva()
+{
+    const QWidget *attiva = QApplication::activeWindow();
+    return attiva ? attiva->windowTitle() : QString();
+}
+
+void MostraErrore(const QString &messaggioErrore, const QString &titolo)
+{
+    passaErrori([&] {
+        messaggio(messaggioErrore, Icona::Stop, Pulsanti::OK,
+                  titolo.isEmpty() ? titoloFinestraAttiva() + u" - Errore"_s
+                                   : u"Errore - "_s + titolo);
+    });
+}

@@ -1,0 +1,126 @@
+#include "frmOpzioni.h"
+
+#include "Archivio.h"
+#include "Codifica.h"
+#include "Gest_File.h"
+#include "Numeri.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+frmOpzioni::frmOpzioni()
+    : Finestra(u"frmOpzioni"_s, u"Opzioni"_s),
+      opzCollegaAut(u"opzCollegaAut"_s, this, u"Collega automaticamente ad Tessaro all'avvio"_s),
+      Frame1(u"Porta COM"_s, this),
+      lblSpiegazioneCOM(u"lblSpiegazioneCOM"_s, &Frame1,
+                        u"Il numero di porta utilizzato per connettersi"_s),
+      lblAttenzionePorta(u"lblAttenzionePorta"_s, &Frame1,
+                         u"Attenzione: non è stato impostato il numero di porta COM. Senza di esso "
+                         "non è possibile collegarsi al ROBOT!"_s),
+      txtPorta(u"txtPorta"_s, &Frame1),
+      SuGiu(u"SuGiu"_s, &Frame1, NumeroPorta::Minimo, NumeroPorta::Massimo, NumeroPorta::Minimo),
+      pulOK(u"pulOK"_s, this, u"OK"_s),
+      pulAnnulla(u"pulAnnulla"_s, this, u"Annulla"_s),
+      m_numeroPorta(*this, txtPorta, SuGiu)
+{
+    disponi();
+    Disegno();
+    pulOK.Click.collega(this, &frmOpzioni::pulOK_Click);
+    pulAnnulla.Click.collega(this, &frmOpzioni::pulAnnulla_Click);
+}
+
+void frmOpzioni::disponi()
+{
+    Frame1.setObjectName(u"Frame1"_s);
+    txtPorta.setAccessibleName(u"Numero della porta COM"_s);
+    txtPorta.setFixedWidth(48);
+    txtPorta.setAlignment(Qt::AlignRight);
+    lblAttenzionePorta.setWordWrap(true);
+    lblSpiegazioneCOM.setWordWrap(true);
+    lblAttenzionePorta.setForeColor(QColor(0xB0, 0x1C, 0x1C));
+    setPredefinito(&pulOK);
+    setAnnulla(&pulAnnulla);
+
+    auto *porta = new QGridLayout(&Frame1);
+    porta->setHorizontalSpacing(0);
+    porta->addWidget(&txtPorta, 0, 0);
+    porta->addWidget(&SuGiu, 0, 1);
+    porta->setColumnMinimumWidth(2, 12);
+    porta->addWidget(&lblSpiegazioneCOM, 0, 3);
+    porta->addWidget(&lblAttenzionePorta, 0, 3);
+    porta->setColumnStretch(3, 1);
+    SuGiu.setFixedHeight(txtPorta.sizeHint().height());
+
+    auto *pulsanti = new QHBoxLayout;
+    pulsanti->addStretch();
+    pulsanti->addWidget(&pulOK);
+    pulsanti->addWidget(&pulAnnulla);
+
+    auto *colonna = new QVBoxLayout(this);
+    colonna->setContentsMargins(14, 14, 14, 14);
+    colonna->setSpacing(12);
+    colonna->addWidget(&opzCollegaAut);
+    colonna->addWidget(&Frame1);
+    colonna->addStretch();
+    colonna->addLayout(pulsanti);
+    resize(420, 210);
+}
+
+void frmOpzioni::Disegno()
+{
+    setTag({});
+    // Ticked, as a missing file means connecting.
+    opzCollegaAut.setValue(1);
+    txtPorta.setText(u"1"_s);
+    SuGiu.setValue(1);
+    lblSpiegazioneCOM.show();
+    lblAttenzionePorta.hide();
+}
+
+void frmOpzioni::Activate()
+{
+    QByteArray testo;
+    try {
+        Archivio::apri(1, u"Porta COM"_s, Archivio::Modo::Lettura);
+        testo = Archivio::leggiCampo(1);
+        txtPorta.setText(Codifica::daByte(testo));
+        Archivio::chiudi();
+        SuGiu.setValue(Numeri::Intero(txtPorta.Text()));
+    } catch (const Errore &) {
+        Archivio::chiudi();
+        if (!testo.isEmpty())
+            return;
+        lblAttenzionePorta.show();
+        lblSpiegazioneCOM.hide();
+    }
+    passaErrori([&] {
+        Archivio::apri(1, u"Prog.dat"_s, Archivio::Modo::Lettura);
+        opzCollegaAut.setValue(Numeri::Byte(Archivio::leggiNumero(1)));
+    });
+    Archivio::chiudi();
+}
+
+void frmOpzioni::pulOK_Click()
+{
+    passaErrori([&] {
+        Archivio::apri(1, u"Porta COM"_s, Archivio::Modo::Scrittura);
+        Archivio::stampa(1, Codifica::inByte(txtPorta.Text()) + "\r\n");
+        Archivio::chiudi();
+    });
+    QByteArray testo;
+    passaErrori([&] { testo = LeggiFile(u"prog.dat"_s, 0); });
+    // Nothing found is -1, and what stands behind it is the whole text.
+    testo = testo.sliced(testo.indexOf(';') + 1);
+    passaErrori([&] {
+        ScriviFile(u"prog.dat"_s, QByteArray::number(opzCollegaAut.Value()) + ';' + testo);
+    });
+    Scarica();
+}
+
+void frmOpzioni::pulAnnulla_Click()
+{
+    Scarica();
+}

@@ -1,0 +1,36 @@
+// The program's two settings: the port number, and whether to connect at the start.
+#pragma once
+
+#include "Finestra.h"
+#include "Grafica.h"
+#include "NumeroPorta.h"
+
+#include <QGroupBox>
+
+class frmOpzioni : public Finestra
+{
+    Q_OBJECT
+
+public:
+    frmOpzioni();
+
+    CasellaSpunta opzCollegaAut;
+    QGroupBox Frame1;
+    Etichetta lblSpiegazioneCOM;
+    Etichetta lblAttenzionePorta;
+    CasellaTesto txtPorta;
+    ::SuGiu SuGiu;
+    Pulsante pulOK;
+    Pulsante pulAnnulla;
+
+protected:
+    void Disegno() override;
+    void Activate() override;
+
+private:
+    void disponi();
+    void pulOK_Click();
+    void pulAnnulla_Click();
+
+    NumeroPorta m_numeroPorta;
+};

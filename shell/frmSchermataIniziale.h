@@ -1,0 +1,38 @@
+// The splash: what the user sees while the program starts and connects.
+#pragma once
+
+#include "Finestra.h"
+#include "Grafica.h"
+#include "Temporizzatore.h"
+
+class frmSchermataIniziale : public Finestra
+{
+    Q_OBJECT
+
+public:
+    frmSchermataIniziale();
+
+    ListaImmagini lstImg;
+    Forma Frame1;
+    Immagine imgLogo;
+    Etichetta lblProductName;
+    Etichetta Label1;
+    Etichetta lblCompanyProduct;
+    Etichetta lblVersion;
+    Etichetta lblColl;
+    Immagine imgAttesa;
+    // Its Tag outlives the window: every connection attempt reads it.
+    Pulsante pulNonCollegare;
+    Temporizzatore tmrAnimazione;
+
+protected:
+    void Disegno() override;
+    void Load() override;
+
+private:
+    void disponi();
+    void pulNonCollegare_Click();
+    void tmrAnimazione_Timer();
+
+    quint8 m_fotogramma = 0;
+};
