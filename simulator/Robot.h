@@ -81,5 +81,4 @@ private:
     bool dallaStanza_ = false;
     bool risponde_ = true;
     bool attendeSollecito_ = false;
-    int msProgramma_ = 0;
 };
