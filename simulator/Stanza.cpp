@@ -73,7 +73,8 @@ QPointF Stanza::avanza(const QPointF &da, const QPointF &a, bool &urtato)
         const double minima = c.raggio + raggioRobot;
         if (!c.leggera || d >= minima || d < 1e-6)
             continue;
-        const QPointF spinta = a + verso * (minima / d);
+        // A hair more than touching, so that rounding does not make it an obstacle.
+        const QPointF spinta = a + verso * ((minima + 0.01) / d);
         if (libero(spinta, c.raggio, i))
             c.centro = spinta;
     }
