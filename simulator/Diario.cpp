@@ -1,0 +1,88 @@
+#include "Diario.h"
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+QString numeri(const QByteArray &byte)
+{
+    // A path or a garbled stretch can be long: the line stays readable, the entry keeps all.
+    constexpr qsizetype mostrati = 12;
+    QStringList parti;
+    for (const char c : byte.left(mostrati))
+        parti << QString::number(static_cast<quint8>(c));
+    if (byte.size() > mostrati)
+        parti << u"…(%1)"_s.arg(byte.size());
+    return parti.join(u' ');
+}
+
+bool eRichiesta(const QString &testo)
+{
+    return testo == u"RichiediSensori" || testo == u"RichiediStatoA" || testo == u"RichiediStatoB";
+}
+} // namespace
+
+QString Voce::riga() const
+{
+    QString riga = u"%1  %2  %3"_s.arg(ms, 9).arg(numeri(byte), -16).arg(testo);
+    if (!nota.isEmpty())
+        riga += u"  [%1]"_s.arg(nota);
+    return riga;
+}
+
+Diario::Diario(QObject *parent) : QObject(parent)
+{
+    orologio_.start();
+}
+
+QStringList Diario::righe() const
+{
+    QStringList righe;
+    righe.reserve(voci_.size());
+    for (const Voce &voce : voci_)
+        righe << voce.riga();
+    return righe;
+}
+
+QStringList Diario::comandi(bool conRichieste) const
+{
+    QStringList testi;
+    for (const Voce &voce : voci_) {
+        if (voce.tipo == Voce::Tipo::Comando && (conRichieste || !eRichiesta(voce.testo)))
+            testi << voce.testo;
+    }
+    return testi;
+}
+
+int Diario::conta(const QString &testo) const
+{
+    return static_cast<int>(std::count_if(voci_.cbegin(), voci_.cend(),
+                                          [&](const Voce &voce) { return voce.testo == testo; }));
+}
+
+QByteArray Diario::nonCapiti() const
+{
+    QByteArray byte;
+    for (const Voce &voce : voci_) {
+        if (voce.tipo == Voce::Tipo::NonCapito)
+            byte += voce.byte;
+    }
+    return byte;
+}
+
+void Diario::aggiungi(Voce::Tipo tipo, const QString &testo, const QByteArray &byte,
+                      const QString &nota)
+{
+    if (voci_.size() >= massimo)
+        voci_.remove(0, massimo / 10);
+    voci_.append({tipo, orologio_.elapsed(), testo, byte, nota});
+    // A copy: whoever listens may empty the diary.
+    const Voce voce = voci_.constLast();
+    Q_EMIT aggiunta(voce);
+}
+
+void Diario::svuota()
+{
+    voci_.clear();
+    Q_EMIT svuotato();
+}

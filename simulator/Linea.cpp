@@ -1,0 +1,13 @@
+#include "Linea.h"
+#ifdef Q_OS_UNIX
+#include "LineaPty.h"
+#endif
+
+std::unique_ptr<Linea> creaLinea()
+{
+#ifdef Q_OS_UNIX
+    return std::make_unique<LineaPty>();
+#else
+    return nullptr;
+#endif
+}

@@ -1,0 +1,84 @@
+#pragma once
+#include "Guasti.h"
+#include "Riconoscitore.h"
+#include "StatoRobot.h"
+#include <QObject>
+#include <memory>
+
+class Diario;
+class Memoria;
+class Stanza;
+class Telecamera;
+
+/// The robot itself: takes the console's bytes, keeps its state, gives telegrams. It owns no line
+/// and no clock: bytes and time are handed to it.
+class Robot : public QObject
+{
+    Q_OBJECT
+public:
+    /// `diario` must outlive the robot.
+    explicit Robot(Diario &diario, QObject *parent = nullptr);
+    ~Robot() override;
+
+    /// Bytes from the console, cut anywhere.
+    void ricevi(const QByteArray &byte);
+    /// Lets this many milliseconds of the robot's time go by.
+    void avanza(int ms);
+
+    const StatoRobot &stato() const { return stato_; }
+    Guasti &guasti() { return guasti_; }
+    Stanza &stanza() { return *stanza_; }
+    Memoria &memoria() { return *memoria_; }
+    Telecamera &telecamera() { return *telecamera_; }
+
+    /// What the sensors measure. Each sends its telegram at once while a session is open, unless
+    /// `impostaInvioImmediato(false)`. Values are held to 0..255.
+    void impostaTemperatura(int gradi);
+    void impostaBatterie(int logica, int motori);
+    void impostaUltrasuoni(int destro, int centrale, int sinistro);
+    void impostaInvioImmediato(bool attivo) { immediato_ = attivo; }
+    /// True: the three ultrasonic sensors follow the room instead of impostaUltrasuoni.
+    void impostaUltrasuoniDallaStanza(bool attivo);
+    /// False: polls (27, 28, 29) and actuators get no answer; opening, storage and video still do.
+    void impostaRisponde(bool attivo) { risponde_ = attivo; }
+    /// Puts the robot somewhere: cm and degrees as in StatoRobot.
+    void impostaPosa(double x, double y, double direzione);
+
+    /// The next row of the camera's picture, 161 bytes; empty while the video is off.
+    QByteArray prossimaRiga();
+
+Q_SIGNALS:
+    /// One whole telegram for the console.
+    void telegramma(const QByteArray &byte);
+    /// Something of stato() changed.
+    void cambiato();
+
+private:
+    void esegui(const Comando &comando);
+    void apriSessione();
+    void sollecito();
+    void saluta();
+    void chiudiSessione();
+    void eseguiCorpo(const Comando &comando);
+    void eseguiVoce(const Comando &comando);
+    void eseguiRichiesta(const Comando &comando);
+    void eseguiMemoria(const Comando &comando);
+    void reagisci();
+    void invia(const QByteArray &byte);
+    void muoviBase(double secondi);
+    void muoviArti(double secondi);
+    void misura();
+    void annota(const QString &testo);
+
+    Diario &diario_;
+    StatoRobot stato_;
+    Guasti guasti_;
+    Riconoscitore riconoscitore_;
+    std::unique_ptr<Stanza> stanza_;
+    std::unique_ptr<Memoria> memoria_;
+    std::unique_ptr<Telecamera> telecamera_;
+    bool immediato_ = true;
+    bool dallaStanza_ = false;
+    bool risponde_ = true;
+    bool attendeSollecito_ = false;
+};

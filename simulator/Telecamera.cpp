@@ -1,0 +1,67 @@
+#include "Telecamera.h"
+#include "Prospettiva.h"
+#include <QDir>
+#include <QImageReader>
+
+using namespace Qt::StringLiterals;
+
+bool Telecamera::impostaCartella(const QString &cartella)
+{
+    cartella_.clear();
+    file_.clear();
+    prossimo_ = 0;
+    if (cartella.isEmpty())
+        return true;
+    const QDir dir(cartella);
+    const QFileInfoList trovati = dir.entryInfoList(QDir::Files | QDir::Readable, QDir::Name);
+    for (const QFileInfo &info : trovati) {
+        if (QImageReader(info.filePath()).canRead())
+            file_ << info.filePath();
+    }
+    if (file_.isEmpty())
+        return false;
+    cartella_ = cartella;
+    return true;
+}
+
+QImage Telecamera::guarda(const StatoRobot &stato, const Stanza &stanza, int larghezza,
+                          int altezza) const
+{
+    if (!file_.isEmpty()) {
+        const QImage letta(file_.at(prossimo_ % file_.size()));
+        // A file can vanish or turn out broken after the folder was chosen.
+        if (!letta.isNull()) {
+            const QImage grande = letta.scaled(larghezza, altezza, Qt::KeepAspectRatioByExpanding,
+                                               Qt::SmoothTransformation);
+            return grande
+                .copy((grande.width() - larghezza) / 2, (grande.height() - altezza) / 2, larghezza,
+                      altezza)
+                .convertToFormat(QImage::Format_RGB32);
+        }
+    }
+    return disegnaProspettiva(stato, stanza, larghezza, altezza);
+}
+
+QByteArray Telecamera::prossimaRiga(const StatoRobot &stato, const Stanza &stanza)
+{
+    if (riga_ == 0) {
+        fotogramma_ = guarda(stato, stanza, colonne, righe);
+        ++prossimo_;
+    }
+    const QByteArray byte = codifica(fotogramma_, riga_);
+    riga_ = (riga_ + 1) % righe;
+    return byte;
+}
+
+QByteArray Telecamera::codifica(const QImage &immagine, int riga)
+{
+    QByteArray byte;
+    byte.reserve(immagine.width() * 2);
+    for (int x = 0; x < immagine.width(); ++x) {
+        const QRgb c = immagine.pixel(x, riga);
+        const int v = ((qRed(c) >> 3) << 11) | ((qGreen(c) >> 2) << 5) | (qBlue(c) >> 3);
+        byte += static_cast<char>(static_cast<quint8>(v >> 8));
+        byte += static_cast<char>(static_cast<quint8>(v & 255));
+    }
+    return byte;
+}

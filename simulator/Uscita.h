@@ -1,0 +1,44 @@
+#pragma once
+#include "Ritmo.h"
+#include <QElapsedTimer>
+#include <QTimer>
+#include <functional>
+
+class Linea;
+
+/// The bytes on their way to the line: a bounded queue, let out at the line's pace.
+class Uscita
+{
+public:
+    /// More than the largest storage block; what does not fit is lost, as on a line without
+    /// handshake.
+    static constexpr qsizetype massimo = 256 * 1024;
+
+    /// `linea` must outlive this.
+    explicit Uscita(Linea &linea);
+
+    void impostaBaud(int baud) { ritmo_.impostaBaud(baud); }
+    int baud() const { return ritmo_.baud(); }
+
+    /// How many of the bytes found no room.
+    qsizetype accoda(const QByteArray &byte);
+    qsizetype inCoda() const { return coda_.size(); }
+    void svuota();
+    /// True: what goes out is lost on the way.
+    void impostaPerduta(bool perduta) { perduta_ = perduta; }
+
+    /// Called with what was handed to the line.
+    std::function<void(const QByteArray &)> suInvio;
+    /// Called when little is left in the queue.
+    std::function<void()> suFame;
+
+private:
+    void spedisci();
+
+    Linea &linea_;
+    Ritmo ritmo_;
+    QByteArray coda_;
+    bool perduta_ = false;
+    QElapsedTimer orologio_;
+    QTimer timer_;
+};
