@@ -1,0 +1,95 @@
+// How fast the receive engine is: bytes from the pseudo-terminal to the console's controls, and the
+// time a telegram takes with little and with much waiting behind it.
+#include "PortaAsio.h"
+#include "Pompa.h"
+#include "Terminale.h"
+#include "frmPrincipale.h"
+
+#include <QApplication>
+#include <benchmark/benchmark.h>
+#include <thread>
+
+namespace {
+
+// Sensors, temperature and batteries between video rows, as a running camera mixes them; values
+// change from telegram to telegram, so that every control is set anew.
+QByteArray telegrammi(qsizetype almeno)
+{
+    QByteArray misti;
+    for (int i = 0; misti.size() < almeno; ++i) {
+        misti += char(31);
+        misti += char(i % 50);
+        misti += char(32);
+        misti += char(i % 256);
+        misti += char((i * 7) % 256);
+        misti += char(33);
+        misti += char(i & 1);
+        misti += char(i & 2);
+        misti += char(i & 4);
+        misti += char(13);
+        misti += QByteArray(160, char(i));
+    }
+    return misti;
+}
+
+struct Banco
+{
+    Terminale terminale;
+    frmPrincipale console{{std::make_unique<PortaAsio>(), terminale.cartella(), [] {}}};
+
+    Banco()
+    {
+        QDir::setCurrent(terminale.cartella());
+        console.Mostra();
+        terminale.scrivi("\x1f\x15\x1f\x15");
+        console.Collega();
+    }
+    bool fermo()
+    {
+        return console.tmrElabInput.accumulatore.vuoto() && console.COM.conteggio() == 0;
+    }
+};
+
+void Linea(benchmark::State &stato)
+{
+    Banco banco;
+    const QByteArray byte = telegrammi(stato.range(0)) + '\x1f' + char(49);
+    for (auto _ : stato) {
+        banco.console.lblTemperatura.setCaption({});
+        std::thread robot([&] { banco.terminale.scrivi(byte); });
+        while (banco.console.lblTemperatura.Caption() != u"49°"_s || !banco.fermo())
+            pompa();
+        robot.join();
+        // What the console sent meanwhile is of no interest here, but must not fill the line.
+        ::tcflush(banco.terminale.capo(), TCIFLUSH);
+    }
+    stato.SetBytesProcessed(stato.iterations() * byte.size());
+}
+
+// One temperature telegram cut from the front of an accumulator that holds much more.
+void UnTelegramma(benchmark::State &stato)
+{
+    Accumulatore accumulatore;
+    accumulatore.aggiungi(telegrammi(stato.range(0)));
+    const QByteArray uno = QByteArrayLiteral("\x1f\x15");
+    for (auto _ : stato) {
+        accumulatore.aggiungi(uno);
+        benchmark::DoNotOptimize(accumulatore.byte(1));
+        benchmark::DoNotOptimize(accumulatore.byte(2));
+        accumulatore.taglia(uno.size());
+    }
+}
+
+} // namespace
+
+BENCHMARK(Linea)->Arg(1 << 20)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(UnTelegramma)->Arg(1000)->Arg(1 << 20)->Arg(4 << 20);
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
