@@ -11,7 +11,7 @@ const QColor contorno(0x33, 0x3d, 0x4a);
 void braccio(QPainter &p, double lato, double alto)
 {
     // A raised arm points ahead and looks longer; a hanging one is seen end on.
-    const double lungo = 5.0 + 15.0 * alto;
+    const double lungo = 5.0 + 14.0 * alto;
     p.setBrush(QColor(0x9a, 0xa7, 0xb6));
     p.drawRoundedRect(QRectF(-3, lato * 21 - 3.5, 3 + lungo, 7), 3.5, 3.5);
     p.setBrush(QColor(0x6d, 0x7b, 0x8c));
@@ -23,8 +23,8 @@ void pinza(QPainter &p, bool aperta)
     p.setPen(QPen(contorno, 2.2, Qt::SolidLine, Qt::RoundCap));
     const double bocca = aperta ? 6.0 : 1.6;
     for (const double lato : {-1.0, 1.0}) {
-        p.drawLine(QPointF(17, lato * 3), QPointF(23, lato * bocca));
-        p.drawLine(QPointF(23, lato * bocca), QPointF(27, lato * (aperta ? 4.0 : 0.8)));
+        p.drawLine(QPointF(16, lato * 3), QPointF(19.5, lato * bocca));
+        p.drawLine(QPointF(19.5, lato * bocca), QPointF(22.5, lato * (aperta ? 4.0 : 0.8)));
     }
 }
 

@@ -88,7 +88,7 @@ FinestraSimulatore::FinestraSimulatore(Simulatore &simulatore, QWidget *parent)
 
     auto *sinistra = new QVBoxLayout;
     sinistra->setSpacing(10);
-    sinistra->addWidget(cornice, 3);
+    sinistra->addWidget(cornice, 5);
     sinistra->addWidget(new PannelloDiario(sim_.diario()), 2);
 
     auto *fronte = new QGroupBox(u"Robot"_s);
@@ -142,11 +142,17 @@ QWidget *FinestraSimulatore::striscia()
     sessione_->setFixedWidth(misura.horizontalAdvance(u"aperta"_s) + 12);
     base_->setFixedWidth(misura.horizontalAdvance(u"ferma contro un ostacolo"_s) + 12);
     programma_->setFixedWidth(misura.horizontalAdvance(u"nessuno"_s) + 12);
-    // A long phrase must not widen the window: it wraps and keeps its two lines.
-    voce_->setWordWrap(true);
+    // A long phrase must not widen the window: it is cut, and whole in its tool tip.
     voce_->setMinimumWidth(120);
-    voce_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    voce_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     return striscia;
+}
+
+void FinestraSimulatore::resizeEvent(QResizeEvent *evento)
+{
+    QWidget::resizeEvent(evento);
+    layout()->activate();
+    mostra();
 }
 
 void FinestraSimulatore::mostra()
@@ -156,5 +162,7 @@ void FinestraSimulatore::mostra()
     base_->setText(moto(s));
     programma_->setText(s.programma == 0 ? u"nessuno"_s : QString::number(s.programma));
     foto_->setText(QString::number(s.foto));
-    voce_->setText(messaggi(s));
+    const QString detto = messaggi(s);
+    voce_->setText(voce_->fontMetrics().elidedText(detto, Qt::ElideRight, voce_->width()));
+    voce_->setToolTip(detto);
 }

@@ -12,6 +12,9 @@ public:
     /// `simulatore` must outlive the window.
     explicit FinestraSimulatore(Simulatore &simulatore, QWidget *parent = nullptr);
 
+protected:
+    void resizeEvent(QResizeEvent *evento) override;
+
 private:
     QWidget *striscia();
     void mostra();

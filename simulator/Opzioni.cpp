@@ -56,8 +56,9 @@ QStringList conLogIntero(const QStringList &argomenti)
 {
     QStringList esito;
     for (qsizetype i = 0; i < argomenti.size(); ++i) {
-        const bool solo = argomenti.at(i) == u"--log" &&
-                          (i + 1 == argomenti.size() || argomenti.at(i + 1).startsWith(u'-'));
+        const QString dopo = argomenti.value(i + 1);
+        const bool conFile = !dopo.isEmpty() && (dopo == u"-" || !dopo.startsWith(u'-'));
+        const bool solo = argomenti.at(i) == u"--log" && !conFile;
         esito << (solo ? u"--log=-"_s : argomenti.at(i));
     }
     return esito;

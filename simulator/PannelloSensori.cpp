@@ -61,7 +61,7 @@ PannelloSensori::PannelloSensori(Robot &robot, QWidget *parent)
         connect(*casella, &QCheckBox::toggled, this, &PannelloSensori::misurato);
     }
     ostacoli->addStretch();
-    griglia->addWidget(new QLabel(u"Ostacolo a"_s), riga, 0);
+    griglia->addWidget(new QLabel(u"Ostacoli"_s), riga, 0);
     griglia->addLayout(ostacoli, riga, 1, 1, 2);
 
     dallaStanza_ = new QCheckBox(u"gli ostacoli sono quelli della stanza"_s);
