@@ -52,6 +52,8 @@ Q_SIGNALS:
     void telegramma(const QByteArray &byte);
     /// Something of stato() changed.
     void cambiato();
+    /// A phrase, a sound or a message begins; the text is stato().detto.
+    void parla(const QString &testo);
 
 private:
     void esegui(const Comando &comando);

@@ -119,6 +119,7 @@ void Robot::eseguiVoce(const Comando &comando)
         const QString frase = Vocabolario::frase(comando.a - Vocabolario::primaFrase);
         const QString suono = Vocabolario::suono(comando.a - Vocabolario::primoSuono);
         stato_.detto = !frase.isEmpty() ? frase : !suono.isEmpty() ? u"♪ %1"_s.arg(suono) : u"…"_s;
+        Q_EMIT parla(stato_.detto);
         break;
     }
     case T::MexPlay:
@@ -127,6 +128,7 @@ void Robot::eseguiVoce(const Comando &comando)
         stato_.detto = stato_.messaggi.contains(comando.a)
                            ? u"Messaggio %1"_s.arg(comando.a)
                            : u"Messaggio %1: vuoto"_s.arg(comando.a);
+        Q_EMIT parla(stato_.detto);
         break;
     case T::MexRegistra:
         stato_.messaggioInCorso = comando.a;

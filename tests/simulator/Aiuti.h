@@ -1,12 +1,9 @@
 #pragma once
+#include "Attendi.h"
 #include "Diario.h"
 #include "Robot.h"
 #include <QByteArray>
-#include <QCoreApplication>
-#include <QElapsedTimer>
-#include <QEventLoop>
 #include <QString>
-#include <functional>
 #include <initializer_list>
 #include <ostream>
 
@@ -26,19 +23,6 @@ inline QByteArray b(std::initializer_list<int> valori)
     for (const int v : valori)
         byte += static_cast<char>(static_cast<quint8>(v));
     return byte;
-}
-
-/// Runs the event loop until the condition holds; false only where something hangs.
-inline bool attendi(const std::function<bool()> &condizione)
-{
-    QElapsedTimer orologio;
-    orologio.start();
-    while (!condizione()) {
-        if (orologio.elapsed() > 60000)
-            return false;
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents);
-    }
-    return true;
 }
 
 /// A robot without a line: what it sends is kept, telegram by telegram.

@@ -1,0 +1,6 @@
+#pragma once
+class QPainter;
+struct StatoRobot;
+
+/// Draws the robot from above with its middle in the origin, looking right; the unit is the cm.
+void disegnaDallAlto(QPainter &p, const StatoRobot &stato);

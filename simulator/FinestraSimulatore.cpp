@@ -1,0 +1,168 @@
+#include "FinestraSimulatore.h"
+#include "PannelloDiario.h"
+#include "PannelloLinea.h"
+#include "PannelloSensori.h"
+#include "PannelloTelecamera.h"
+#include "QuadroRobot.h"
+#include "QuadroStanza.h"
+#include "Simulatore.h"
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+const QString stile = uR"(
+QWidget#frmSimulatore { background: #e9edf2; }
+QGroupBox {
+    background: #ffffff; border: 1px solid #cbd3dd; border-radius: 8px;
+    margin-top: 0px; padding: 20px 4px 2px 4px; color: #1c242e;
+}
+QGroupBox::title {
+    subcontrol-origin: border; subcontrol-position: top left;
+    left: 12px; top: 7px; color: #17467a; font-weight: bold;
+}
+QFrame#cornice { background: #ffffff; border: 1px solid #cbd3dd; border-radius: 8px; }
+QLabel { color: #1c242e; }
+QLabel[titolo="true"] { color: #5b6674; }
+QPushButton {
+    background: #f4f6f9; border: 1px solid #b3becb; border-radius: 5px;
+    padding: 5px 10px; color: #1c242e;
+}
+QPushButton:hover { background: #e6edf6; }
+QPushButton:pressed { background: #d5e0ee; }
+QPushButton:checked { background: #b42318; border-color: #8a1a11; color: #ffffff; }
+QPushButton:focus { border: 1px solid #175cb5; }
+QTableView { border: 1px solid #dde3ea; alternate-background-color: #f6f8fa; background: #ffffff; }
+QHeaderView::section {
+    background: #f0f3f7; border: none; border-bottom: 1px solid #cbd3dd;
+    padding: 4px 6px; color: #3a4654;
+}
+)"_s;
+
+QString moto(const StatoRobot &s)
+{
+    switch (s.base) {
+    case MotoBase::Avanti:
+        return s.velocita == 1 ? u"avanti piano"_s : u"avanti forte"_s;
+    case MotoBase::Indietro:
+        return s.velocita == 1 ? u"indietro piano"_s : u"indietro forte"_s;
+    case MotoBase::GiraDestra:
+        return u"gira a destra"_s;
+    case MotoBase::GiraSinistra:
+        return u"gira a sinistra"_s;
+    default:
+        return s.urtato ? u"ferma contro un ostacolo"_s : u"ferma"_s;
+    }
+}
+
+QString messaggi(const StatoRobot &s)
+{
+    if (s.messaggioInCorso > 0 && s.messaggioRegistra)
+        return u"registra il messaggio %1"_s.arg(s.messaggioInCorso);
+    return s.detto.isEmpty() ? u"niente"_s : s.detto;
+}
+} // namespace
+
+FinestraSimulatore::FinestraSimulatore(Simulatore &simulatore, QWidget *parent)
+    : QWidget(parent), sim_(simulatore)
+{
+    setObjectName(u"frmSimulatore"_s);
+    setWindowTitle(u"Tessaro simulato"_s);
+    // The style is a light one whatever the desktop's colours are.
+    setPalette(QPalette(QColor(0xf4, 0xf6, 0xf9), QColor(0xe9, 0xed, 0xf2)));
+    setStyleSheet(stile);
+
+    Robot &robot = sim_.robot();
+    auto *cornice = new QFrame;
+    cornice->setObjectName(u"cornice"_s);
+    auto *dentro = new QVBoxLayout(cornice);
+    dentro->setContentsMargins(10, 10, 10, 10);
+    dentro->setSpacing(8);
+    auto *stanza = new QuadroStanza(robot);
+    dentro->addWidget(stanza, 1);
+    dentro->addWidget(striscia());
+
+    auto *sinistra = new QVBoxLayout;
+    sinistra->setSpacing(10);
+    sinistra->addWidget(cornice, 5);
+    sinistra->addWidget(new PannelloDiario(sim_.diario()), 2);
+
+    auto *fronte = new QGroupBox(u"Robot"_s);
+    auto *interno = new QVBoxLayout(fronte);
+    interno->setContentsMargins(4, 0, 4, 6);
+    interno->addWidget(new QuadroRobot(robot));
+    auto *telecamera = new PannelloTelecamera(robot);
+    auto *destra = new QVBoxLayout;
+    destra->setSpacing(10);
+    destra->addWidget(fronte, 1);
+    destra->addWidget(new PannelloSensori(robot));
+    destra->addWidget(telecamera);
+    destra->addWidget(new PannelloLinea(sim_));
+
+    auto *tutto = new QHBoxLayout(this);
+    tutto->setContentsMargins(12, 12, 12, 12);
+    tutto->setSpacing(12);
+    tutto->addLayout(sinistra, 1);
+    tutto->addLayout(destra);
+
+    connect(stanza, &QuadroStanza::spostato, telecamera, &PannelloTelecamera::invecchia);
+    connect(&robot, &Robot::cambiato, this, &FinestraSimulatore::mostra);
+    mostra();
+    resize(1120, 800);
+}
+
+// One line of what cannot be seen in the pictures.
+QWidget *FinestraSimulatore::striscia()
+{
+    auto *striscia = new QWidget;
+    auto *riga = new QHBoxLayout(striscia);
+    riga->setContentsMargins(2, 0, 2, 0);
+    riga->setSpacing(18);
+    for (const auto &[titolo, nome, testo] :
+         {std::tuple{u"Sessione"_s, u"lblSessione"_s, &sessione_},
+          {u"Programma"_s, u"lblProgramma"_s, &programma_},
+          {u"Foto"_s, u"lblFoto"_s, &foto_},
+          {u"Base"_s, u"lblBase"_s, &base_},
+          {u"Dice"_s, u"lblVoce"_s, &voce_}}) {
+        auto *coppia = new QVBoxLayout;
+        coppia->setSpacing(1);
+        auto *sopra = new QLabel(titolo);
+        sopra->setProperty("titolo", true);
+        *testo = new QLabel;
+        (*testo)->setObjectName(nome);
+        coppia->addWidget(sopra);
+        coppia->addWidget(*testo);
+        riga->addLayout(coppia, testo == &voce_ ? 1 : 0);
+    }
+    const QFontMetrics misura = fontMetrics();
+    sessione_->setFixedWidth(misura.horizontalAdvance(u"aperta"_s) + 12);
+    base_->setFixedWidth(misura.horizontalAdvance(u"ferma contro un ostacolo"_s) + 12);
+    programma_->setFixedWidth(misura.horizontalAdvance(u"nessuno"_s) + 12);
+    // A long phrase must not widen the window: it is cut, and whole in its tool tip.
+    voce_->setMinimumWidth(120);
+    voce_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    return striscia;
+}
+
+void FinestraSimulatore::resizeEvent(QResizeEvent *evento)
+{
+    QWidget::resizeEvent(evento);
+    layout()->activate();
+    mostra();
+}
+
+void FinestraSimulatore::mostra()
+{
+    const StatoRobot &s = sim_.robot().stato();
+    sessione_->setText(s.sessioneAperta ? u"aperta"_s : u"chiusa"_s);
+    base_->setText(moto(s));
+    programma_->setText(s.programma == 0 ? u"nessuno"_s : QString::number(s.programma));
+    foto_->setText(QString::number(s.foto));
+    const QString detto = messaggi(s);
+    voce_->setText(voce_->fontMetrics().elidedText(detto, Qt::ElideRight, voce_->width()));
+    voce_->setToolTip(detto);
+}

@@ -1,0 +1,126 @@
+#include "ModelloDiario.h"
+#include <QColor>
+#include <QLocale>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int righeMassime = 4000;
+
+QString inNumeri(const QByteArray &byte)
+{
+    constexpr qsizetype mostrati = 10;
+    QStringList parti;
+    for (const char c : byte.left(mostrati))
+        parti << QString::number(static_cast<quint8>(c));
+    if (byte.size() > mostrati)
+        parti << u"…"_s;
+    return parti.join(u' ');
+}
+
+QColor colore(Voce::Tipo tipo)
+{
+    switch (tipo) {
+    case Voce::Tipo::NonCapito:
+        return QColor(0xb4, 0x23, 0x18);
+    case Voce::Tipo::Sessione:
+        return QColor(0x17, 0x5c, 0xb5);
+    case Voce::Tipo::Nota:
+        return QColor(0x5b, 0x66, 0x74);
+    default:
+        return QColor(0x1c, 0x24, 0x2e);
+    }
+}
+} // namespace
+
+ModelloDiario::ModelloDiario(Diario &diario, QObject *parent)
+    : QAbstractTableModel(parent), diario_(diario)
+{
+    connect(&diario_, &Diario::aggiunta, this, &ModelloDiario::aggiungi);
+    connect(&diario_, &Diario::svuotato, this, &ModelloDiario::ricarica);
+    ricarica();
+}
+
+void ModelloDiario::nascondiRichieste(bool nascoste)
+{
+    senzaRichieste_ = nascoste;
+    ricarica();
+}
+
+bool ModelloDiario::mostrata(const Voce &voce) const
+{
+    return !senzaRichieste_ || !voce.testo.startsWith(u"Richiedi"_s);
+}
+
+void ModelloDiario::aggiungi(const Voce &voce)
+{
+    if (!mostrata(voce))
+        return;
+    if (voci_.size() >= righeMassime) {
+        const int via = righeMassime / 10;
+        beginRemoveRows({}, 0, via - 1);
+        voci_.remove(0, via);
+        endRemoveRows();
+    }
+    const int riga = static_cast<int>(voci_.size());
+    beginInsertRows({}, riga, riga);
+    voci_.append(voce);
+    endInsertRows();
+}
+
+void ModelloDiario::ricarica()
+{
+    beginResetModel();
+    voci_.clear();
+    for (const Voce &voce : diario_.voci()) {
+        if (mostrata(voce))
+            voci_.append(voce);
+    }
+    if (voci_.size() > righeMassime)
+        voci_.remove(0, voci_.size() - righeMassime);
+    endResetModel();
+}
+
+int ModelloDiario::rowCount(const QModelIndex &padre) const
+{
+    return padre.isValid() ? 0 : static_cast<int>(voci_.size());
+}
+
+int ModelloDiario::columnCount(const QModelIndex &padre) const
+{
+    return padre.isValid() ? 0 : Colonne;
+}
+
+QVariant ModelloDiario::data(const QModelIndex &indice, int ruolo) const
+{
+    if (!indice.isValid())
+        return {};
+    const Voce &voce = voci_.at(indice.row());
+    if (ruolo == Qt::ForegroundRole)
+        return colore(voce.tipo);
+    if (ruolo == Qt::TextAlignmentRole && indice.column() == Tempo)
+        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    if (ruolo == Qt::ToolTipRole)
+        return voce.riga().simplified();
+    if (ruolo != Qt::DisplayRole)
+        return {};
+    switch (indice.column()) {
+    case Tempo:
+        return QLocale().toString(static_cast<double>(voce.ms) / 1000.0, 'f', 2);
+    case Byte:
+        return inNumeri(voce.byte);
+    default:
+        return voce.nota.isEmpty() ? voce.testo : u"%1  (%2)"_s.arg(voce.testo, voce.nota);
+    }
+}
+
+QVariant ModelloDiario::headerData(int sezione, Qt::Orientation verso, int ruolo) const
+{
+    if (verso != Qt::Horizontal)
+        return {};
+    if (ruolo == Qt::TextAlignmentRole)
+        return QVariant((sezione == Tempo ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    if (ruolo != Qt::DisplayRole)
+        return {};
+    return sezione == Tempo ? u"Secondi"_s : sezione == Byte ? u"Byte"_s : u"Voce"_s;
+}

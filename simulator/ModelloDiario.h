@@ -1,0 +1,30 @@
+#pragma once
+#include "Diario.h"
+#include <QAbstractTableModel>
+
+/// The diary as the rows of a table: seconds, bytes, text with its remark.
+class ModelloDiario : public QAbstractTableModel
+{
+    Q_OBJECT
+public:
+    enum Colonna { Tempo, Byte, Testo, Colonne };
+
+    explicit ModelloDiario(Diario &diario, QObject *parent = nullptr);
+
+    /// True: the periodic polls are left out.
+    void nascondiRichieste(bool nascoste);
+
+    int rowCount(const QModelIndex &padre = {}) const override;
+    int columnCount(const QModelIndex &padre = {}) const override;
+    QVariant data(const QModelIndex &indice, int ruolo) const override;
+    QVariant headerData(int sezione, Qt::Orientation verso, int ruolo) const override;
+
+private:
+    bool mostrata(const Voce &voce) const;
+    void aggiungi(const Voce &voce);
+    void ricarica();
+
+    Diario &diario_;
+    QList<Voce> voci_;
+    bool senzaRichieste_ = true;
+};

@@ -1,0 +1,21 @@
+#pragma once
+#include <QGroupBox>
+
+class Diario;
+class ModelloDiario;
+class QTableView;
+
+/// The diary as it grows; it follows its end unless one has scrolled up.
+class PannelloDiario : public QGroupBox
+{
+    Q_OBJECT
+public:
+    explicit PannelloDiario(Diario &diario, QWidget *parent = nullptr);
+
+private:
+    void copia();
+
+    Diario &diario_;
+    ModelloDiario *modello_ = nullptr;
+    QTableView *elenco_ = nullptr;
+};

@@ -1,0 +1,29 @@
+#pragma once
+#include <QGroupBox>
+#include <QTimer>
+
+class QComboBox;
+class QLabel;
+class Robot;
+
+/// What the camera sees: the room, or a folder of pictures.
+class PannelloTelecamera : public QGroupBox
+{
+    Q_OBJECT
+public:
+    explicit PannelloTelecamera(Robot &robot, QWidget *parent = nullptr);
+
+    /// The picture is out of date and is drawn again soon.
+    void invecchia();
+
+private:
+    void scelta(int indice);
+    void scegliCartella();
+    void mostra();
+
+    Robot &robot_;
+    QComboBox *fonte_ = nullptr;
+    QLabel *vista_ = nullptr;
+    QLabel *stato_ = nullptr;
+    QTimer ritardo_;
+};

@@ -1,0 +1,40 @@
+#pragma once
+#include <QTimer>
+#include <QWidget>
+
+class Robot;
+
+/// The room from above, with the robot in it; its things and the robot can be dragged.
+class QuadroStanza : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit QuadroStanza(Robot &robot, QWidget *parent = nullptr);
+    QSize sizeHint() const override { return {640, 470}; }
+    QSize minimumSizeHint() const override { return {420, 310}; }
+
+Q_SIGNALS:
+    /// Something in the room was moved by hand.
+    void spostato();
+
+protected:
+    void paintEvent(QPaintEvent *evento) override;
+    void mousePressEvent(QMouseEvent *evento) override;
+    void mouseMoveEvent(QMouseEvent *evento) override;
+    void mouseReleaseEvent(QMouseEvent *evento) override;
+
+private:
+    QTransform dallaStanza() const;
+    QPointF inStanza(const QPointF &punto) const;
+    bool suRobot(const QPointF &punto) const;
+    void disegnaPavimento(QPainter &p) const;
+    void disegnaCose(QPainter &p) const;
+    void disegnaSensori(QPainter &p) const;
+    void disegnaFumetto(QPainter &p) const;
+
+    Robot &robot_;
+    QString fumetto_;
+    QTimer fineFumetto_;
+    int presa_ = -1; // the thing in hand; -2 the robot
+    QPointF scarto_;
+};
