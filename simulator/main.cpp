@@ -63,6 +63,8 @@ int main(int argc, char **argv)
         app = std::make_unique<QApplication>(argc, argv);
     }
     QCoreApplication::setApplicationName(u"tessaro-sim"_s);
+    // Before the link is there, which would otherwise outlive an early end.
+    ascoltaChiusura([] { QCoreApplication::quit(); });
 
     QFile log;
     Simulatore sim;
@@ -75,7 +77,6 @@ int main(int argc, char **argv)
         return 1;
     }
     scrivi(stdout, sim.percorso());
-    ascoltaChiusura([] { QCoreApplication::quit(); });
 
     std::unique_ptr<FinestraSimulatore> finestra;
     if (!opzioni.senzaFinestra) {
