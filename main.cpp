@@ -1,6 +1,7 @@
 // Builds the windows, ties them together, starts.
 #include "Cartella.h"
 #include "Comandi.h"
+#include "Italiano.h"
 #include "PortaAsio.h"
 #include "frmPrincipale.h"
 
@@ -9,6 +10,7 @@
 int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
+    installaItaliano(app);
     QApplication::setApplicationName(u"Lumbra"_s);
     QApplication::setStyle(u"Fusion"_s);
     QApplication::setWindowIcon(Disegni::icona(u"lumbra"));
