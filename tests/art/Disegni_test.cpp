@@ -268,8 +268,6 @@ TEST(Disegni, NoTwoPicturesAreTheSame)
     std::set<QByteArray> viste;
     for (const Disegno &disegno : disegni) {
         const QString nome = nomeDi(disegno);
-        if (nome == u"vigilio_attesa")
-            continue; // the toolbar opens the runner with the same open eye
         const QImage resa = immagine(Disegni::icona(nome), {disegno.larghezza, disegno.altezza}, 1);
         const QByteArray punti(reinterpret_cast<const char *>(resa.constBits()),
                                resa.sizeInBytes());
