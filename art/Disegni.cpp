@@ -1,6 +1,8 @@
 #include "Disegni.h"
 
+#include <QGuiApplication>
 #include <QPixmap>
+#include <cmath>
 #include <initializer_list>
 
 using namespace Qt::StringLiterals;
@@ -47,6 +49,19 @@ QIcon Disegni::icona(QStringView nome)
     aggiungi(u""_s, 1);
     aggiungi(u"@2x"_s, 2);
     aggiungi(u"@3x"_s, 3);
+
+    // On a screen of 125 or 150 % Qt would blow up the 1x picture; the next larger one shrinks
+    // well.
+    const double schermo = qGuiApp->devicePixelRatio();
+    const double intera = std::ceil(schermo);
+    if (!icona.isNull() && schermo < intera && intera <= 3) {
+        QPixmap grande(inizio + u"@%1x.png"_s.arg(static_cast<int>(intera)));
+        grande.setDevicePixelRatio(intera);
+        QPixmap ridotto = grande.scaled((grande.deviceIndependentSize() * schermo).toSize(),
+                                        Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        ridotto.setDevicePixelRatio(schermo);
+        icona.addPixmap(ridotto);
+    }
     if (icona.isNull())
         for (const int lato : {16, 32, 48, 128, 256})
             aggiungi(u"-%1"_s.arg(lato), 1);

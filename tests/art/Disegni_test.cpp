@@ -1,6 +1,7 @@
 #include "Disegni.h"
 
 #include <QDir>
+#include <QGuiApplication>
 #include <QImage>
 #include <QPixmap>
 #include <gtest/gtest.h>
@@ -179,6 +180,18 @@ TEST(Disegni, EveryPictureOfTheResourceIsKnownToTheTableAbove)
         noti.insert(nomeDi(disegno));
     for (const QString &file : QDir(u":/art"_s).entryList({u"*@3x.png"_s}))
         EXPECT_EQ(noti.count(file.chopped(7)), 1U) << file.toStdString();
+}
+
+// Run a second time on a screen of 150 %, see CMakeLists.txt.
+TEST(Scala, EveryPictureHasThePixelsOfTheScreen)
+{
+    const double scala = qGuiApp->devicePixelRatio();
+    for (const Disegno &disegno : disegni) {
+        const QSize naturale(disegno.larghezza, disegno.altezza);
+        const QImage resa = Disegni::icona(nomeDi(disegno)).pixmap(naturale, scala).toImage();
+        EXPECT_EQ(resa.size(), (QSizeF(naturale) * scala).toSize()) << disegno.nome;
+        EXPECT_DOUBLE_EQ(resa.devicePixelRatio(), scala) << disegno.nome;
+    }
 }
 
 TEST(Disegni, AnUnknownNameGivesANullIcon)
