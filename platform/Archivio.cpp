@@ -128,7 +128,8 @@ void chiudi()
 {
     int errore = 0;
     for (auto &[numero, file] : aperti) {
-        if (!file.uscita || file.uscita->commit())
+        // A commit does not notice that the last bytes could not be written.
+        if (!file.uscita || (file.uscita->flush() && file.uscita->commit()))
             continue;
         errore = file.uscita->error() == QFileDevice::PermissionsError ? Errore::AccessoNegato
                                                                        : Errore::DiscoPieno;

@@ -159,6 +159,9 @@ void Elenco::mousePressEvent(QMouseEvent *evento)
     {
         const QScopedValueRollback zitto(m_zitto, m_zitto || m_clickDovuto);
         Controllo::mousePressEvent(evento);
+        // Qt leaves the selection alone when a check mark is pressed.
+        if (m_clickDovuto && itemAt(punto) == sotto)
+            setCurrentRow(row(sotto));
     }
     // A click on the row that is selected already is a click as well.
     if (sinistro && !m_clickDovuto && sotto && itemAt(punto) == sotto && row(sotto) == prima)

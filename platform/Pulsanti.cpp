@@ -17,17 +17,10 @@ Pulsante::Pulsante(const QString &nome, QWidget *dentro, const QString &testo)
 void Pulsante::mousePressEvent(QMouseEvent *evento)
 {
     Controllo::mousePressEvent(evento);
-    if (hasFocus() || !isDown())
-        return;
-    // The control that lost the focus to this button took it back, perhaps after a message box. The
-    // release went to that box then and never comes: the button must not stay down.
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (!(QGuiApplication::mouseButtons() & Qt::LeftButton))
-                setDown(false);
-        },
-        Qt::QueuedConnection);
+    // A control that lost the focus to this button may have shown a message box, which the release
+    // went to: it does not come any more, and the button must not stay down.
+    if (evento->spontaneous() && !(QGuiApplication::mouseButtons() & evento->button()))
+        setDown(false);
 }
 
 CasellaSpunta::CasellaSpunta(const QString &nome, QWidget *dentro, const QString &testo)

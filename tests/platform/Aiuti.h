@@ -6,9 +6,11 @@
 #include "Finestra.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 #include <cstdlib>
 #include <fcntl.h>
 #include <functional>
@@ -43,11 +45,30 @@ inline bool attendi(const std::function<bool()> &condizione)
     return QTest::qWaitFor(condizione, 20000);
 }
 
-// Another program comes to the front.
-inline void altroProgramma()
+// Types any characters; QTest knows ASCII only.
+inline void batti(QWidget &dove, const QString &testo)
 {
-    QApplication::setActiveWindow(nullptr);
+    for (const QChar c : testo) {
+        for (const QEvent::Type tipo : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent evento(tipo, c.toUpper().unicode(), Qt::NoModifier, c);
+            QApplication::sendEvent(&dove, &evento);
+        }
+    }
 }
+
+// Another program at the front: a window that is none of ours.
+struct AltroProgramma
+{
+    AltroProgramma()
+    {
+        finestra.resize(100, 100);
+        finestra.show();
+        finestra.requestActivate();
+        if (!QTest::qWaitForWindowActive(&finestra))
+            qFatal("no window came to the front");
+    }
+    QWindow finestra;
+};
 
 // Waits in the background until a box of that kind is shown, and then does something with it.
 template <class Riquadro>

@@ -309,8 +309,9 @@ TEST_F(ArchivioTest, the_old_file_survives_a_failed_write)
     EXPECT_EQ(contenuto(u"prova.dat"_s), "old");
 }
 
-TEST_F(ArchivioTest, a_failed_close_closes_all_the_same)
+TEST_F(ArchivioTest, a_failed_close_closes_all_the_same_and_keeps_the_old_file)
 {
+    contenuto(u"prova.dat"_s, "old");
     const auto vecchio = std::signal(SIGXFSZ, SIG_IGN);
     rlimit limite{};
     ::getrlimit(RLIMIT_FSIZE, &limite);
@@ -318,9 +319,11 @@ TEST_F(ArchivioTest, a_failed_close_closes_all_the_same)
     ::setrlimit(RLIMIT_FSIZE, &stretto);
     Archivio::apri(1, u"prova.dat"_s, Modo::Scrittura);
     Archivio::stampa(1, QByteArray(100, 'x'));
-    EXPECT_EQ(erroreDi([] { Archivio::chiudi(); }), Errore::DiscoPieno);
+    const int errore = erroreDi([] { Archivio::chiudi(); });
     ::setrlimit(RLIMIT_FSIZE, &limite);
     std::signal(SIGXFSZ, vecchio);
+    EXPECT_EQ(errore, Errore::DiscoPieno);
+    EXPECT_EQ(contenuto(u"prova.dat"_s), "old");
     EXPECT_EQ(erroreDi([] { Archivio::apri(1, u"prova.dat"_s, Modo::Scrittura); }), 0);
 }
 

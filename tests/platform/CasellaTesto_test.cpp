@@ -79,7 +79,7 @@ TEST_F(CasellaTestoTest, sees_each_typed_character_before_it_is_in_the_text)
     QStringList visti;
     testo.KeyPress.collega([&](int &tasto) { visti += u"%1 %2"_s.arg(tasto).arg(testo.Text()); });
     testo.clear();
-    QTest::keyClicks(&testo, u"a½"_s);
+    batti(testo, u"a½"_s);
     QTest::keyClick(&testo, Qt::Key_Backspace);
     EXPECT_EQ(visti, (QStringList{u"97 "_s, u"189 a"_s, u"8 a½"_s}));
     EXPECT_EQ(testo.Text(), u"a"_s);
@@ -103,7 +103,7 @@ TEST_F(CasellaTestoTest, its_handler_may_drop_a_character)
     testo.KeyPress.collega(&soloCifre);
     testo.clear();
     modifiche.clear();
-    QTest::keyClicks(&testo, u"1a2,3 -4½é"_s);
+    batti(testo, u"1a2,3 -4½é"_s);
     EXPECT_EQ(testo.Text(), u"1234"_s);
     EXPECT_EQ(modifiche.size(), 4);
     QTest::keyClick(&testo, Qt::Key_Backspace);
@@ -245,8 +245,8 @@ TEST_F(CasellaTestoTest, keeps_the_focus_when_a_message_box_comes_to_the_front)
 TEST_F(CasellaTestoTest, keeps_the_focus_when_another_program_comes_to_the_front)
 {
     pronta();
-    altroProgramma();
-    ASSERT_TRUE(attendi([&] { return !testo.hasFocus(); }));
+    const AltroProgramma programma;
+    ASSERT_FALSE(testo.hasFocus());
     EXPECT_EQ(lasciata, 0);
     finestra.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
@@ -261,8 +261,8 @@ TEST_F(CasellaTestoTest, loses_the_focus_when_the_user_comes_back_from_another_p
     altra.mostraAttiva();
     suo.SetFocus();
     pronta();
-    altroProgramma();
-    ASSERT_TRUE(attendi([&] { return !testo.hasFocus(); }));
+    const AltroProgramma programma;
+    ASSERT_FALSE(testo.hasFocus());
     altra.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&altra));
     EXPECT_EQ(lasciata, 1);

@@ -7,7 +7,6 @@
 #include "Pompa.h"
 #include "Temporizzatore.h"
 
-
 namespace {
 
 struct FinestraTest : ::testing::Test
@@ -270,8 +269,10 @@ TEST_F(FinestraTest, is_not_activated_on_return_from_another_program)
 {
     finestra.mostraAttiva();
     finestra.diario.clear();
-    altroProgramma();
-    ASSERT_TRUE(attendi([&] { return !finestra.isActiveWindow(); }));
+    {
+        const AltroProgramma altro;
+        ASSERT_FALSE(finestra.isActiveWindow());
+    }
     attiva(finestra);
     EXPECT_TRUE(finestra.diario.isEmpty());
 }
@@ -412,9 +413,21 @@ TEST_F(TastiDellaFinestra, keys_have_the_codes_of_the_design)
     testo.SetFocus();
     for (const auto &caso : casi) {
         finestra.diario.clear();
-        QTest::keyClick(&testo, caso.tasto, Qt::ShiftModifier);
-        EXPECT_EQ(finestra.diario, (QStringList{u"KeyDown %1 1"_s.arg(caso.codice),
-                                                u"KeyUp %1 1"_s.arg(caso.codice)}));
+        QTest::keyClick(&testo, caso.tasto);
+        EXPECT_EQ(finestra.diario, (QStringList{u"KeyDown %1 0"_s.arg(caso.codice),
+                                                u"KeyUp %1 0"_s.arg(caso.codice)}));
+    }
+}
+
+TEST_F(TastiDellaFinestra, a_key_tells_the_keys_that_are_held_with_it)
+{
+    testo.SetFocus();
+    for (const auto &[tasti, numero] : {std::pair(Qt::KeyboardModifiers(Qt::ShiftModifier), 1),
+                                        std::pair(Qt::ControlModifier | Qt::AltModifier, 6)}) {
+        finestra.diario.clear();
+        QKeyEvent evento(QEvent::KeyPress, Qt::Key_F2, tasti);
+        QApplication::sendEvent(&testo, &evento);
+        EXPECT_EQ(finestra.diario, QStringList{u"KeyDown 113 %1"_s.arg(numero)});
     }
 }
 

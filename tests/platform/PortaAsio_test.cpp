@@ -38,10 +38,11 @@ public:
             for (;;)
                 ::pause();
         }
+        // A child that ended early closes the pipe as well.
+        ::close(tubo[1]);
         char pronto = 0;
         static_cast<void>(!::read(tubo[0], &pronto, 1));
         ::close(tubo[0]);
-        ::close(tubo[1]);
     }
     ~AltroProcesso() { uccidi(); }
     Q_DISABLE_COPY_MOVE(AltroProcesso)

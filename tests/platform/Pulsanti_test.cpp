@@ -61,18 +61,32 @@ TEST_F(PulsantiTest, a_mouse_click_moves_the_focus_to_the_button_before_its_clic
     EXPECT_EQ(ordine, (QStringList{u"LostFocus"_s, u"Click"_s}));
 }
 
-TEST_F(PulsantiTest, a_button_does_not_stay_down_when_the_focus_was_taken_back_at_its_press)
+TEST_F(PulsantiTest, a_button_whose_release_went_to_a_box_in_between_does_not_stay_down)
 {
     CasellaTesto testo(u"txt"_s, &finestra);
     Pulsante pulsante(u"pul"_s, &finestra, u"OK"_s);
+    pulsante.Click.collega(conta);
     pulsante.move(0, 100);
     finestra.mostraAttiva();
     testo.SetFocus();
-    testo.LostFocus.collega([&] { testo.SetFocus(); });
-    // The release goes elsewhere.
+    testo.LostFocus.collega([&] {
+        QTest::mouseRelease(&finestra, Qt::LeftButton);
+        testo.SetFocus();
+    });
     QTest::mousePress(&pulsante, Qt::LeftButton);
-    EXPECT_TRUE(attendi([&] { return !pulsante.isDown(); }));
+    EXPECT_FALSE(pulsante.isDown());
     EXPECT_TRUE(testo.hasFocus());
+    EXPECT_EQ(volte, 0);
+}
+
+TEST_F(PulsantiTest, a_button_is_down_between_press_and_release)
+{
+    Pulsante pulsante(u"pul"_s, &finestra, u"OK"_s);
+    finestra.mostraAttiva();
+    QTest::mousePress(&pulsante, Qt::LeftButton);
+    EXPECT_TRUE(pulsante.isDown());
+    QTest::mouseRelease(&pulsante, Qt::LeftButton);
+    EXPECT_FALSE(pulsante.isDown());
 }
 
 TEST_F(PulsantiTest, a_check_box_raises_click_at_every_change_of_its_value)

@@ -1,0 +1,84 @@
+// How long the message pump's idle rounds take, and how much of a core they use: a wait of 100000
+// rounds is to last 3 to 6 seconds and to leave three quarters of a core alone.
+#include "Pompa.h"
+#include "Barre.h"
+#include "Temporizzatore.h"
+
+#include <QApplication>
+#include <benchmark/benchmark.h>
+#include <ctime>
+#include <memory>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int giri = 100000;
+
+double processore()
+{
+    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+}
+
+// The timers of a session besides: every so many milliseconds, as many as there are.
+void attesa(benchmark::State &stato, const std::vector<int> &intervalli, bool conBarra)
+{
+    std::vector<std::unique_ptr<Temporizzatore>> timer;
+    long scatti = 0;
+    for (const int intervallo : intervalli) {
+        timer.push_back(std::make_unique<Temporizzatore>(u"tmr"_s, nullptr));
+        timer.back()->Timer.collega([&] { ++scatti; });
+        timer.back()->setInterval(intervallo);
+        timer.back()->setEnabled(true);
+    }
+    QWidget finestra;
+    BarraDiCaricamento barra(u"BarraCaricamento"_s, &finestra, 1, giri);
+    finestra.show();
+    for (int i = 0; i < 1000; ++i)
+        pompa();
+
+    const double prima = processore();
+    double secondi = 0;
+    for (auto _ : stato) {
+        const auto inizio = std::chrono::steady_clock::now();
+        for (int i = 1; i <= giri; ++i) {
+            pompa();
+            if (conBarra)
+                barra.setValore(i);
+        }
+        const std::chrono::duration<double> durata = std::chrono::steady_clock::now() - inizio;
+        stato.SetIterationTime(durata.count());
+        secondi += durata.count();
+    }
+    stato.counters["core%"] = 100 * (processore() - prima) / secondi;
+    stato.counters["ticks"] = static_cast<double>(scatti);
+}
+
+void GiriAVuoto(benchmark::State &stato)
+{
+    attesa(stato, {}, false);
+}
+void GiriConITimerDellaSessione(benchmark::State &stato)
+{
+    attesa(stato, {1, 300, 5000}, false);
+}
+void GiriConLaBarra(benchmark::State &stato)
+{
+    attesa(stato, {1, 300, 5000}, true);
+}
+
+BENCHMARK(GiriAVuoto)->UseManualTime()->Unit(benchmark::kSecond)->Iterations(1)->Repetitions(3);
+BENCHMARK(GiriConITimerDellaSessione)->UseManualTime()->Unit(benchmark::kSecond)->Iterations(1);
+BENCHMARK(GiriConLaBarra)->UseManualTime()->Unit(benchmark::kSecond)->Iterations(1);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+}
