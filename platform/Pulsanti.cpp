@@ -18,9 +18,15 @@ void Pulsante::mousePressEvent(QMouseEvent *evento)
 {
     Controllo::mousePressEvent(evento);
     // A control that lost the focus to this button may have shown a message box, which the release
-    // went to: it does not come any more, and the button must not stay down.
-    if (evento->spontaneous() && !(QGuiApplication::mouseButtons() & evento->button()))
-        setDown(false);
+    // went to: when it does not come any more, the button must not stay down.
+    const auto rilasciato = [] { return !(QGuiApplication::mouseButtons() & Qt::LeftButton); };
+    if (evento->button() != Qt::LeftButton || !evento->spontaneous() || !rilasciato())
+        return;
+    const auto alza = [this, rilasciato] {
+        if (rilasciato())
+            setDown(false);
+    };
+    QMetaObject::invokeMethod(this, alza, Qt::QueuedConnection);
 }
 
 CasellaSpunta::CasellaSpunta(const QString &nome, QWidget *dentro, const QString &testo)

@@ -74,7 +74,7 @@ TEST_F(PulsantiTest, a_button_whose_release_went_to_a_box_in_between_does_not_st
         testo.SetFocus();
     });
     QTest::mousePress(&pulsante, Qt::LeftButton);
-    EXPECT_FALSE(pulsante.isDown());
+    EXPECT_TRUE(attendi([&] { return !pulsante.isDown(); }));
     EXPECT_TRUE(testo.hasFocus());
     EXPECT_EQ(volte, 0);
 }
