@@ -59,6 +59,8 @@ void frmPrincipale::collegaGestori()
     lblStop.Click.collega(this, &frmPrincipale::lblStop_Click);
     lblStop.MouseDown.collega(this, &frmPrincipale::lblStop_MouseDown);
     lblStop.MouseUp.collega(this, &frmPrincipale::lblStop_MouseUp);
+    collegaTesta();
+    collegaVoce();
 }
 
 void frmPrincipale::Initialize()

@@ -181,6 +181,8 @@ private:
     void disponiVoce();
     void disponiTelemetria();
     void collegaGestori();
+    void collegaTesta();
+    void collegaVoce();
 
     void leggiImmagini();
     void colloca();
@@ -199,9 +201,20 @@ private:
     void lblStop_Click();
     void lblStop_MouseDown();
     void lblStop_MouseUp();
-    // The pressed look of a label on its shape.
+    // The pressed look of a label on its shape, and the shape's place of rest.
     static void premi(Forma &forma, Etichetta &etichetta);
     static void rilascia(Forma &forma, Etichetta &etichetta, double left, double top);
+    static void collegaTarga(Etichetta &etichetta, Forma &forma, double left, double top);
+    void ImgTesta_MouseMove(int Button, int Shift, double X, double Y);
+    void ImgTesta_MouseDown(int Button, int Shift, double X, double Y);
+    void tmrAnimazFrecce_Timer();
+    void mnuComparsa_MouseMove(Elenco &lista, bool acceso, double Y);
+    void mnuComparsa_Click(Elenco &lista, bool acceso);
+    void mostraComparsa(const Elenco &lista, bool visibile);
+    static void lasciaNumero(CasellaTesto &testo, ::SuGiu &suGiu);
+    void pulFrase_Click();
+    void pulSuono_Click();
+    void pulCancMex_Click();
 
     // FinestreSessione.
     void scaricaCamera() override;
@@ -212,4 +225,5 @@ private:
     AmbienteConsole m_ambiente;
     FinestreConsole m_finestre;
     Sessione m_sessione;
+    quint8 PassoFrecce = 0;
 };

@@ -1,0 +1,130 @@
+// Head LEDs, position LED, tools, gripper, photo.
+#include "Abilita_Disabilita.h"
+#include "Attrezzi.h"
+#include "LedTesta.h"
+#include "frmPrincipale.h"
+
+using Attrezzi::Lato;
+
+namespace {
+
+// The left button means on, any other means off.
+bool acceso(int Button)
+{
+    return Button == 1;
+}
+
+} // namespace
+
+void frmPrincipale::collegaTesta()
+{
+    ImgTesta.MouseMove.collega(this, &frmPrincipale::ImgTesta_MouseMove);
+    ImgTesta.MouseDown.collega(this, &frmPrincipale::ImgTesta_MouseDown);
+    for (int i = imgfr.prima(); i <= imgfr.ultima(); ++i)
+        imgfr(i).MouseDown.collega(this, &frmPrincipale::ImgTesta_MouseDown);
+    tmrAnimazFrecce.Timer.collega(this, &frmPrincipale::tmrAnimazFrecce_Timer);
+    mnuComparsaOn.MouseMove.collega(
+        [this](int, int, double, double Y) { mnuComparsa_MouseMove(mnuComparsaOn, true, Y); });
+    mnuComparsaOff.MouseMove.collega(
+        [this](int, int, double, double Y) { mnuComparsa_MouseMove(mnuComparsaOff, false, Y); });
+    mnuComparsaOn.Click.collega([this] { mnuComparsa_Click(mnuComparsaOn, true); });
+    mnuComparsaOff.Click.collega([this] { mnuComparsa_Click(mnuComparsaOff, false); });
+
+    lblAccLED.Click.collega([this] { mandaOInserisci(LedTesta::tutti(true)); });
+    lblSpLED.Click.collega([this] { mandaOInserisci(LedTesta::tutti(false)); });
+    collegaTarga(lblAccLED, Shape3, 60, 240);
+    collegaTarga(lblSpLED, Shape4, 1140, 240);
+
+    imgLEDPos.MouseDown.collega([this](int Button, int, double, double) {
+        mandaOInserisci(Attrezzi::ledPosizione(acceso(Button)));
+    });
+    imgLEDPos.MouseMove.collega([this](int, int, double, double) { MouseMove(); });
+    const auto tool = [this](Immagine &immagine, Lato lato) {
+        immagine.MouseDown.collega([this, lato](int Button, int, double, double) {
+            mandaOInserisci(Attrezzi::tool(lato, acceso(Button)));
+        });
+        immagine.MouseMove.collega([this, lato](int, int, double, double) {
+            BarraStato.setPanels(3, Attrezzi::nomeTool(lato));
+        });
+    };
+    tool(imgToolDx, Lato::Destro);
+    tool(imgToolSx, Lato::Sinistro);
+    imgPinzaAperta.Click.collega([this] { mandaOInserisci(Attrezzi::pinza(true)); });
+    imgPinzaChiusa.Click.collega([this] { mandaOInserisci(Attrezzi::pinza(false)); });
+    lblScattaFoto.Click.collega([this] { mandaOInserisci(Attrezzi::foto()); });
+    collegaTarga(lblScattaFoto, Shape12, 4500, 2040);
+}
+
+void frmPrincipale::ImgTesta_MouseMove(int, int, double X, double Y)
+{
+    if (Y <= Shape3.Top() + Shape3.Height()) {
+        ImgTesta.setTag({});
+        return;
+    }
+    ImgTesta.setTag(LedTesta::lato(X, ImgTesta.Width()));
+    ImpostaVisibili(true, imgfr(0), imgfr(1), imgfr(2), imgfr(3));
+    if (!tmrAnimazFrecce.Enabled())
+        tmrAnimazFrecce.setEnabled(true);
+}
+
+void frmPrincipale::ImgTesta_MouseDown(int Button, int, double, double)
+{
+    if (mnuComparsaOn.Visible())
+        mostraComparsa(mnuComparsaOn, false);
+    else if (mnuComparsaOff.Visible())
+        mostraComparsa(mnuComparsaOff, false);
+    else if (Button == 1)
+        mostraComparsa(mnuComparsaOn, true);
+    else if (Button == 2)
+        mostraComparsa(mnuComparsaOff, true);
+}
+
+void frmPrincipale::mostraComparsa(const Elenco &lista, bool visibile)
+{
+    if (&lista == &mnuComparsaOn)
+        ImpostaVisibili(visibile, shCappelloOn, lblOn, mnuComparsaOn);
+    else
+        ImpostaVisibili(visibile, shCappelloOff, lblOff, mnuComparsaOff);
+}
+
+void frmPrincipale::tmrAnimazFrecce_Timer()
+{
+    PassoFrecce = LedTesta::passoSeguente(PassoFrecce);
+    const QString lato = ImgTesta.Tag();
+    if (lato.isEmpty()) {
+        ImpostaVisibili(false, imgfr(0), imgfr(1), imgfr(2), imgfr(3));
+        tmrAnimazFrecce.setEnabled(false);
+    }
+    const auto posti = LedTesta::frecce(PassoFrecce, lato, ImgTesta.Width());
+    for (int i = imgfr.prima(); i <= imgfr.ultima(); ++i) {
+        const LedTesta::Punto &posto = posti[static_cast<size_t>(i)];
+        imgfr(i).Move(posto.Left, posto.Top);
+    }
+}
+
+void frmPrincipale::mnuComparsa_MouseMove(Elenco &lista, bool acceso, double Y)
+{
+    // Selecting a row raises the list's Click: the Tag tells it that nobody has clicked.
+    lista.setTag(u"NO"_s);
+    passaErrori([&] { lista.setListIndex(LedTesta::rigaSotto(Y, lista.AltezzaRiga())); });
+    const QString testo = LedTesta::suggerimento(lista.ListIndex(), ImgTesta.Tag(), acceso);
+    if (!testo.isEmpty())
+        BarraStato.setPanels(3, testo);
+    lista.setTag(u"SI"_s);
+}
+
+void frmPrincipale::mnuComparsa_Click(Elenco &lista, bool acceso)
+{
+    if (lista.Tag() == u"NO"_s)
+        return;
+    mandaOInserisci(LedTesta::azione(lista.ListIndex(), ImgTesta.Tag(), acceso));
+    mostraComparsa(lista, false);
+}
+
+void frmPrincipale::collegaTarga(Etichetta &etichetta, Forma &forma, double left, double top)
+{
+    etichetta.MouseDown.collega([&](int, int, double, double) { premi(forma, etichetta); });
+    etichetta.MouseUp.collega([&forma, &etichetta, left, top](int, int, double, double) {
+        rilascia(forma, etichetta, left, top);
+    });
+}
