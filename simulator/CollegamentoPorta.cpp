@@ -4,6 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
+inline namespace tessaro_sim {
 CollegamentoPorta::~CollegamentoPorta()
 {
     rimuovi();
@@ -49,3 +50,4 @@ void CollegamentoPorta::rimuovi()
         QFile::remove(nome_);
     nome_.clear();
 }
+} // namespace tessaro_sim

@@ -1,6 +1,7 @@
 #pragma once
 #include <QString>
 
+inline namespace tessaro_sim {
 /// The link COMn in a folder, through which the program finds the line; removed at the end.
 class CollegamentoPorta
 {
@@ -21,3 +22,4 @@ private:
     QString nome_;
     QString meta_;
 };
+} // namespace tessaro_sim

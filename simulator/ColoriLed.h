@@ -2,6 +2,7 @@
 #include <QColor>
 #include <array>
 
+inline namespace tessaro_sim {
 /// The head's LEDs in the order from the forehead down to the ear: mask left, mask right, colour.
 struct CoppiaLed
 {
@@ -13,3 +14,4 @@ struct CoppiaLed
 std::array<CoppiaLed, 4> coppieLed();
 /// The colour of a LED that is off.
 QColor ledSpento(const QColor &acceso);
+} // namespace tessaro_sim

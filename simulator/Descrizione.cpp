@@ -3,6 +3,8 @@
 #include "Vocabolario.h"
 
 using namespace Qt::StringLiterals;
+
+inline namespace tessaro_sim {
 using T = Comando::Tipo;
 
 namespace {
@@ -280,3 +282,4 @@ Comando descrivi(const QByteArray &byte)
     }
     return c;
 }
+} // namespace tessaro_sim

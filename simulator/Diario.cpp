@@ -3,6 +3,7 @@
 
 using namespace Qt::StringLiterals;
 
+inline namespace tessaro_sim {
 namespace {
 QString numeri(const QByteArray &byte)
 {
@@ -22,7 +23,7 @@ bool eRichiesta(const QString &testo)
 }
 } // namespace
 
-QString Voce::riga() const
+QString VoceDiario::riga() const
 {
     QString riga = u"%1  %2  %3"_s.arg(ms, 9).arg(numeri(byte), -16).arg(testo);
     if (!nota.isEmpty())
@@ -39,7 +40,7 @@ QStringList Diario::righe() const
 {
     QStringList righe;
     righe.reserve(voci_.size());
-    for (const Voce &voce : voci_)
+    for (const VoceDiario &voce : voci_)
         righe << voce.riga();
     return righe;
 }
@@ -47,8 +48,8 @@ QStringList Diario::righe() const
 QStringList Diario::comandi(bool conRichieste) const
 {
     QStringList testi;
-    for (const Voce &voce : voci_) {
-        if (voce.tipo == Voce::Tipo::Comando && (conRichieste || !eRichiesta(voce.testo)))
+    for (const VoceDiario &voce : voci_) {
+        if (voce.tipo == VoceDiario::Tipo::Comando && (conRichieste || !eRichiesta(voce.testo)))
             testi << voce.testo;
     }
     return testi;
@@ -56,28 +57,28 @@ QStringList Diario::comandi(bool conRichieste) const
 
 int Diario::conta(const QString &testo) const
 {
-    return static_cast<int>(std::count_if(voci_.cbegin(), voci_.cend(),
-                                          [&](const Voce &voce) { return voce.testo == testo; }));
+    return static_cast<int>(std::count_if(
+        voci_.cbegin(), voci_.cend(), [&](const VoceDiario &voce) { return voce.testo == testo; }));
 }
 
 QByteArray Diario::nonCapiti() const
 {
     QByteArray byte;
-    for (const Voce &voce : voci_) {
-        if (voce.tipo == Voce::Tipo::NonCapito)
+    for (const VoceDiario &voce : voci_) {
+        if (voce.tipo == VoceDiario::Tipo::NonCapito)
             byte += voce.byte;
     }
     return byte;
 }
 
-void Diario::aggiungi(Voce::Tipo tipo, const QString &testo, const QByteArray &byte,
+void Diario::aggiungi(VoceDiario::Tipo tipo, const QString &testo, const QByteArray &byte,
                       const QString &nota)
 {
     if (voci_.size() >= massimo)
         voci_.remove(0, massimo / 10);
     voci_.append({tipo, orologio_.elapsed(), testo, byte, nota});
     // A copy: whoever listens may empty the diary.
-    const Voce voce = voci_.constLast();
+    const VoceDiario voce = voci_.constLast();
     Q_EMIT aggiunta(voce);
 }
 
@@ -86,3 +87,4 @@ void Diario::svuota()
     voci_.clear();
     Q_EMIT svuotato();
 }
+} // namespace tessaro_sim

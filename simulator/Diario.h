@@ -6,8 +6,9 @@
 #include <QString>
 #include <QStringList>
 
+inline namespace tessaro_sim {
 /// One line of the diary.
-struct Voce
+struct VoceDiario
 {
     enum class Tipo {
         Comando,   ///< a command of the byte tables
@@ -33,7 +34,7 @@ public:
     explicit Diario(QObject *parent = nullptr);
 
     /// Entries in order of arrival. Only the last `massimo` are kept.
-    const QList<Voce> &voci() const { return voci_; }
+    const QList<VoceDiario> &voci() const { return voci_; }
     static constexpr int massimo = 20000;
 
     /// All entries as lines of text.
@@ -46,15 +47,16 @@ public:
     /// The bytes that were not understood, in order.
     QByteArray nonCapiti() const;
 
-    void aggiungi(Voce::Tipo tipo, const QString &testo, const QByteArray &byte = {},
+    void aggiungi(VoceDiario::Tipo tipo, const QString &testo, const QByteArray &byte = {},
                   const QString &nota = {});
     void svuota();
 
 Q_SIGNALS:
-    void aggiunta(const Voce &voce);
+    void aggiunta(const VoceDiario &voce);
     void svuotato();
 
 private:
-    QList<Voce> voci_;
+    QList<VoceDiario> voci_;
     QElapsedTimer orologio_;
 };
+} // namespace tessaro_sim

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QRadialGradient>
 
+inline namespace tessaro_sim {
 namespace {
 const QColor contorno(0x33, 0x3d, 0x4a);
 
@@ -100,3 +101,4 @@ void disegnaDallAlto(QPainter &p, const StatoRobot &stato)
     }
     testa(p, stato);
 }
+} // namespace tessaro_sim

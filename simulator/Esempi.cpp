@@ -10,6 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
+inline namespace tessaro_sim {
 namespace {
 bool scrivi(const QString &file, const QByteArray &contenuto)
 {
@@ -80,3 +81,4 @@ bool creaEsempi(const QString &cartella)
     bene = scrivi(in(u"usb/ricambi.txt"_s), "2 ruote\r\n1 pinza\r\n") && bene;
     return bene;
 }
+} // namespace tessaro_sim

@@ -14,6 +14,7 @@
 
 using namespace Qt::StringLiterals;
 
+inline namespace tessaro_sim {
 namespace {
 const QString stile = uR"(
 QWidget#frmSimulatore { background: #e9edf2; }
@@ -166,3 +167,4 @@ void FinestraSimulatore::mostra()
     voce_->setText(voce_->fontMetrics().elidedText(detto, Qt::ElideRight, voce_->width()));
     voce_->setToolTip(detto);
 }
+} // namespace tessaro_sim

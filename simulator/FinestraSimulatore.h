@@ -2,6 +2,8 @@
 #include <QWidget>
 
 class QLabel;
+
+inline namespace tessaro_sim {
 class Simulatore;
 
 /// The simulator's window: the room, the robot from the front, its sensors, line, camera, diary.
@@ -26,3 +28,4 @@ private:
     QLabel *programma_ = nullptr;
     QLabel *foto_ = nullptr;
 };
+} // namespace tessaro_sim

@@ -1,5 +1,6 @@
 #include "Guasti.h"
 
+inline namespace tessaro_sim {
 bool FiltroGuasti::capita(double probabilita)
 {
     if (probabilita <= 0.0)
@@ -35,3 +36,4 @@ QByteArray FiltroGuasti::linea(const QByteArray &byte, const Guasti &guasti)
     }
     return uscita;
 }
+} // namespace tessaro_sim

@@ -2,6 +2,7 @@
 #include <QByteArray>
 #include <random>
 
+inline namespace tessaro_sim {
 /// The faults that can be ordered; as it stands at first, none.
 struct Guasti
 {
@@ -41,3 +42,4 @@ private:
     bool capita(double probabilita);
     std::mt19937 caso_;
 };
+} // namespace tessaro_sim

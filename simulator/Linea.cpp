@@ -3,6 +3,7 @@
 #include "LineaPty.h"
 #endif
 
+inline namespace tessaro_sim {
 std::unique_ptr<Linea> creaLinea()
 {
 #ifdef Q_OS_UNIX
@@ -11,3 +12,4 @@ std::unique_ptr<Linea> creaLinea()
     return nullptr;
 #endif
 }
+} // namespace tessaro_sim

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 
+inline namespace tessaro_sim {
 /// The robot's end of a serial line: all that depends on the operating system.
 class Linea
 {
@@ -31,3 +32,4 @@ public:
 
 /// The line of this operating system.
 std::unique_ptr<Linea> creaLinea();
+} // namespace tessaro_sim

@@ -13,6 +13,7 @@
 
 using namespace Qt::StringLiterals;
 
+inline namespace tessaro_sim {
 LineaPty::~LineaPty()
 {
     chiudi();
@@ -168,3 +169,4 @@ qsizetype LineaPty::scrivi(const QByteArray &byte)
     const ssize_t n = ::write(capo_, byte.constData(), static_cast<std::size_t>(byte.size()));
     return n > 0 ? n : 0;
 }
+} // namespace tessaro_sim

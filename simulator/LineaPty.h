@@ -3,6 +3,7 @@
 #include <QSocketNotifier>
 #include <memory>
 
+inline namespace tessaro_sim {
 /// A pseudo-terminal, its other end in raw mode.
 ///
 /// The line keeps the other end open itself, so that the program may close and reopen it without
@@ -43,3 +44,4 @@ private:
     std::unique_ptr<QSocketNotifier> notaLettura_;
     std::unique_ptr<QSocketNotifier> notaAperture_;
 };
+} // namespace tessaro_sim

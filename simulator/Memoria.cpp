@@ -7,6 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
+inline namespace tessaro_sim {
 namespace {
 bool eVolume(const QByteArray &nome)
 {
@@ -213,3 +214,4 @@ QString Memoria::salvaFoto(const QImage &foto)
     }
     return {};
 }
+} // namespace tessaro_sim

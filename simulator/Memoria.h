@@ -7,6 +7,8 @@
 #include <memory>
 
 class QTemporaryDir;
+
+inline namespace tessaro_sim {
 struct Guasti;
 
 /// The robot's storage: a host folder seen through numbered channels, answered in telegrams.
@@ -69,3 +71,4 @@ private:
     std::unique_ptr<QTemporaryDir> temporanea_;
     std::map<int, Canale> aperti_;
 };
+} // namespace tessaro_sim

@@ -4,6 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
+inline namespace tessaro_sim {
 namespace {
 constexpr int righeMassime = 4000;
 
@@ -18,14 +19,14 @@ QString inNumeri(const QByteArray &byte)
     return parti.join(u' ');
 }
 
-QColor colore(Voce::Tipo tipo)
+QColor colore(VoceDiario::Tipo tipo)
 {
     switch (tipo) {
-    case Voce::Tipo::NonCapito:
+    case VoceDiario::Tipo::NonCapito:
         return QColor(0xb4, 0x23, 0x18);
-    case Voce::Tipo::Sessione:
+    case VoceDiario::Tipo::Sessione:
         return QColor(0x17, 0x5c, 0xb5);
-    case Voce::Tipo::Nota:
+    case VoceDiario::Tipo::Nota:
         return QColor(0x5b, 0x66, 0x74);
     default:
         return QColor(0x1c, 0x24, 0x2e);
@@ -47,12 +48,12 @@ void ModelloDiario::nascondiRichieste(bool nascoste)
     ricarica();
 }
 
-bool ModelloDiario::mostrata(const Voce &voce) const
+bool ModelloDiario::mostrata(const VoceDiario &voce) const
 {
     return !senzaRichieste_ || !voce.testo.startsWith(u"Richiedi"_s);
 }
 
-void ModelloDiario::aggiungi(const Voce &voce)
+void ModelloDiario::aggiungi(const VoceDiario &voce)
 {
     if (!mostrata(voce))
         return;
@@ -72,7 +73,7 @@ void ModelloDiario::ricarica()
 {
     beginResetModel();
     voci_.clear();
-    for (const Voce &voce : diario_.voci()) {
+    for (const VoceDiario &voce : diario_.voci()) {
         if (mostrata(voce))
             voci_.append(voce);
     }
@@ -95,7 +96,7 @@ QVariant ModelloDiario::data(const QModelIndex &indice, int ruolo) const
 {
     if (!indice.isValid())
         return {};
-    const Voce &voce = voci_.at(indice.row());
+    const VoceDiario &voce = voci_.at(indice.row());
     if (ruolo == Qt::ForegroundRole)
         return colore(voce.tipo);
     if (ruolo == Qt::TextAlignmentRole && indice.column() == Tempo)
@@ -124,3 +125,4 @@ QVariant ModelloDiario::headerData(int sezione, Qt::Orientation verso, int ruolo
         return {};
     return sezione == Tempo ? u"Secondi"_s : sezione == Byte ? u"Byte"_s : u"Voce"_s;
 }
+} // namespace tessaro_sim

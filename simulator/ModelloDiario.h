@@ -2,6 +2,7 @@
 #include "Diario.h"
 #include <QAbstractTableModel>
 
+inline namespace tessaro_sim {
 /// The diary as the rows of a table: seconds, bytes, text with its remark.
 class ModelloDiario : public QAbstractTableModel
 {
@@ -20,11 +21,12 @@ public:
     QVariant headerData(int sezione, Qt::Orientation verso, int ruolo) const override;
 
 private:
-    bool mostrata(const Voce &voce) const;
-    void aggiungi(const Voce &voce);
+    bool mostrata(const VoceDiario &voce) const;
+    void aggiungi(const VoceDiario &voce);
     void ricarica();
 
     Diario &diario_;
-    QList<Voce> voci_;
+    QList<VoceDiario> voci_;
     bool senzaRichieste_ = true;
 };
+} // namespace tessaro_sim

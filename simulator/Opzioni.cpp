@@ -8,6 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
+inline namespace tessaro_sim {
 namespace {
 struct Scelta
 {
@@ -218,3 +219,4 @@ QString Opzioni::applica(Simulatore &simulatore) const
     }
     return {};
 }
+} // namespace tessaro_sim

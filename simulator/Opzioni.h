@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <array>
 
+inline namespace tessaro_sim {
 class Simulatore;
 
 /// What the command line asks for.
@@ -37,3 +38,4 @@ struct Opzioni
     /// Sets up the simulator, line included. Empty on success, else what went wrong.
     QString applica(Simulatore &simulatore) const;
 };
+} // namespace tessaro_sim

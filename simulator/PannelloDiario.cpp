@@ -13,6 +13,7 @@
 
 using namespace Qt::StringLiterals;
 
+inline namespace tessaro_sim {
 PannelloDiario::PannelloDiario(Diario &diario, QWidget *parent)
     : QGroupBox(u"Diario"_s, parent), diario_(diario)
 {
@@ -71,3 +72,4 @@ void PannelloDiario::copia()
 {
     QGuiApplication::clipboard()->setText(diario_.righe().join(u'\n'));
 }
+} // namespace tessaro_sim

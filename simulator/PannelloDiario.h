@@ -1,9 +1,11 @@
 #pragma once
 #include <QGroupBox>
 
+class QTableView;
+
+inline namespace tessaro_sim {
 class Diario;
 class ModelloDiario;
-class QTableView;
 
 /// The diary as it grows; it follows its end unless one has scrolled up.
 class PannelloDiario : public QGroupBox
@@ -19,3 +21,4 @@ private:
     ModelloDiario *modello_ = nullptr;
     QTableView *elenco_ = nullptr;
 };
+} // namespace tessaro_sim

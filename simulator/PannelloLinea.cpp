@@ -10,6 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
+inline namespace tessaro_sim {
 namespace {
 constexpr double pocoRumore = 0.03; // of all bytes
 constexpr std::array<int, 5> velocita{9600, 38400, 115200, 460800, 0};
@@ -94,3 +95,4 @@ void PannelloLinea::aggancia(bool staccata)
     stacca_->setText(stacca_->isChecked() ? u"Riattacca il cavo"_s : u"Stacca il cavo"_s);
     mostra();
 }
+} // namespace tessaro_sim

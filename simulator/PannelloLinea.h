@@ -4,6 +4,8 @@
 class QComboBox;
 class QLabel;
 class QPushButton;
+
+inline namespace tessaro_sim {
 class Simulatore;
 
 /// The line: who listens, its speed, and its faults.
@@ -25,3 +27,4 @@ private:
     QPushButton *disturbi_ = nullptr;
     QPushButton *stacca_ = nullptr;
 };
+} // namespace tessaro_sim

@@ -8,6 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
+inline namespace tessaro_sim {
 namespace {
 QString livello(int carica)
 {
@@ -118,3 +119,4 @@ void PannelloSensori::mostra()
         caselle[i]->setChecked(s.ultrasuoni[i] != 0);
     }
 }
+} // namespace tessaro_sim

@@ -4,6 +4,8 @@
 class QCheckBox;
 class QLabel;
 class QSlider;
+
+inline namespace tessaro_sim {
 class Robot;
 
 /// What the robot's sensors measure, turned by hand.
@@ -30,3 +32,4 @@ private:
     QCheckBox *destro_ = nullptr;
     QCheckBox *dallaStanza_ = nullptr;
 };
+} // namespace tessaro_sim

@@ -11,6 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
+inline namespace tessaro_sim {
 namespace {
 constexpr int aggiornamento = 120; // ms between two pictures at most
 constexpr QSize vista{144, 108};
@@ -86,3 +87,4 @@ void PannelloTelecamera::mostra()
     fonte_->setToolTip(cartella.isEmpty() ? u"Cosa manda la telecamera"_s
                                           : QDir::toNativeSeparators(cartella));
 }
+} // namespace tessaro_sim

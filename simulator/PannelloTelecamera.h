@@ -4,6 +4,8 @@
 
 class QComboBox;
 class QLabel;
+
+inline namespace tessaro_sim {
 class Robot;
 
 /// What the camera sees: the room, or a folder of pictures.
@@ -27,3 +29,4 @@ private:
     QLabel *stato_ = nullptr;
     QTimer ritardo_;
 };
+} // namespace tessaro_sim

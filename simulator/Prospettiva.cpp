@@ -6,6 +6,7 @@
 #include <numbers>
 #include <vector>
 
+inline namespace tessaro_sim {
 namespace {
 constexpr double occhio = 46.0;        // cm above the floor with the pelvis down
 constexpr double corsaBacino = 12.0;   // cm
@@ -206,3 +207,4 @@ QImage disegnaProspettiva(const StatoRobot &stato, const Stanza &stanza, int lar
 {
     return Pittore(stato, stanza, larghezza, altezza).disegna();
 }
+} // namespace tessaro_sim

@@ -8,6 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
+inline namespace tessaro_sim {
 namespace {
 const QColor contorno(0x33, 0x3d, 0x4a);
 const QColor inchiostro(0x2b, 0x34, 0x40);
@@ -173,3 +174,4 @@ void QuadroRobot::paintEvent(QPaintEvent *)
     targa(p, QPointF(38, 14), u"Destra"_s);
     targa(p, QPointF(2 * mezzo - 38, 14), u"Sinistra"_s);
 }
+} // namespace tessaro_sim

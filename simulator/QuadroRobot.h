@@ -1,6 +1,7 @@
 #pragma once
 #include <QWidget>
 
+inline namespace tessaro_sim {
 class Robot;
 struct StatoRobot;
 
@@ -19,3 +20,4 @@ protected:
 private:
     Robot &robot_;
 };
+} // namespace tessaro_sim

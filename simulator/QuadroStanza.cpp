@@ -11,6 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
+inline namespace tessaro_sim {
 namespace {
 constexpr double muro = 9.0;        // cm
 constexpr int durataFumetto = 8000; // ms
@@ -236,3 +237,4 @@ void QuadroStanza::mouseReleaseEvent(QMouseEvent *)
 {
     presa_ = -1;
 }
+} // namespace tessaro_sim

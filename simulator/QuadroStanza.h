@@ -2,6 +2,7 @@
 #include <QTimer>
 #include <QWidget>
 
+inline namespace tessaro_sim {
 class Robot;
 
 /// The room from above, with the robot in it; its things and the robot can be dragged.
@@ -38,3 +39,4 @@ private:
     int presa_ = -1; // the thing in hand; -2 the robot
     QPointF scarto_;
 };
+} // namespace tessaro_sim

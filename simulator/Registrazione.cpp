@@ -3,6 +3,7 @@
 
 using namespace Qt::StringLiterals;
 
+inline namespace tessaro_sim {
 namespace {
 const QByteArray intestazione = "# tessaro-sim registrazione 1\n";
 
@@ -78,3 +79,4 @@ void Registratore::scrivi(bool versoRobot, const QByteArray &byte)
     file_.write(Registrazione::riga({orologio_.elapsed(), versoRobot, byte}));
     file_.flush();
 }
+} // namespace tessaro_sim

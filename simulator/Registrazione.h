@@ -5,6 +5,7 @@
 #include <QList>
 #include <QString>
 
+inline namespace tessaro_sim {
 /// A wire session as text, one line for each stretch of bytes:
 ///
 ///     # tessaro-sim registrazione 1
@@ -41,3 +42,4 @@ private:
     QFile file_;
     QElapsedTimer orologio_;
 };
+} // namespace tessaro_sim

@@ -1,6 +1,7 @@
 #include "Riconoscitore.h"
 #include "Descrizione.h"
 
+inline namespace tessaro_sim {
 namespace {
 constexpr int manca = 0;   // more bytes are needed to tell
 constexpr int ignoto = -1; // the first byte starts nothing
@@ -123,3 +124,4 @@ void Riconoscitore::ricevi(const QByteArray &byte)
             suComando(comando);
     }
 }
+} // namespace tessaro_sim

@@ -3,6 +3,7 @@
 #include <QString>
 #include <functional>
 
+inline namespace tessaro_sim {
 /// One command of the byte tables, as it was recognised.
 struct Comando
 {
@@ -69,3 +70,4 @@ public:
 private:
     QByteArray coda_;
 };
+} // namespace tessaro_sim

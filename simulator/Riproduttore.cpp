@@ -1,6 +1,7 @@
 #include "Riproduttore.h"
 #include <algorithm>
 
+inline namespace tessaro_sim {
 Riproduttore::Riproduttore()
 {
     timer_.setSingleShot(true);
@@ -78,3 +79,4 @@ void Riproduttore::scaduto()
     if (suByte)
         suByte(byte);
 }
+} // namespace tessaro_sim

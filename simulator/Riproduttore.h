@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <functional>
 
+inline namespace tessaro_sim {
 /// Plays the robot's side of a recorded session.
 class Riproduttore
 {
@@ -37,3 +38,4 @@ private:
     QElapsedTimer orologio_;
     QTimer timer_;
 };
+} // namespace tessaro_sim

@@ -1,6 +1,7 @@
 #include "Ritmo.h"
 #include <algorithm>
 
+inline namespace tessaro_sim {
 qsizetype Ritmo::permessi(qint64 ms, qsizetype inCoda)
 {
     if (baud_ <= 0)
@@ -13,3 +14,4 @@ qsizetype Ritmo::permessi(qint64 ms, qsizetype inCoda)
     const qint64 portati = (ms - inizio_) * baud_ / 10 / 1000;
     return static_cast<qsizetype>(std::clamp<qint64>(portati - usciti_, 0, inCoda));
 }
+} // namespace tessaro_sim

@@ -2,6 +2,7 @@
 #include <QByteArray>
 #include <QtGlobal>
 
+inline namespace tessaro_sim {
 /// How many bytes a line of a given speed has carried by now: the pace of what goes out.
 class Ritmo
 {
@@ -27,3 +28,4 @@ private:
     qint64 inizio_ = 0;
     qint64 usciti_ = 0;
 };
+} // namespace tessaro_sim

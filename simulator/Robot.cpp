@@ -7,6 +7,8 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+
+inline namespace tessaro_sim {
 using T = Comando::Tipo;
 
 Robot::Robot(Diario &diario, QObject *parent)
@@ -18,8 +20,8 @@ Robot::Robot(Diario &diario, QObject *parent)
 {
     riconoscitore_.suComando = [this](const Comando &comando) { esegui(comando); };
     riconoscitore_.suIgnoto = [this](char c) {
-        diario_.aggiungi(Voce::Tipo::NonCapito, u"Byte %1 non capito"_s.arg(static_cast<quint8>(c)),
-                         QByteArray(1, c));
+        diario_.aggiungi(VoceDiario::Tipo::NonCapito,
+                         u"Byte %1 non capito"_s.arg(static_cast<quint8>(c)), QByteArray(1, c));
     };
 }
 
@@ -39,7 +41,7 @@ void Robot::esegui(const Comando &comando)
         note << u"valore non previsto"_s;
     if (ignorato)
         note << u"sessione chiusa: ignorato"_s;
-    diario_.aggiungi(Voce::Tipo::Comando, comando.testo, comando.byte, note.join(u", "_s));
+    diario_.aggiungi(VoceDiario::Tipo::Comando, comando.testo, comando.byte, note.join(u", "_s));
     if (ignorato)
         return;
 
@@ -88,7 +90,7 @@ void Robot::apriSessione()
     memoria_->chiudiTutti();
     stato_.videoAttivo = false;
     stato_.sessioneAperta = true;
-    diario_.aggiungi(Voce::Tipo::Sessione, u"Sessione aperta"_s);
+    diario_.aggiungi(VoceDiario::Tipo::Sessione, u"Sessione aperta"_s);
     attendeSollecito_ = guasti_.soloDopoSollecito;
     if (attendeSollecito_)
         return;
@@ -119,7 +121,7 @@ void Robot::chiudiSessione()
     stato_.videoAttivo = false;
     stato_.base = MotoBase::Fermo;
     memoria_->chiudiTutti();
-    diario_.aggiungi(Voce::Tipo::Sessione, u"Sessione chiusa"_s);
+    diario_.aggiungi(VoceDiario::Tipo::Sessione, u"Sessione chiusa"_s);
 }
 
 void Robot::eseguiRichiesta(const Comando &comando)
@@ -228,5 +230,6 @@ QByteArray Robot::prossimaRiga()
 
 void Robot::annota(const QString &testo)
 {
-    diario_.aggiungi(Voce::Tipo::Nota, testo);
+    diario_.aggiungi(VoceDiario::Tipo::Nota, testo);
 }
+} // namespace tessaro_sim

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <memory>
 
+inline namespace tessaro_sim {
 class Diario;
 class Memoria;
 class Stanza;
@@ -84,3 +85,4 @@ private:
     bool risponde_ = true;
     bool attendeSollecito_ = false;
 };
+} // namespace tessaro_sim

@@ -10,6 +10,8 @@
 #include <numbers>
 
 using namespace Qt::StringLiterals;
+
+inline namespace tessaro_sim {
 using T = Comando::Tipo;
 
 namespace {
@@ -250,3 +252,4 @@ void Robot::misura()
     else
         stato_.ultrasuoni = nuovi;
 }
+} // namespace tessaro_sim

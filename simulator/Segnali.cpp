@@ -31,6 +31,8 @@ void ascoltaChiusura(const std::function<void()> &allaChiusura)
     });
     for (const int segnale : {SIGTERM, SIGINT, SIGHUP})
         std::signal(segnale, alSegnale);
+    // Whoever read our output may leave; the robot stays.
+    std::signal(SIGPIPE, SIG_IGN);
 }
 #else
 void ascoltaChiusura(const std::function<void()> &) {}

@@ -9,6 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
+inline namespace tessaro_sim {
 namespace {
 constexpr int passo = 20;                   // ms of the robot's clock
 constexpr qint64 massimoRicevuti = 1 << 20; // bytes kept of what was received
@@ -23,8 +24,8 @@ public:
         orologio.start();
         linea->suLettura = [this](const QByteArray &byte) { arrivati(byte); };
         linea->suAscolto = [this](bool aperta) {
-            diario.aggiungi(Voce::Tipo::Sessione, aperta ? u"Porta aperta dal programma"_s
-                                                         : u"Porta chiusa dal programma"_s);
+            diario.aggiungi(VoceDiario::Tipo::Sessione, aperta ? u"Porta aperta dal programma"_s
+                                                               : u"Porta chiusa dal programma"_s);
             Q_EMIT q.portaCambiata(aperta);
         };
         uscita.suInvio = [this](const QByteArray &byte) {
@@ -83,7 +84,7 @@ public:
     void accoda(const QByteArray &byte)
     {
         if (const qsizetype persi = uscita.accoda(byte); persi > 0)
-            diario.aggiungi(Voce::Tipo::Nota, u"Coda piena: %1 byte perduti"_s.arg(persi));
+            diario.aggiungi(VoceDiario::Tipo::Nota, u"Coda piena: %1 byte perduti"_s.arg(persi));
     }
 
     // What has no end (video, a flood, a recording) is made only as the line takes it.
@@ -199,14 +200,14 @@ void Simulatore::sgancia()
     d->linea->chiudi();
     d->uscita.svuota();
     d->inAttesa.clear();
-    d->diario.aggiungi(Voce::Tipo::Sessione, u"Linea sganciata"_s);
+    d->diario.aggiungi(VoceDiario::Tipo::Sessione, u"Linea sganciata"_s);
 }
 
 bool Simulatore::riaggancia()
 {
     if (!apri())
         return false;
-    d->diario.aggiungi(Voce::Tipo::Sessione, u"Linea riagganciata"_s);
+    d->diario.aggiungi(VoceDiario::Tipo::Sessione, u"Linea riagganciata"_s);
     return true;
 }
 
@@ -294,3 +295,4 @@ bool Simulatore::riproduci(const QString &file, bool tempiOriginali)
     d->errore = d->riproduttore.errore();
     return false;
 }
+} // namespace tessaro_sim

@@ -7,6 +7,9 @@
 #include <QString>
 #include <memory>
 
+// Inline: a test need not name it, and no name of the simulator can clash with one of the program
+// where both are linked.
+inline namespace tessaro_sim {
 class Linea;
 
 /// The robot at the end of a line: opens it, paces what goes out, applies the faults, keeps a log.
@@ -78,3 +81,4 @@ private:
     class Interno;
     std::unique_ptr<Interno> d;
 };
+} // namespace tessaro_sim

@@ -5,6 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
+inline namespace tessaro_sim {
 namespace {
 double lunghezza(const QPointF &p)
 {
@@ -100,3 +101,4 @@ double Stanza::distanza(const QPointF &da, double gradi) const
     }
     return std::max(vicino, 0.0);
 }
+} // namespace tessaro_sim

@@ -4,6 +4,7 @@
 #include <QPointF>
 #include <QString>
 
+inline namespace tessaro_sim {
 /// A thing in the room, seen from above a disc.
 struct Cosa
 {
@@ -46,3 +47,4 @@ private:
     bool libero(const QPointF &centro, double raggio, int tranne) const;
     QList<Cosa> cose_;
 };
+} // namespace tessaro_sim

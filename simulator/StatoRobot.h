@@ -4,6 +4,7 @@
 #include <array>
 #include <set>
 
+inline namespace tessaro_sim {
 /// The eight head LEDs as bits of the mask on the wire.
 enum LedDellaTesta : quint8 {
     LedBs = 1,
@@ -64,3 +65,4 @@ struct StatoRobot
     int batteriaMotori = 180;               ///< 0 to 255
     std::array<int, 3> ultrasuoni{0, 0, 0}; ///< right, centre, left; 0 nothing, else 1 to 255
 };
+} // namespace tessaro_sim

@@ -5,6 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
+inline namespace tessaro_sim {
 bool Telecamera::impostaCartella(const QString &cartella)
 {
     cartella_.clear();
@@ -65,3 +66,4 @@ QByteArray Telecamera::codifica(const QImage &immagine, int riga)
     }
     return byte;
 }
+} // namespace tessaro_sim

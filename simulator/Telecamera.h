@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 
+inline namespace tessaro_sim {
 class Stanza;
 struct StatoRobot;
 
@@ -42,3 +43,4 @@ private:
     int riga_ = 0;
     QImage fotogramma_;
 };
+} // namespace tessaro_sim

@@ -1,5 +1,6 @@
 #include "Telegrammi.h"
 
+inline namespace tessaro_sim {
 namespace {
 constexpr char scorta = 0;
 
@@ -47,3 +48,4 @@ QByteArray Telegrammi::rigaVideo(const QByteArray &punti)
 {
     return QByteArray(1, 13) + punti;
 }
+} // namespace tessaro_sim

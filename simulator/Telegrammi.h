@@ -2,6 +2,7 @@
 #include <QByteArray>
 #include <array>
 
+inline namespace tessaro_sim {
 /// The telegrams that the robot sends, built from their fields. Numbers are cut to their bytes.
 namespace Telegrammi {
 QByteArray temperatura(int gradi);
@@ -16,3 +17,4 @@ QByteArray bloccoFile(int canale, const QByteArray &corpo, int delta = 0);
 /// `punti`: the 160 bytes of a row.
 QByteArray rigaVideo(const QByteArray &punti);
 } // namespace Telegrammi
+} // namespace tessaro_sim

@@ -1,6 +1,7 @@
 #include "Uscita.h"
 #include "Linea.h"
 
+inline namespace tessaro_sim {
 Uscita::Uscita(Linea &linea) : linea_(linea)
 {
     orologio_.start();
@@ -49,3 +50,4 @@ void Uscita::spedisci()
         timer_.stop();
     }
 }
+} // namespace tessaro_sim

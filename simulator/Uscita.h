@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <functional>
 
+inline namespace tessaro_sim {
 class Linea;
 
 /// The bytes on their way to the line: a bounded queue, let out at the line's pace.
@@ -42,3 +43,4 @@ private:
     QElapsedTimer orologio_;
     QTimer timer_;
 };
+} // namespace tessaro_sim

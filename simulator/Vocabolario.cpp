@@ -1,6 +1,7 @@
 #include "Vocabolario.h"
 #include <array>
 
+inline namespace tessaro_sim {
 namespace {
 constexpr std::array<const char16_t *, Vocabolario::frasi> testiFrasi{
     u"Memorizzerò la tua voce per riconoscerti in futuro",
@@ -182,3 +183,4 @@ QString Vocabolario::suono(int numero)
 {
     return prendi(testiSuoni, numero);
 }
+} // namespace tessaro_sim

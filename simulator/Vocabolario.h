@@ -1,6 +1,7 @@
 #pragma once
 #include <QString>
 
+inline namespace tessaro_sim {
 /// The robot's own memory of what it can say: phrases and sounds by number.
 namespace Vocabolario {
 inline constexpr int frasi = 140;
@@ -14,3 +15,4 @@ QString frase(int numero);
 /// Name of sound 1..16; empty for any other number.
 QString suono(int numero);
 } // namespace Vocabolario
+} // namespace tessaro_sim

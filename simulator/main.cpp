@@ -5,8 +5,10 @@
 #include "Simulatore.h"
 #include <QApplication>
 #include <QFile>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QTextStream>
+#include <QTranslator>
 #include <cstdio>
 #include <memory>
 
@@ -24,13 +26,13 @@ bool seguiDiario(Simulatore &sim, QFile &file, const QString &nome)
 {
     if (nome.isEmpty()) {
         QObject::connect(&sim.diario(), &Diario::aggiunta, &sim,
-                         [](const Voce &voce) { scrivi(stdout, voce.riga()); });
+                         [](const VoceDiario &voce) { scrivi(stdout, voce.riga()); });
         return true;
     }
     file.setFileName(nome);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Append))
         return false;
-    QObject::connect(&sim.diario(), &Diario::aggiunta, &sim, [&file](const Voce &voce) {
+    QObject::connect(&sim.diario(), &Diario::aggiunta, &sim, [&file](const VoceDiario &voce) {
         file.write(voce.riga().toUtf8() + '\n');
         file.flush();
     });
@@ -55,14 +57,20 @@ int main(int argc, char **argv)
     }
 
     QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
+    QTranslator italiano;
     std::unique_ptr<QCoreApplication> app;
     if (opzioni.senzaFinestra) {
         app = std::make_unique<QCoreApplication>(argc, argv);
     } else {
         QApplication::setStyle(u"Fusion"_s);
         app = std::make_unique<QApplication>(argc, argv);
+        // Qt's own dialogs speak Italian where its translations are installed.
+        if (italiano.load(u"qtbase_it"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+            QCoreApplication::installTranslator(&italiano);
     }
     QCoreApplication::setApplicationName(u"tessaro-sim"_s);
+    // Before the link is there, which would otherwise outlive an early end.
+    ascoltaChiusura([] { QCoreApplication::quit(); });
 
     QFile log;
     Simulatore sim;
@@ -75,7 +83,6 @@ int main(int argc, char **argv)
         return 1;
     }
     scrivi(stdout, sim.percorso());
-    ascoltaChiusura([] { QCoreApplication::quit(); });
 
     std::unique_ptr<FinestraSimulatore> finestra;
     if (!opzioni.senzaFinestra) {

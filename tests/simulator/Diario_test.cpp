@@ -5,14 +5,14 @@ using namespace Qt::StringLiterals;
 
 TEST(DiarioDelRobot, ALineShowsStampBytesTextAndRemark)
 {
-    const Voce voce{Voce::Tipo::Comando, 1234, u"BaseAvanti v=7"_s, b({19, 65, 7}),
-                    u"valore non previsto"_s};
+    const VoceDiario voce{VoceDiario::Tipo::Comando, 1234, u"BaseAvanti v=7"_s, b({19, 65, 7}),
+                          u"valore non previsto"_s};
     EXPECT_EQ(voce.riga().simplified(), u"1234 19 65 7 BaseAvanti v=7 [valore non previsto]"_s);
 }
 
 TEST(DiarioDelRobot, ALongRunOfBytesIsShortenedInTheLineOnly)
 {
-    const Voce voce{Voce::Tipo::Comando, 0, u"x"_s, QByteArray(100, 'a'), {}};
+    const VoceDiario voce{VoceDiario::Tipo::Comando, 0, u"x"_s, QByteArray(100, 'a'), {}};
     EXPECT_TRUE(voce.riga().contains(u"…(100)"_s));
     EXPECT_EQ(voce.byte.size(), 100);
 }
@@ -39,7 +39,7 @@ TEST(DiarioDelRobot, OnlyTheLastEntriesAreKept)
 {
     Diario diario;
     for (int i = 0; i < Diario::massimo + 5; ++i)
-        diario.aggiungi(Voce::Tipo::Nota, QString::number(i));
+        diario.aggiungi(VoceDiario::Tipo::Nota, QString::number(i));
     EXPECT_LE(diario.voci().size(), Diario::massimo);
     EXPECT_EQ(diario.voci().constLast().testo, QString::number(Diario::massimo + 4));
 }
@@ -49,8 +49,8 @@ TEST(DiarioDelRobot, EachEntryIsSignalledOnce)
     Diario diario;
     QStringList visti;
     QObject::connect(&diario, &Diario::aggiunta, &diario,
-                     [&](const Voce &voce) { visti << voce.testo; });
-    diario.aggiungi(Voce::Tipo::Nota, u"uno"_s);
-    diario.aggiungi(Voce::Tipo::Nota, u"due"_s);
+                     [&](const VoceDiario &voce) { visti << voce.testo; });
+    diario.aggiungi(VoceDiario::Tipo::Nota, u"uno"_s);
+    diario.aggiungi(VoceDiario::Tipo::Nota, u"due"_s);
     EXPECT_EQ(visti, (QStringList{u"uno"_s, u"due"_s}));
 }
