@@ -1,0 +1,23 @@
+// The list file: a count, then the lines.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <functional>
+
+namespace FileMosse {
+
+inline constexpr int righeMassime = 32767;
+
+// The file's bytes: the number of the last line between two blanks, then every line as it stands;
+// CR LF behind each. A character that Windows-1252 lacks becomes "?".
+QByteArray scritto(const QStringList &righe);
+
+// Reads from the file that is open under that number, by fields, which is unlike the writing: a
+// comma parts a line in two, blanks in front of it and quotes around it go. What was read before a
+// failure has been given away by then: Errore::FineDelFile where the file is shorter than its
+// count, Errore::Overflow for a count that does not fit 16 bits or a line beyond righeMassime.
+void leggi(int numero, const std::function<void(const QString &)> &aggiungi);
+
+} // namespace FileMosse

@@ -1,0 +1,158 @@
+// Lists that the runner and the clock start.
+#include "Banco.h"
+
+#include "Archivio.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+class EseguiListaTest : public testing::Test, protected Banco
+{
+protected:
+    EseguiListaTest()
+    {
+        mostra();
+        cartella.scrivi(u"lunga.sqm"_s, " 1 \r\nPausa 60000\r\nStop\r\n");
+        cartella.scrivi(u"altra.sqm"_s, " 1 \r\nPausa 50000\r\nFoto\r\n");
+        vigilio.righe = {{u"altra.sqm"_s, u"no,101,no,no,no"_s, true},
+                         {u"lunga.sqm"_s, u"12:00:00,no,no,no,no"_s, true}};
+        console.accelera = false;
+    }
+    ~EseguiListaTest() override { Archivio::abbandona(); }
+
+    // Lets the clock's timer tick now.
+    void scatta()
+    {
+        editor.tmrAttivaAut.setInterval(1);
+        editor.tmrAttivaAut.setEnabled(true);
+        int scatti = 0;
+        QTimer dopo;
+        QObject::connect(&dopo, &QTimer::timeout, &dopo, [&] { ++scatti; });
+        dopo.start(2);
+        EXPECT_TRUE(aspetta([&] { return scatti >= 5; }));
+        editor.tmrAttivaAut.setEnabled(false);
+    }
+};
+
+} // namespace
+
+TEST_F(EseguiListaTest, ALoadsAndRunsTheListOfItsRow)
+{
+    seriale.apri();
+    editor.EseguiLista(1);
+    EXPECT_EQ(righe(), (QStringList{u"Pausa 60000"_s, u"Stop"_s}));
+    EXPECT_EQ(editor.lblFile.Caption(), u"lunga.sqm"_s);
+    EXPECT_EQ(editor.Finestre.FileName(), u"lunga.sqm"_s);
+    EXPECT_EQ(vigilio.scelta, 1);
+    EXPECT_EQ(editor.imgVigilio.Picture(), 3);
+    EXPECT_TRUE(timer.Enabled());
+    EXPECT_TRUE(vigilio.righe[1].selezionata);
+}
+
+TEST_F(EseguiListaTest, AListThatIsRunningIsLeftAlone)
+{
+    seriale.apri();
+    editor.EseguiLista(1);
+    EXPECT_TRUE(aspetta([this] { return lista.ListIndex() == 0; }));
+    editor.Finestre.setFileName(u"LUNGA.sqm"_s);
+    editor.EseguiLista(1);
+    EXPECT_EQ(lista.ListIndex(), 0);
+    EXPECT_EQ(editor.Finestre.FileName(), u"LUNGA.sqm"_s);
+}
+
+TEST_F(EseguiListaTest, AnotherListTakesTheRunningOnesPlace)
+{
+    seriale.apri();
+    editor.EseguiLista(1);
+    EXPECT_TRUE(aspetta([this] { return lista.ListIndex() == 0; }));
+    editor.EseguiLista(0);
+    EXPECT_EQ(righe(), (QStringList{u"Pausa 50000"_s, u"Foto"_s}));
+    EXPECT_EQ(lista.ListIndex(), -1);
+    EXPECT_TRUE(timer.Enabled());
+    EXPECT_EQ(editor.imgVigilio.Picture(), 3);
+}
+
+TEST_F(EseguiListaTest, AListThatHasEndedStartsAgain)
+{
+    seriale.apri();
+    editor.EseguiLista(1);
+    editor.pulEsegui.click();
+    EXPECT_EQ(editor.imgVigilio.Picture(), 2);
+    editor.EseguiLista(1);
+    EXPECT_TRUE(timer.Enabled());
+    EXPECT_EQ(editor.imgVigilio.Picture(), 3);
+}
+
+TEST_F(EseguiListaTest, TheOptionTakesTheCheckMarkAway)
+{
+    seriale.apri();
+    vigilio.deseleziona = true;
+    editor.EseguiLista(1);
+    EXPECT_FALSE(vigilio.righe[1].selezionata);
+    EXPECT_TRUE(vigilio.righe[0].selezionata);
+}
+
+TEST_F(EseguiListaTest, WithoutARobotItIsToldAndThePictureChangesAllTheSame)
+{
+    const RispondiMessaggi messaggi;
+    editor.EseguiLista(1);
+    EXPECT_EQ(messaggi.testi(), QStringList{u"Il robot non è collegato"_s});
+    EXPECT_EQ(editor.imgVigilio.Picture(), 3);
+    EXPECT_FALSE(timer.Enabled());
+}
+
+TEST_F(EseguiListaTest, AMissingFileIsTheCallersError)
+{
+    vigilio.righe[0].file = u"manca.sqm"_s;
+    try {
+        editor.EseguiLista(0);
+        FAIL();
+    } catch (const Errore &errore) {
+        EXPECT_EQ(errore.numero(), Errore::FileNonTrovato);
+    }
+}
+
+TEST_F(EseguiListaTest, AnUnsavedListIsDroppedWithoutAQuestion)
+{
+    const RispondiMessaggi messaggi;
+    seriale.apri();
+    editor.mnuInsBStop.trigger();
+    editor.EseguiLista(1);
+    EXPECT_EQ(righe(), (QStringList{u"Pausa 60000"_s, u"Stop"_s}));
+    EXPECT_TRUE(messaggi.visti().isEmpty());
+}
+
+TEST_F(EseguiListaTest, ItRunsWithTheWindowClosed)
+{
+    editor.Scarica();
+    seriale.apri();
+    editor.EseguiLista(1);
+    EXPECT_TRUE(timer.Enabled());
+    EXPECT_TRUE(aspetta([this] { return lista.ListIndex() == 0; }));
+}
+
+TEST_F(EseguiListaTest, TheClockStartsTheListOfItsSecond)
+{
+    seriale.apri();
+    scatta();
+    EXPECT_EQ(vigilio.scelta, 1);
+    EXPECT_TRUE(timer.Enabled());
+}
+
+TEST_F(EseguiListaTest, TheClockStartsAListThatIsNotSelectedToo)
+{
+    seriale.apri();
+    vigilio.righe[1].selezionata = false;
+    scatta();
+    EXPECT_EQ(vigilio.scelta, 1);
+}
+
+TEST_F(EseguiListaTest, AtAnotherSecondTheClockStartsNothing)
+{
+    seriale.apri();
+    orologio.ora = QTime(12, 0, 1);
+    scatta();
+    EXPECT_EQ(vigilio.scelta, -1);
+    EXPECT_FALSE(timer.Enabled());
+}

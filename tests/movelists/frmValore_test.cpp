@@ -1,0 +1,290 @@
+// The value dialog in its four modes, with the keyboard and the mouse.
+#include "frmValore.h"
+
+#include "Attesa.h"
+#include "Modali.h"
+#include "Scritte.h"
+
+#include <QApplication>
+#include <QTest>
+#include <gmock/gmock.h>
+
+namespace {
+
+class FrmValoreTest : public testing::Test
+{
+protected:
+    // Shows the dialog in a mode, does what a user does, and returns when it has been hidden.
+    void conDialogo(const QString &modo, const std::function<void()> &agisci)
+    {
+        dialogo.setTag(modo);
+        bool fatto = false;
+        const ConModale utente(u"frmValore"_s, [&] {
+            if (std::exchange(fatto, true))
+                return;
+            agisci();
+            if (dialogo.Visible())
+                dialogo.close();
+        });
+        dialogo.MostraModale();
+        EXPECT_TRUE(fatto);
+    }
+
+    // Types into the box in place of what it holds.
+    void scrivi(const QString &testo)
+    {
+        dialogo.txtValore.setFocus();
+        dialogo.txtValore.selectAll();
+        if (testo.isEmpty())
+            QTest::keyClick(&dialogo.txtValore, Qt::Key_Backspace);
+        QTest::keyClicks(&dialogo.txtValore, testo);
+    }
+    void invio() { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); }
+    void clicca(QWidget &controllo)
+    {
+        const QPoint punto = controllo.mapTo(&dialogo, controllo.rect().center());
+        QTest::mouseClick(dialogo.windowHandle(), Qt::LeftButton, {}, punto);
+    }
+    QString testo() const { return dialogo.txtValore.Text(); }
+
+    frmValore dialogo;
+};
+
+} // namespace
+
+TEST_F(FrmValoreTest, EachModeHasItsTitleItsHeadingAndItsRows)
+{
+    struct Modo
+    {
+        QString nome, titolo, etichetta, limite;
+        int righe;
+    };
+    const std::initializer_list<Modo> modi = {
+        {u"Pausa"_s, u"Inserisci la durata della pausa"_s, u"Unità di misura:"_s, u"60000"_s, 2},
+        {u"Frase"_s, u"Inserisci il numero della frase desiderata"_s, u"Frase selezionata:"_s,
+         u"140"_s, 140},
+        {u"Suono"_s, u"Inserisci il numero del suono desiderato"_s, u"Suono selezionato:"_s,
+         u"16"_s, 16},
+        {u"Ripeti"_s, u"Indica quante volte si devono ripetere i comandi"_s, u"Ripeti:"_s, u"200"_s,
+         201},
+    };
+    for (const Modo &modo : modi) {
+        conDialogo(modo.nome, [&] {
+            EXPECT_EQ(dialogo.Caption(), modo.titolo);
+            EXPECT_EQ(dialogo.lblInfo.Caption(), modo.etichetta);
+            EXPECT_EQ(dialogo.txtValore.Tag(), modo.limite);
+            EXPECT_EQ(dialogo.cbInfo.ListCount(), modo.righe);
+            EXPECT_EQ(dialogo.cbInfo.ListIndex(), 0);
+        });
+    }
+}
+
+TEST_F(FrmValoreTest, AnUnknownModeSetsNothing)
+{
+    conDialogo(u"pausa"_s, [&] {
+        EXPECT_EQ(dialogo.lblInfo.Caption(), u"Informazioni:"_s);
+        EXPECT_EQ(dialogo.cbInfo.ListCount(), 0);
+    });
+}
+
+TEST_F(FrmValoreTest, TheFirstRowPresetsTheNumber)
+{
+    conDialogo(u"Frase"_s, [&] { EXPECT_EQ(testo(), u"1"_s); });
+    conDialogo(u"Ripeti"_s, [&] { EXPECT_EQ(testo(), u"0"_s); });
+    conDialogo(u"Suono"_s, [&] { EXPECT_EQ(testo(), u"1"_s); });
+}
+
+TEST_F(FrmValoreTest, APauseStartsWithZeroAndThenWithTheLastNumber)
+{
+    conDialogo(u"Pausa"_s, [&] {
+        EXPECT_EQ(testo(), u"0"_s);
+        scrivi(u"250"_s);
+        invio();
+    });
+    conDialogo(u"Frase"_s, [&] {
+        scrivi(u"33"_s);
+        invio();
+    });
+    conDialogo(u"Pausa"_s, [&] {
+        EXPECT_EQ(testo(), u"33"_s);
+        EXPECT_EQ(dialogo.cbInfo.ListIndex(), 0);
+    });
+}
+
+TEST_F(FrmValoreTest, TypingANumberMovesTheList)
+{
+    conDialogo(u"Frase"_s, [&] {
+        scrivi(u"7"_s);
+        EXPECT_EQ(dialogo.cbInfo.ListIndex(), 6);
+        EXPECT_EQ(testo(), u"7"_s);
+        scrivi(u"140"_s);
+        EXPECT_EQ(dialogo.cbInfo.Text(), u"Vuoi giocare con me?"_s);
+    });
+    conDialogo(u"Ripeti"_s, [&] {
+        scrivi(u"7"_s);
+        EXPECT_EQ(dialogo.cbInfo.Text(), u"7 volte"_s);
+    });
+    conDialogo(u"Pausa"_s, [&] {
+        scrivi(u"1"_s);
+        EXPECT_EQ(dialogo.cbInfo.ListIndex(), 0);
+    });
+}
+
+TEST_F(FrmValoreTest, ChoosingARowSetsTheNumber)
+{
+    conDialogo(u"Frase"_s, [&] {
+        scrivi(u"7"_s);
+        dialogo.cbInfo.setListIndex(0);
+        EXPECT_EQ(testo(), u"1"_s);
+        dialogo.cbInfo.setFocus();
+        QTest::keyClick(&dialogo.cbInfo, Qt::Key_Down);
+        EXPECT_EQ(testo(), u"2"_s);
+    });
+    conDialogo(u"Ripeti"_s, [&] {
+        dialogo.cbInfo.setListIndex(5);
+        EXPECT_EQ(testo(), u"5"_s);
+    });
+    conDialogo(u"Pausa"_s, [&] {
+        scrivi(u"9"_s);
+        dialogo.cbInfo.setListIndex(1);
+        EXPECT_EQ(testo(), u"9"_s);
+    });
+}
+
+TEST_F(FrmValoreTest, ANumberOutsideTheListLeavesItsRow)
+{
+    conDialogo(u"Suono"_s, [&] {
+        scrivi(u"17"_s);
+        // "1" came first, and row 16 is refused.
+        EXPECT_EQ(dialogo.cbInfo.ListIndex(), 0);
+        EXPECT_EQ(testo(), u"17"_s);
+        scrivi(u"99999999999"_s);
+        EXPECT_EQ(testo(), u"99999999999"_s);
+    });
+}
+
+TEST_F(FrmValoreTest, AnEmptiedNumberSelectsNothingAndStaysEmpty)
+{
+    for (const QString &modo : {u"Frase"_s, u"Suono"_s}) {
+        conDialogo(modo, [&] {
+            scrivi(u"5"_s);
+            scrivi(QString());
+            EXPECT_EQ(testo(), QString());
+            EXPECT_EQ(dialogo.cbInfo.ListIndex(), -1);
+        });
+    }
+}
+
+TEST_F(FrmValoreTest, OnlyDigitsCanBeTyped)
+{
+    conDialogo(u"Pausa"_s, [&] {
+        scrivi(u"1a.-, 2"_s);
+        EXPECT_EQ(testo(), u"12"_s);
+        QTest::keyClick(&dialogo.txtValore, Qt::Key_Backspace);
+        EXPECT_EQ(testo(), u"1"_s);
+    });
+}
+
+TEST_F(FrmValoreTest, EnterRefusesANumberAboveTheLimit)
+{
+    const std::initializer_list<std::pair<QString, QString>> troppo = {{u"Frase"_s, u"141"_s},
+                                                                       {u"Suono"_s, u"17"_s},
+                                                                       {u"Ripeti"_s, u"201"_s},
+                                                                       {u"Pausa"_s, u"60001"_s}};
+    for (const auto &[modo, numero] : troppo) {
+        RispondiMessaggi utente;
+        conDialogo(modo, [&] {
+            scrivi(numero);
+            invio();
+            EXPECT_TRUE(dialogo.Visible());
+            EXPECT_TRUE(dialogo.txtValore.hasFocus());
+        });
+        ASSERT_EQ(utente.visti().size(), 1);
+        EXPECT_EQ(utente.visti()[0].testo, u"Il numero impostato è troppo alto!"_s);
+        EXPECT_EQ(utente.visti()[0].icona, QMessageBox::NoIcon);
+        EXPECT_EQ(utente.visti()[0].titolo, u"Lumbra"_s);
+    }
+}
+
+TEST_F(FrmValoreTest, EnterRefusesZeroButForALoop)
+{
+    for (const QString &modo : {u"Frase"_s, u"Suono"_s, u"Pausa"_s}) {
+        const RispondiMessaggi utente;
+        conDialogo(modo, [&] {
+            scrivi(u"0"_s);
+            invio();
+            EXPECT_TRUE(dialogo.Visible());
+        });
+        EXPECT_EQ(utente.testi(), QStringList{u"Lo zero non si può mettere"_s});
+    }
+    conDialogo(u"Ripeti"_s, [&] {
+        scrivi(u"0"_s);
+        invio();
+        EXPECT_FALSE(dialogo.Visible());
+    });
+    EXPECT_EQ(dialogo.Tag(), u"Ripeti"_s);
+}
+
+TEST_F(FrmValoreTest, EnterRefusesAnEmptyNumber)
+{
+    const RispondiMessaggi utente;
+    conDialogo(u"Pausa"_s, [&] {
+        scrivi(QString());
+        invio();
+        EXPECT_TRUE(dialogo.Visible());
+    });
+    EXPECT_EQ(utente.testi(), QStringList{u"Non hai impostato il numero!"_s});
+}
+
+TEST_F(FrmValoreTest, AClickOnOkFindsTheNumberInOrder)
+{
+    const RispondiMessaggi utente;
+    const auto conClick = [&](const QString &modo, const QString &scritto) {
+        conDialogo(modo, [&] {
+            scrivi(scritto);
+            clicca(dialogo.pulOK);
+            EXPECT_FALSE(dialogo.Visible());
+        });
+        EXPECT_EQ(dialogo.Tag(), modo);
+        return testo();
+    };
+    EXPECT_EQ(conClick(u"Frase"_s, u"141"_s), u"140"_s);
+    EXPECT_EQ(dialogo.cbInfo.ListIndex(), 139);
+    EXPECT_EQ(conClick(u"Suono"_s, u"0"_s), u"1"_s);
+    EXPECT_EQ(conClick(u"Pausa"_s, u""_s), u"1"_s);
+    EXPECT_EQ(conClick(u"Pausa"_s, u"99999"_s), u"60000"_s);
+    EXPECT_EQ(conClick(u"Ripeti"_s, u"0"_s), u"0"_s);
+    EXPECT_EQ(conClick(u"Ripeti"_s, u"999"_s), u"200"_s);
+    EXPECT_EQ(dialogo.cbInfo.Text(), u"200 volte"_s);
+    EXPECT_TRUE(utente.visti().isEmpty());
+}
+
+TEST_F(FrmValoreTest, LeavingTheBoxBringsTheNumberIntoItsLimits)
+{
+    conDialogo(u"Frase"_s, [&] {
+        scrivi(u"500"_s);
+        dialogo.cbInfo.setFocus();
+        EXPECT_EQ(testo(), u"140"_s);
+        EXPECT_EQ(dialogo.cbInfo.ListIndex(), 139);
+        scrivi(QString());
+        dialogo.cbInfo.setFocus();
+        EXPECT_EQ(testo(), u"1"_s);
+        EXPECT_EQ(dialogo.cbInfo.ListIndex(), 0);
+    });
+}
+
+TEST_F(FrmValoreTest, TheCloseBoxIsTheWayOutWithoutAValue)
+{
+    conDialogo(u"Frase"_s, [&] { dialogo.close(); });
+    EXPECT_EQ(dialogo.Tag(), u"Annulla"_s);
+    EXPECT_TRUE(dialogo.Caricata());
+}
+
+TEST_F(FrmValoreTest, TheNumberIsReadyToBeTypedOver)
+{
+    conDialogo(u"Frase"_s, [&] {
+        ASSERT_TRUE(dialogo.txtValore.hasFocus());
+        QTest::keyClicks(QApplication::focusWidget(), u"25"_s);
+        EXPECT_EQ(testo(), u"25"_s);
+    });
+}
