@@ -1,0 +1,23 @@
+#include "Attesa.h"
+
+#include "Pompa.h"
+
+#include <QElapsedTimer>
+
+bool aspetta(const std::function<bool()> &condizione)
+{
+    QElapsedTimer orologio;
+    orologio.start();
+    while (!condizione()) {
+        if (orologio.hasExpired(120'000))
+            return false;
+        pompa();
+    }
+    return true;
+}
+
+void gira(int giri)
+{
+    for (int i = 0; i < giri; ++i)
+        pompa();
+}
