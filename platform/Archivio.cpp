@@ -68,6 +68,11 @@ FileAperto perScrittura(const QString &nome)
     return file;
 }
 
+bool bianco(char c)
+{
+    return c == ' ' || c == '\t';
+}
+
 bool fineRiga(char c)
 {
     return c == '\r' || c == '\n';
@@ -85,7 +90,7 @@ bool finito(const FileAperto &f)
 
 void saltaBianchi(FileAperto &f)
 {
-    while (!finito(f) && (corrente(f) == ' ' || corrente(f) == '\t'))
+    while (!finito(f) && bianco(corrente(f)))
         ++f.letti;
 }
 
@@ -174,12 +179,12 @@ QByteArray leggiCampo(int numero)
 double leggiNumero(int numero)
 {
     FileAperto &f = file(numero);
-    while (!finito(f) && (corrente(f) == ' ' || fineRiga(corrente(f))))
+    while (!finito(f) && (bianco(corrente(f)) || fineRiga(corrente(f))))
         ++f.letti;
     if (finito(f))
         throw Errore(Errore::FineDelFile);
     const qsizetype inizio = f.letti;
-    while (!finito(f) && corrente(f) != ',' && corrente(f) != ' ' && !fineRiga(corrente(f)))
+    while (!finito(f) && corrente(f) != ',' && !bianco(corrente(f)) && !fineRiga(corrente(f)))
         ++f.letti;
     const QByteArray testo = f.contenuto.sliced(inizio, f.letti - inizio);
     saltaSeparatore(f);

@@ -42,9 +42,12 @@ void CasellaTesto::keyPressEvent(QKeyEvent *evento)
         return;
     }
     const QString testo = evento->text();
-    const bool battuto = !testo.isEmpty() && testo.front().isPrint() &&
-                         !(evento->modifiers() & (Qt::ControlModifier | Qt::MetaModifier));
-    if (!battuto) {
+    // Control and Alt together are AltGr, which types characters.
+    const bool comando = evento->modifiers().testFlag(Qt::ControlModifier) &&
+                         !evento->modifiers().testFlag(Qt::AltModifier);
+    const bool battuto = !testo.isEmpty() && testo.front().isPrint() && !comando &&
+                         !evento->modifiers().testFlag(Qt::MetaModifier);
+    if (!battuto || isReadOnly()) {
         QLineEdit::keyPressEvent(evento);
         return;
     }
@@ -79,11 +82,13 @@ void CasellaTesto::focusOutEvent(QFocusEvent *evento)
 
 void CasellaTesto::fuocoCambiato(QWidget *ora)
 {
-    if (!m_inSospeso || !ora)
+    if (!m_inSospeso)
         return;
+    // A window without a control for the focus becomes the active one all the same.
+    const QWidget *dove = ora ? ora->window() : QApplication::activeWindow();
     if (ora == this) {
         m_inSospeso = false;
-    } else if (qobject_cast<Finestra *>(ora->window())) {
+    } else if (qobject_cast<const Finestra *>(dove) && (ora || dove != window())) {
         m_inSospeso = false;
         LostFocus();
     }

@@ -9,6 +9,8 @@ Combo::Combo(const QString &nome, QWidget *dentro, Stile stile) : Controllo(nome
     if (isEditable()) {
         setInsertPolicy(QComboBox::NoInsert);
         setCompleter(nullptr);
+        // Leaving the box would look the typed text up in the list and select a row.
+        disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
         connect(lineEdit(), &QLineEdit::textEdited, this, [this] {
             m_scelta = -1;
             Change();
@@ -24,7 +26,8 @@ void Combo::setListIndex(int riga)
 {
     if (riga < -1 || riga >= count())
         throw Errore(Errore::ProprietaNonValida);
-    if (riga == m_scelta)
+    // A text that was typed goes, too, when nothing is to be selected.
+    if (riga == m_scelta && riga >= 0)
         return;
     m_scelta = riga;
     setCurrentIndex(riga);
@@ -41,25 +44,40 @@ QString Combo::List(int riga) const
     return itemText(riga);
 }
 
+// Qt selects rows of its own accord when rows come and go; that is no choice of anybody's.
+template <class Modifica>
+void Combo::senzaScelta(Modifica modifica)
+{
+    const QString testo = currentText();
+    modifica();
+    setCurrentIndex(-1);
+    if (isEditable())
+        setEditText(testo);
+}
+
 void Combo::AddItem(const QString &testo)
 {
-    addItem(testo);
-    // The first item of an empty box would become the current one by itself.
-    if (m_scelta == -1 && !isEditable())
-        setCurrentIndex(-1);
+    if (m_scelta == -1)
+        senzaScelta([&] { addItem(testo); });
+    else
+        addItem(testo);
 }
 
 void Combo::RemoveItem(int riga)
 {
     if (riga < 0 || riga >= count())
         throw Errore(Errore::ChiamataNonValida);
-    const bool scelta = riga == m_scelta;
-    removeItem(riga);
-    if (scelta) {
+    if (riga == m_scelta) {
         m_scelta = -1;
+        removeItem(riga);
         setCurrentIndex(-1);
-    } else if (riga < m_scelta) {
-        --m_scelta;
+        if (isEditable())
+            clearEditText();
+    } else if (m_scelta == -1) {
+        senzaScelta([&] { removeItem(riga); });
+    } else {
+        removeItem(riga);
+        m_scelta = currentIndex();
     }
 }
 

@@ -38,5 +38,8 @@ protected:
     void keyPressEvent(QKeyEvent *evento) override;
 
 private:
+    template <class Modifica>
+    void senzaScelta(Modifica modifica);
+
     int m_scelta = -1;
 };

@@ -58,7 +58,11 @@ void ControlloSeriale::avvisa(bool attivo)
 
 void ControlloSeriale::guarda()
 {
-    const qsizetype posto = InBufferSize - m_tenuti.size();
-    if (posto > 0)
-        m_tenuti += m_porta->leggi(posto);
+    // One reading may give less than there is.
+    while (m_tenuti.size() < InBufferSize) {
+        const QByteArray letti = m_porta->leggi(InBufferSize - m_tenuti.size());
+        if (letti.isEmpty())
+            break;
+        m_tenuti += letti;
+    }
 }

@@ -4,6 +4,7 @@
 
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <utility>
 
 Elenco::Elenco(const QString &nome, QWidget *dentro, Stile stile)
     : Controllo(nome, dentro), m_stile(stile)
@@ -11,12 +12,14 @@ Elenco::Elenco(const QString &nome, QWidget *dentro, Stile stile)
     setUniformItemSizes(true);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
+    viewport()->setMouseTracking(true);
     // Qt would move the current row along when rows come and go: that is no choice of the user's.
     connect(this, &QListWidget::currentRowChanged, this, [this](int) {
         if (!m_zitto)
             Click();
     });
     connect(this, &QListWidget::itemChanged, this, [this](QListWidgetItem *) {
+        m_clickDovuto = false;
         if (!m_zitto)
             Click();
     });
@@ -124,16 +127,49 @@ double Elenco::AltezzaRiga() const
     return Unita::unita(count() > 0 ? sizeHintForRow(0) : fontMetrics().height());
 }
 
+QItemSelectionModel::SelectionFlags Elenco::selectionCommand(const QModelIndex &indice,
+                                                             const QEvent *evento) const
+{
+    // Qt would take the selection off the current row at a click with the control key held.
+    const auto comando = QListWidget::selectionCommand(indice, evento);
+    return comando.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::ClearAndSelect
+                                                           : comando;
+}
+
+bool Elenco::sullaSpunta(const QListWidgetItem *voce, QPoint punto) const
+{
+    if (m_stile != Stile::ConSpunte)
+        return false;
+    QStyleOptionViewItem opzione;
+    initViewItemOption(&opzione);
+    opzione.rect = visualItemRect(voce);
+    opzione.features |= QStyleOptionViewItem::HasCheckIndicator;
+    return style()
+        ->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &opzione, this)
+        .contains(punto);
+}
+
 void Elenco::mousePressEvent(QMouseEvent *evento)
 {
+    const QPoint punto = evento->position().toPoint();
+    const QListWidgetItem *sotto = itemAt(punto);
+    const bool sinistro = evento->button() == Qt::LeftButton;
+    m_clickDovuto = sinistro && sotto && sullaSpunta(sotto, punto);
     const int prima = currentRow();
-    const QListWidgetItem *sotto = itemAt(evento->position().toPoint());
-    const Qt::CheckState spunta = sotto ? sotto->checkState() : Qt::Unchecked;
-    Controllo::mousePressEvent(evento);
+    {
+        const QScopedValueRollback zitto(m_zitto, m_zitto || m_clickDovuto);
+        Controllo::mousePressEvent(evento);
+    }
     // A click on the row that is selected already is a click as well.
-    const QListWidgetItem *dopo = itemAt(evento->position().toPoint());
-    if (evento->button() == Qt::LeftButton && sotto && dopo == sotto && row(sotto) == prima &&
-        sotto->checkState() == spunta)
+    if (sinistro && !m_clickDovuto && sotto && itemAt(punto) == sotto && row(sotto) == prima)
+        Click();
+}
+
+void Elenco::mouseReleaseEvent(QMouseEvent *evento)
+{
+    Controllo::mouseReleaseEvent(evento);
+    // The button was released elsewhere: the row was chosen all the same.
+    if (std::exchange(m_clickDovuto, false))
         Click();
 }
 

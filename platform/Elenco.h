@@ -51,14 +51,20 @@ public:
     Evento<int &, int> KeyDown;
 
 protected:
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &indice,
+                                                         const QEvent *evento) const override;
     void mousePressEvent(QMouseEvent *evento) override;
+    void mouseReleaseEvent(QMouseEvent *evento) override;
     void keyPressEvent(QKeyEvent *evento) override;
     void focusInEvent(QFocusEvent *evento) override;
 
 private:
     QListWidgetItem *riga(int numero, int errore = Errore::ProprietaNonValida) const;
     QListWidgetItem *nuova(const QString &testo) const;
+    bool sullaSpunta(const QListWidgetItem *voce, QPoint punto) const;
 
     Stile m_stile;
     bool m_zitto = false;
+    // A press on a check mark: the mark changes, and Click comes, when the button is released.
+    bool m_clickDovuto = false;
 };

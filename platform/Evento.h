@@ -8,6 +8,22 @@
 // and the program ends.
 void eseguiGestore(const std::function<void()> &gestore);
 
+// While one of these lives no event is raised: a window puts its design values back, which no
+// handler is to see.
+class EventiSospesi
+{
+public:
+    EventiSospesi() { ++s_vivi; }
+    ~EventiSospesi() { --s_vivi; }
+    EventiSospesi(const EventiSospesi &) = delete;
+    EventiSospesi &operator=(const EventiSospesi &) = delete;
+
+    static bool ora() { return s_vivi > 0; }
+
+private:
+    static inline int s_vivi = 0;
+};
+
 // One event of one control, with the one handler that its window gave it.
 template <class... Argomenti>
 class Evento
@@ -28,7 +44,7 @@ public:
 
     void operator()(Argomenti... argomenti) const
     {
-        if (m_gestore) {
+        if (m_gestore && !EventiSospesi::ora()) {
             // A copy: the handler may live longer than its control.
             const auto gestore = m_gestore;
             eseguiGestore([&] { gestore(argomenti...); });

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QPointer>
 #include <QWindow>
+#include <algorithm>
 
 namespace {
 
@@ -17,7 +18,7 @@ QPointer<Finestra> ultimaAttiva;
 
 } // namespace
 
-Finestra::Finestra(const QString &nome, const QString &titolo)
+Finestra::Finestra(const QString &nome, const QString &titolo) : m_titolo(titolo)
 {
     setObjectName(nome);
     setWindowTitle(titolo);
@@ -85,6 +86,9 @@ void Finestra::scarica(Chiusura come)
     hide();
     if (ultimaAttiva == this)
         ultimaAttiva.clear();
+    const EventiSospesi zitti;
+    QWidget::setWindowState(Qt::WindowNoState);
+    setWindowTitle(m_titolo);
     Disegno();
     resize(m_misura);
 }
@@ -142,15 +146,33 @@ bool Finestra::event(QEvent *evento)
     return esito;
 }
 
+// A key that nobody takes travels up through the parents as one and the same event: only its first
+// stop counts. Handlers may move the focus meanwhile or handle other keys, so the focus says
+// nothing.
+bool Finestra::primaTappa(QWidget *controllo, const QKeyEvent &tasto)
+{
+    const auto stesso = [&](const Viaggio &v) { return v.evento == &tasto; };
+    auto viaggio = std::find_if(m_viaggi.begin(), m_viaggi.end(), stesso);
+    const bool prosegue = viaggio != m_viaggi.end() && viaggio->tipo == tasto.type() &&
+                          viaggio->tempo == tasto.timestamp() && viaggio->prossima == controllo;
+    if (viaggio != m_viaggi.end())
+        m_viaggi.erase(viaggio);
+    if (controllo != this)
+        m_viaggi.push_back(
+            {&tasto, tasto.type(), tasto.timestamp(), QPointer(controllo->parentWidget())});
+    return !prosegue;
+}
+
 bool Finestra::eventFilter(QObject *oggetto, QEvent *evento)
 {
     if (evento->type() != QEvent::KeyPress && evento->type() != QEvent::KeyRelease)
         return false;
-    // A key that nobody takes travels up through the parents: only its first stop counts.
-    const QWidget *primo = QApplication::focusWidget() ? QApplication::focusWidget() : this;
-    if (oggetto != primo || primo->window() != this)
+    auto *controllo = qobject_cast<QWidget *>(oggetto);
+    if (!controllo || controllo->window() != this)
         return false;
     const auto *tasto = static_cast<QKeyEvent *>(evento);
+    if (!primaTappa(controllo, *tasto))
+        return false;
     const int codice = Tasti::codice(*tasto);
     const int maiuscole = numeroMaiuscole(tasto->modifiers());
     if (evento->type() == QEvent::KeyPress)

@@ -125,12 +125,14 @@ void Superficie::setSfondo(const QIcon &disegno)
 
 void Superficie::Riempi(const QRect &rettangolo, const QColor &colore)
 {
+    adatta();
     QPainter(&m_disegno).fillRect(rettangolo, colore);
     update(rettangolo);
 }
 
 void Superficie::Stampa(const QString &testo)
 {
+    adatta();
     QPainter pittore(&m_disegno);
     pittore.setPen(palette().color(QPalette::WindowText));
     pittore.setFont(font());
@@ -144,7 +146,8 @@ void Superficie::Pulisci()
     update();
 }
 
-void Superficie::resizeEvent(QResizeEvent *)
+// Also before the first showing, when no resize event has come yet.
+void Superficie::adatta()
 {
     // Grows only, so that what is drawn survives a window made smaller and larger again.
     const QSize dovuta = size().expandedTo(m_disegno.size());
@@ -155,6 +158,11 @@ void Superficie::resizeEvent(QResizeEvent *)
             QPainter(&nuovo).drawImage(0, 0, m_disegno);
         m_disegno = nuovo;
     }
+}
+
+void Superficie::resizeEvent(QResizeEvent *)
+{
+    adatta();
     Resize();
 }
 

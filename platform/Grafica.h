@@ -146,6 +146,8 @@ protected:
     void resizeEvent(QResizeEvent *) override;
 
 private:
+    void adatta();
+
     QIcon m_sfondo;
     QImage m_disegno;
 };

@@ -1,16 +1,47 @@
 #include "Messaggi.h"
 
 #include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMessageBox>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// A box that asks for Sì or No is left by one of the two only; Qt would take Esc and the window's
+// close control for No.
+class Riquadro : public QMessageBox
+{
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void closeEvent(QCloseEvent *evento) override
+    {
+        if (senzaUscita())
+            evento->ignore();
+        else
+            QMessageBox::closeEvent(evento);
+    }
+    void keyPressEvent(QKeyEvent *evento) override
+    {
+        if (!senzaUscita() || !evento->matches(QKeySequence::Cancel))
+            QMessageBox::keyPressEvent(evento);
+    }
+
+private:
+    bool senzaUscita() const { return standardButtons() == (Yes | No); }
+};
+
+} // namespace
 
 Risposta messaggio(const QString &testo, Icona icona, Pulsanti pulsanti, const QString &titolo)
 {
     QWidget *sopra = QApplication::activeModalWidget();
     if (!sopra)
         sopra = QApplication::activeWindow();
-    QMessageBox box(sopra);
+    Riquadro box(sopra);
     box.setObjectName(u"Messaggio"_s);
     box.setWindowTitle(titolo.isEmpty() ? u"Lumbra"_s : titolo);
     box.setTextFormat(Qt::PlainText);

@@ -87,7 +87,8 @@ bool Logico(QStringView testo)
         return false;
     bool numero = false;
     const double valore = nudo.toDouble(&numero);
-    if (!numero)
+    // "nan" and "inf" are numbers to Qt only.
+    if (!numero || !std::isfinite(valore))
         throw Errore(Errore::TipoNonCorrispondente);
     return valore != 0;
 }

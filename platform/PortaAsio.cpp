@@ -7,9 +7,12 @@
 #include <QSocketNotifier>
 #include <asio/io_context.hpp>
 #include <asio/serial_port.hpp>
+#include <cerrno>
+#include <fcntl.h>
 #include <poll.h>
 #include <sys/file.h>
 #include <sys/ioctl.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -22,12 +25,17 @@ struct PortaAsio::Linea
     bool persa = false;
     bool sorvegliata = false;
 
-    bool pronta(short evento)
+    bool staccata()
     {
-        pollfd attesa{porta.native_handle(), evento, 0};
-        return ::poll(&attesa, 1, 0) > 0 && (attesa.revents & (evento | POLLHUP | POLLERR)) != 0;
+        pollfd attesa{porta.native_handle(), 0, 0};
+        return ::poll(&attesa, 1, 0) > 0 && (attesa.revents & (POLLHUP | POLLERR)) != 0;
     }
     void aggiornaAvvisatore() { avvisatore->setEnabled(sorvegliata && !persa); }
+    void perdi()
+    {
+        persa = true;
+        aggiornaAvvisatore();
+    }
 };
 
 PortaAsio::PortaAsio() : m_linea(std::make_unique<Linea>()) {}
@@ -52,8 +60,9 @@ static Errore erroreDiApertura(const asio::error_code &errore, const QString &pe
     }
 }
 
-// The flag keeps out other programs, the lock another program of our own kind even where the user
-// may open a line in spite of the flag.
+// The lock keeps out every program that asks for it, also where the user may open a line in spite
+// of the flag; the flag keeps out those that do not ask. It is not set on a pseudo-terminal: there
+// it outlives the process, and after an abnormal end nobody could open the line again.
 static bool riserva(int linea)
 {
     int giaRiservata = 0;
@@ -61,7 +70,10 @@ static bool riserva(int linea)
         return false;
     if (::flock(linea, LOCK_EX | LOCK_NB) != 0)
         return false;
-    ::ioctl(linea, TIOCEXCL);
+    int lineeDiControllo = 0;
+    const bool pseudoTerminale = ::ioctl(linea, TIOCMGET, &lineeDiControllo) != 0;
+    if (!pseudoTerminale)
+        ::ioctl(linea, TIOCEXCL);
     return true;
 }
 
@@ -74,6 +86,8 @@ void PortaAsio::apri(const QString &percorso)
     porta.open(QFile::encodeName(percorso).toStdString(), errore);
     if (errore)
         throw erroreDiApertura(errore, percorso);
+    // A program that we start must not keep the line.
+    ::fcntl(porta.native_handle(), F_SETFD, FD_CLOEXEC);
     if (!riserva(porta.native_handle())) {
         porta.close(errore);
         throw Errore(Errore::PortaInUso);
@@ -100,7 +114,10 @@ void PortaAsio::apri(const QString &percorso)
         std::make_unique<QSocketNotifier>(porta.native_handle(), QSocketNotifier::Read);
     QObject::connect(m_linea->avvisatore.get(), &QSocketNotifier::activated,
                      m_linea->avvisatore.get(), [this] {
-                         if (arrivo)
+                         // A line whose far end went away is ready to be read for ever.
+                         if (m_linea->staccata())
+                             m_linea->perdi();
+                         else if (arrivo)
                              arrivo();
                      });
     m_linea->aggiornaAvvisatore();
@@ -115,7 +132,6 @@ void PortaAsio::chiudi()
         m_linea->avvisatore->setEnabled(false);
         m_linea->avvisatore.release()->deleteLater();
     }
-    // The flag outlives the descriptor on a pseudo-terminal.
     ::ioctl(m_linea->porta.native_handle(), TIOCNXCL);
     asio::error_code ignorato;
     m_linea->porta.close(ignorato);
@@ -129,32 +145,31 @@ bool PortaAsio::aperta() const
 void PortaAsio::scrivi(QByteArrayView byte)
 {
     while (!byte.isEmpty()) {
-        asio::error_code errore;
-        size_t scritti = 0;
-        if (!m_linea->persa && m_linea->pronta(POLLOUT))
-            scritti = m_linea->porta.write_some(
-                asio::buffer(byte.data(), static_cast<size_t>(byte.size())), errore);
-        if (errore || scritti == 0)
+        const ssize_t scritti =
+            ::write(m_linea->porta.native_handle(), byte.data(), static_cast<size_t>(byte.size()));
+        if (scritti > 0)
+            byte = byte.sliced(scritti);
+        else if (scritti == 0 || errno != EINTR)
             throw Errore(Errore::LineaPersa);
-        byte = byte.sliced(static_cast<qsizetype>(scritti));
     }
 }
 
 QByteArray PortaAsio::leggi(qsizetype massimo)
 {
-    if (!aperta() || m_linea->persa || massimo <= 0 || !m_linea->pronta(POLLIN))
+    if (!aperta() || m_linea->persa || massimo <= 0)
         return {};
     QByteArray letti(massimo, Qt::Uninitialized);
-    asio::error_code errore;
-    const size_t quanti =
-        m_linea->porta.read_some(asio::buffer(letti.data(), static_cast<size_t>(massimo)), errore);
-    if (errore) {
-        m_linea->persa = true;
-        m_linea->aggiornaAvvisatore();
-        return {};
+    ssize_t quanti = 0;
+    do {
+        quanti = ::read(m_linea->porta.native_handle(), letti.data(), static_cast<size_t>(massimo));
+    } while (quanti < 0 && errno == EINTR);
+    if (quanti > 0) {
+        letti.truncate(quanti);
+        return letti;
     }
-    letti.truncate(static_cast<qsizetype>(quanti));
-    return letti;
+    if (quanti == 0 || errno != EAGAIN)
+        m_linea->perdi();
+    return {};
 }
 
 void PortaAsio::sorveglia(bool attiva)

@@ -1,5 +1,6 @@
 #include "Pulsanti.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -11,6 +12,22 @@ Pulsante::Pulsante(const QString &nome, QWidget *dentro, const QString &testo)
 {
     setText(testo);
     connect(this, &QPushButton::clicked, this, [this] { Click(); });
+}
+
+void Pulsante::mousePressEvent(QMouseEvent *evento)
+{
+    Controllo::mousePressEvent(evento);
+    if (hasFocus() || !isDown())
+        return;
+    // The control that lost the focus to this button took it back, perhaps after a message box. The
+    // release went to that box then and never comes: the button must not stay down.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (!(QGuiApplication::mouseButtons() & Qt::LeftButton))
+                setDown(false);
+        },
+        Qt::QueuedConnection);
 }
 
 CasellaSpunta::CasellaSpunta(const QString &nome, QWidget *dentro, const QString &testo)
@@ -42,6 +59,14 @@ CasellaOpzione::CasellaOpzione(const QString &nome, QWidget *dentro, const QStri
         if (scelta)
             Click();
     });
+}
+
+void CasellaOpzione::setValue(bool valore)
+{
+    // Qt would not let the chosen box of a group go.
+    setAutoExclusive(valore);
+    setChecked(valore);
+    setAutoExclusive(true);
 }
 
 void CasellaOpzione::setBackColor(const QColor &colore)

@@ -20,6 +20,9 @@ public:
     void setCaption(const QString &testo) { setText(testo); }
 
     Evento<> Click;
+
+protected:
+    void mousePressEvent(QMouseEvent *evento) override;
 };
 
 // Value is 0 or 1.
@@ -55,7 +58,7 @@ public:
     CasellaOpzione(const QString &nome, QWidget *dentro, const QString &testo);
 
     bool Value() const { return isChecked(); }
-    void setValue(bool valore) { setChecked(valore); }
+    void setValue(bool valore);
     QColor BackColor() const { return m_fondo; }
     void setBackColor(const QColor &colore);
 

@@ -1,0 +1,165 @@
+#include "Grafica.h"
+
+#include "Aiuti.h"
+
+namespace {
+
+QIcon tinta(const QColor &colore)
+{
+    QPixmap pezza(16, 16);
+    pezza.fill(colore);
+    return QIcon(pezza);
+}
+
+QColor aMezzo(QWidget &controllo)
+{
+    const QImage visto = controllo.grab().toImage();
+    return visto.pixelColor(visto.width() / 2, visto.height() / 2);
+}
+
+struct GraficaTest : ::testing::Test
+{
+    FinestraDiProva finestra;
+    ListaImmagini lista{{tinta(Qt::red), tinta(Qt::green)}};
+};
+
+} // namespace
+
+TEST_F(GraficaTest, an_image_list_counts_from_1)
+{
+    EXPECT_EQ(lista.ListCount(), 2);
+    EXPECT_EQ(erroreDi([&] { lista.immagine(1); }), 0);
+    EXPECT_EQ(erroreDi([&] { lista.immagine(2); }), 0);
+    for (const int cattivo : {0, -1, 3})
+        EXPECT_EQ(erroreDi([&] { lista.immagine(cattivo); }), 380) << cattivo;
+}
+
+TEST_F(GraficaTest, an_image_shows_the_picture_of_its_number)
+{
+    Immagine immagine(u"imgVigilio"_s, &finestra, &lista, 1);
+    immagine.resize(16, 16);
+    EXPECT_EQ(aMezzo(immagine), QColor(Qt::red));
+    EXPECT_TRUE(immagine.setProperty("Picture", 2));
+    EXPECT_EQ(immagine.Picture(), 2);
+    EXPECT_EQ(aMezzo(immagine), QColor(Qt::green));
+}
+
+TEST_F(GraficaTest, a_picture_number_that_is_not_there_is_error_380_and_changes_nothing)
+{
+    Immagine immagine(u"imgVigilio"_s, &finestra, &lista, 1);
+    for (const int cattivo : {-1, 3, 100})
+        EXPECT_EQ(erroreDi([&] { immagine.setPicture(cattivo); }), 380) << cattivo;
+    EXPECT_EQ(immagine.Picture(), 1);
+    immagine.resize(16, 16);
+    EXPECT_EQ(aMezzo(immagine), QColor(Qt::red));
+    Immagine senzaLista(u"imgAltra"_s, &finestra);
+    EXPECT_EQ(erroreDi([&] { senzaLista.setPicture(1); }), 380);
+}
+
+TEST_F(GraficaTest, picture_0_is_no_picture)
+{
+    Immagine immagine(u"imgVigilio"_s, &finestra, &lista, 1);
+    immagine.setPicture(0);
+    EXPECT_EQ(immagine.Picture(), 0);
+    immagine.resize(16, 16);
+    EXPECT_NE(aMezzo(immagine), QColor(Qt::red));
+}
+
+TEST_F(GraficaTest, a_border_is_there_or_not)
+{
+    Immagine immagine(u"img"_s, &finestra);
+    EXPECT_EQ(immagine.BorderStyle(), 0);
+    immagine.setBorderStyle(1);
+    EXPECT_EQ(immagine.BorderStyle(), 1);
+    EXPECT_EQ(erroreDi([&] { immagine.setBorderStyle(2); }), 380);
+    EXPECT_EQ(immagine.BorderStyle(), 1);
+}
+
+TEST_F(GraficaTest, a_label_raises_change_only_when_its_text_changes)
+{
+    Etichetta etichetta(u"lblFile"_s, &finestra, u"uno"_s);
+    int volte = 0;
+    etichetta.Change.collega([&] { ++volte; });
+    etichetta.setCaption(u"due"_s);
+    etichetta.setCaption(u"due"_s);
+    EXPECT_EQ(volte, 1);
+    EXPECT_TRUE(etichetta.setProperty("Caption", u"<b>tre</b>"_s));
+    EXPECT_EQ(etichetta.Caption(), u"<b>tre</b>"_s);
+    EXPECT_EQ(volte, 2);
+}
+
+TEST_F(GraficaTest, a_shape_lets_the_mouse_through)
+{
+    Immagine sotto(u"img"_s, &finestra);
+    sotto.setGeometry(0, 0, 50, 50);
+    Forma sopra(u"shp"_s, &finestra);
+    sopra.setGeometry(0, 0, 50, 50);
+    finestra.mostraAttiva();
+    int volte = 0;
+    sotto.Click.collega([&] { ++volte; });
+    QTest::mouseClick(finestra.windowHandle(), Qt::LeftButton, {}, {20, 20});
+    EXPECT_EQ(volte, 1);
+}
+
+TEST_F(GraficaTest, what_code_draws_stays_until_it_is_cleared)
+{
+    Superficie superficie(u"imgCam"_s, &finestra);
+    superficie.resize(40, 30);
+    finestra.mostraAttiva();
+    superficie.Riempi({0, 0, 40, 30}, Qt::blue);
+    EXPECT_EQ(aMezzo(superficie), QColor(Qt::blue));
+    finestra.Nascondi();
+    finestra.Mostra();
+    EXPECT_EQ(aMezzo(superficie), QColor(Qt::blue));
+    superficie.resize(10, 10);
+    superficie.resize(40, 30);
+    EXPECT_EQ(superficie.disegno().pixelColor(30, 20), QColor(Qt::blue));
+    superficie.Pulisci();
+    EXPECT_NE(aMezzo(superficie), QColor(Qt::blue));
+}
+
+TEST_F(GraficaTest, what_is_drawn_before_the_first_showing_is_there_after_it)
+{
+    Superficie superficie(u"imgCam"_s, &finestra);
+    superficie.resize(40, 30);
+    superficie.Riempi({0, 0, 40, 30}, Qt::blue);
+    finestra.mostraAttiva();
+    EXPECT_EQ(aMezzo(superficie), QColor(Qt::blue));
+}
+
+TEST_F(GraficaTest, a_box_reaches_as_far_as_it_was_given_and_not_outside)
+{
+    Superficie superficie(u"imgCam"_s, &finestra);
+    superficie.resize(40, 30);
+    superficie.Pulisci();
+    superficie.Riempi({10, 10, 5, 5}, Qt::blue);
+    superficie.Riempi({-10, -10, 500, 12}, Qt::red);
+    const QImage &disegno = superficie.disegno();
+    EXPECT_EQ(disegno.pixelColor(10, 10), QColor(Qt::blue));
+    EXPECT_EQ(disegno.pixelColor(14, 14), QColor(Qt::blue));
+    EXPECT_EQ(disegno.pixelColor(15, 14).alpha(), 0);
+    EXPECT_EQ(disegno.pixelColor(9, 10).alpha(), 0);
+    EXPECT_EQ(disegno.pixelColor(39, 1), QColor(Qt::red));
+    EXPECT_EQ(disegno.pixelColor(39, 2).alpha(), 0);
+}
+
+TEST_F(GraficaTest, printed_text_leaves_its_marks)
+{
+    Superficie superficie(u"imgCam"_s, &finestra);
+    superficie.resize(200, 50);
+    superficie.Pulisci();
+    const QImage vuota = superficie.disegno();
+    superficie.Stampa(u"Attendere..."_s);
+    EXPECT_NE(superficie.disegno(), vuota);
+}
+
+TEST_F(GraficaTest, a_surface_in_pixels_tells_the_mouse_in_pixels)
+{
+    Superficie superficie(u"imgCam"_s, &finestra, Superficie::Scala::Pixel);
+    superficie.setGeometry(0, 0, 100, 100);
+    finestra.mostraAttiva();
+    QList<double> visti;
+    superficie.MouseDown.collega([&](int, int, double x, double y) { visti = {x, y}; });
+    QTest::mouseClick(&superficie, Qt::LeftButton, {}, {7, 9});
+    EXPECT_EQ(visti, (QList<double>{7, 9}));
+}

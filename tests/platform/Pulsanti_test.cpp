@@ -1,0 +1,185 @@
+#include "Pulsanti.h"
+
+#include "Aiuti.h"
+#include "CasellaTesto.h"
+
+#include <QToolButton>
+
+namespace {
+
+struct PulsantiTest : ::testing::Test
+{
+    FinestraDiProva finestra;
+    int volte = 0;
+    std::function<void()> conta = [this] { ++volte; };
+};
+
+} // namespace
+
+TEST_F(PulsantiTest, a_button_raises_click_by_mouse_by_space_and_by_code)
+{
+    Pulsante pulsante(u"pulEsegui"_s, &finestra, u"ESEGUI"_s);
+    pulsante.Click.collega(conta);
+    finestra.mostraAttiva();
+    QTest::mouseClick(&pulsante, Qt::LeftButton);
+    EXPECT_EQ(volte, 1);
+    QTest::keyClick(&pulsante, Qt::Key_Space);
+    EXPECT_EQ(volte, 2);
+    pulsante.click();
+    EXPECT_EQ(volte, 3);
+}
+
+TEST_F(PulsantiTest, a_disabled_button_raises_none)
+{
+    Pulsante pulsante(u"pulEsegui"_s, &finestra, u"ESEGUI"_s);
+    pulsante.Click.collega(conta);
+    finestra.mostraAttiva();
+    pulsante.setEnabled(false);
+    QTest::mouseClick(&pulsante, Qt::LeftButton);
+    pulsante.click();
+    EXPECT_EQ(volte, 0);
+}
+
+TEST_F(PulsantiTest, a_buttons_caption_is_a_property)
+{
+    Pulsante pulsante(u"pulEsegui"_s, &finestra, u"ESEGUI"_s);
+    EXPECT_TRUE(pulsante.setProperty("Caption", u"STOP"_s));
+    EXPECT_EQ(pulsante.Caption(), u"STOP"_s);
+}
+
+TEST_F(PulsantiTest, a_mouse_click_moves_the_focus_to_the_button_before_its_click)
+{
+    CasellaTesto testo(u"txt"_s, &finestra);
+    Pulsante pulsante(u"pul"_s, &finestra, u"OK"_s);
+    pulsante.move(0, 100);
+    finestra.mostraAttiva();
+    testo.SetFocus();
+    QStringList ordine;
+    testo.LostFocus.collega([&] { ordine += u"LostFocus"_s; });
+    pulsante.Click.collega([&] { ordine += pulsante.hasFocus() ? u"Click"_s : u"too early"_s; });
+    QTest::mouseClick(&pulsante, Qt::LeftButton);
+    EXPECT_EQ(ordine, (QStringList{u"LostFocus"_s, u"Click"_s}));
+}
+
+TEST_F(PulsantiTest, a_button_does_not_stay_down_when_the_focus_was_taken_back_at_its_press)
+{
+    CasellaTesto testo(u"txt"_s, &finestra);
+    Pulsante pulsante(u"pul"_s, &finestra, u"OK"_s);
+    pulsante.move(0, 100);
+    finestra.mostraAttiva();
+    testo.SetFocus();
+    testo.LostFocus.collega([&] { testo.SetFocus(); });
+    // The release goes elsewhere.
+    QTest::mousePress(&pulsante, Qt::LeftButton);
+    EXPECT_TRUE(attendi([&] { return !pulsante.isDown(); }));
+    EXPECT_TRUE(testo.hasFocus());
+}
+
+TEST_F(PulsantiTest, a_check_box_raises_click_at_every_change_of_its_value)
+{
+    CasellaSpunta spunta(u"opzInsComandi"_s, &finestra, u"Inserisci"_s);
+    spunta.Click.collega(conta);
+    finestra.mostraAttiva();
+    EXPECT_EQ(spunta.Value(), 0);
+    QTest::keyClick(&spunta, Qt::Key_Space);
+    EXPECT_EQ(volte, 1);
+    EXPECT_EQ(spunta.Value(), 1);
+    spunta.setValue(0);
+    EXPECT_EQ(volte, 2);
+    spunta.setValue(0);
+    EXPECT_EQ(volte, 2) << "that was no change";
+    EXPECT_TRUE(spunta.setProperty("Value", 1));
+    EXPECT_EQ(volte, 3);
+    EXPECT_EQ(spunta.Value(), 1);
+}
+
+TEST_F(PulsantiTest, a_check_boxs_value_is_0_or_1)
+{
+    CasellaSpunta spunta(u"opz"_s, &finestra, u"x"_s);
+    spunta.setValue(1);
+    spunta.Click.collega(conta);
+    for (const int cattivo : {-1, 2, 100})
+        EXPECT_EQ(erroreDi([&] { spunta.setValue(cattivo); }), 380) << cattivo;
+    EXPECT_EQ(spunta.Value(), 1);
+    EXPECT_EQ(volte, 0);
+}
+
+TEST_F(PulsantiTest, an_option_box_raises_click_when_it_becomes_the_chosen_one)
+{
+    CasellaOpzione base(u"opzBase"_s, &finestra, u"Base"_s);
+    CasellaOpzione testa(u"opzTesta"_s, &finestra, u"Testa"_s);
+    testa.move(0, 50);
+    QStringList ordine;
+    base.Click.collega([&] { ordine += u"base"_s; });
+    testa.Click.collega([&] { ordine += u"testa"_s; });
+    finestra.mostraAttiva();
+    base.setValue(true);
+    QTest::mouseClick(&testa, Qt::LeftButton, {}, {8, testa.height() / 2});
+    EXPECT_FALSE(base.Value());
+    EXPECT_TRUE(testa.Value());
+    testa.setValue(true);
+    EXPECT_TRUE(base.setProperty("Value", true));
+    EXPECT_EQ(ordine, (QStringList{u"base"_s, u"testa"_s, u"base"_s}));
+}
+
+TEST_F(PulsantiTest, the_chosen_option_box_can_be_cleared_by_code_without_a_click)
+{
+    CasellaOpzione base(u"opzBase"_s, &finestra, u"Base"_s);
+    CasellaOpzione testa(u"opzTesta"_s, &finestra, u"Testa"_s);
+    base.setValue(true);
+    base.Click.collega(conta);
+    testa.Click.collega(conta);
+    base.setValue(false);
+    EXPECT_FALSE(base.Value());
+    EXPECT_FALSE(testa.Value());
+    EXPECT_EQ(volte, 0);
+    testa.setValue(true);
+    base.setValue(true);
+    EXPECT_FALSE(testa.Value()) << "they still shut each other out";
+    EXPECT_EQ(volte, 2);
+}
+
+TEST_F(PulsantiTest, an_option_boxs_colour_can_be_read_back)
+{
+    CasellaOpzione base(u"opzBase"_s, &finestra, u"Base"_s);
+    base.setBackColor(QColor(0xC0, 0xFF, 0xC0));
+    EXPECT_EQ(base.BackColor(), QColor(0xC0, 0xFF, 0xC0));
+}
+
+TEST_F(PulsantiTest, a_spin_bar_raises_change_by_code_and_by_its_arrows)
+{
+    SuGiu barra(u"SuGiu"_s, &finestra, 1, 99, 1);
+    barra.resize(20, 40);
+    finestra.mostraAttiva();
+    barra.Change.collega(conta);
+    auto *su = barra.findChild<QToolButton *>(u"SuGiu.Su"_s);
+    auto *giu = barra.findChild<QToolButton *>(u"SuGiu.Giu"_s);
+    ASSERT_TRUE(su && giu);
+    EXPECT_LT(su->geometry().top(), giu->geometry().top());
+    QTest::mouseClick(su, Qt::LeftButton);
+    EXPECT_EQ(barra.Value(), 2);
+    QTest::mouseClick(giu, Qt::LeftButton);
+    EXPECT_EQ(barra.Value(), 1);
+    EXPECT_EQ(volte, 2);
+    EXPECT_TRUE(barra.setProperty("Value", 50));
+    EXPECT_EQ(volte, 3);
+    barra.setValue(50);
+    EXPECT_EQ(volte, 3) << "that was no change";
+}
+
+TEST_F(PulsantiTest, a_spin_bar_stops_at_its_limits)
+{
+    SuGiu barra(u"SuGiu"_s, &finestra, -1, 24, 24);
+    finestra.mostraAttiva();
+    barra.Change.collega(conta);
+    QTest::mouseClick(barra.findChild<QToolButton *>(u"SuGiu.Su"_s), Qt::LeftButton);
+    EXPECT_EQ(barra.Value(), 24);
+    barra.setValue(-1);
+    QTest::mouseClick(barra.findChild<QToolButton *>(u"SuGiu.Giu"_s), Qt::LeftButton);
+    EXPECT_EQ(barra.Value(), -1);
+    EXPECT_EQ(volte, 1);
+    for (const int cattivo : {-2, 25, 1000})
+        EXPECT_EQ(erroreDi([&] { barra.setValue(cattivo); }), 380) << cattivo;
+    EXPECT_EQ(barra.Value(), -1);
+    EXPECT_EQ(volte, 1);
+}
