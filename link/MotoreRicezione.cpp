@@ -9,7 +9,11 @@
 #include "Pompa.h"
 #include "Se_Casi.h"
 
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QRegularExpression>
 #include <QTimer>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -211,10 +215,10 @@ void MotoreRicezione::salvaFile(quint8 k, qsizetype n)
         return;
     const QString nome = m_file->nomeFile();
     const QString percorso = conSeparatore(m_cartella) + nome;
-    // A name that leads out of the folder is refused before anything is written; a file that
-    // cannot be written is told the same way.
-    const bool scritto =
-        nomeSicuro(nome) && passaErrori([&] { ScriviFile(percorso, m_accumulatore.parte(5, n)); });
+    // What would be written elsewhere, or over a file of the program's own, is refused before
+    // anything is written; a file that cannot be written is told the same way.
+    const bool scritto = nomeSicuro(nome) && !QFileInfo(percorso).isSymbolicLink() &&
+                         passaErrori([&] { ScriviFile(percorso, m_accumulatore.parte(5, n)); });
     if (!scritto) {
         c.BarraStato.setPanels(3, u"Errore nella lettura dei file!"_s);
     } else {
@@ -301,12 +305,21 @@ MotoreRicezione::Fermo::~Fermo()
 bool nomeSicuro(const QString &nome)
 {
     static constexpr QStringView vietati = u"/\\:*?\"<>|";
-    if (nome.isEmpty() || nome == u"."_s || nome == u".."_s || nome.endsWith(u' ') ||
-        nome.endsWith(u'.'))
+    if (nome.isEmpty() || nome.endsWith(u' ') || nome.endsWith(u'.'))
         return false;
     for (const QChar c : nome) {
         if (c < u' ' || c == QChar(0x7F) || vietati.contains(c))
             return false;
     }
-    return true;
+    // Devices on Windows, also with an ending; elsewhere a COM entry is the link to the port.
+    static const QRegularExpression dispositivo(
+        u"^((con|prn|aux|nul|conin\\$|conout\\$|(com|lpt)[0-9¹²³])( *\\..*)?|com[0-9]+)$"_s,
+        QRegularExpression::CaseInsensitiveOption);
+    if (dispositivo.match(nome).hasMatch())
+        return false;
+    const QString propri[] = {u"Porta COM"_s, u"prog.dat"_s, u"Immagini.dat"_s,
+                              nomeDelFile(QCoreApplication::applicationFilePath())};
+    return std::ranges::none_of(propri, [&](const QString &proprio) {
+        return nome.compare(proprio, Qt::CaseInsensitive) == 0;
+    });
 }

@@ -96,6 +96,7 @@ private:
     bool m_ripresaChiesta = false;
 };
 
-// Whether a file of that name can be written into a folder and nowhere else: no separator, no "..",
-// no control character, no name that a system reserves.
+// Whether a fetched file may have that name: it lies in the folder and nowhere else (no separator,
+// no "..", no control character, no name that a system reserves), and it is none of the program's
+// own files, whatever the case of its letters.
 bool nomeSicuro(const QString &nome);

@@ -1,0 +1,159 @@
+#include "frmEsploraFile.h"
+
+#include "Codifica.h"
+#include "ComandiTessaro.h"
+#include "Foto.h"
+#include "PercorsoRobot.h"
+
+namespace {
+
+enum Modo : quint8 { File = 1, Cartella = 16 };
+
+constexpr quint8 voceCartella = 2;
+// What the length byte of the command can tell.
+constexpr qsizetype percorsoMassimo = 255;
+
+// A width or a height as the layout rule works it out; a window too small for it has none.
+double misura(double unita)
+{
+    if (unita < 0)
+        throw Errore(Errore::ProprietaNonValida);
+    return unita;
+}
+
+} // namespace
+
+frmEsploraFile::frmEsploraFile(ControlloSeriale &com, BarraDiStato &barraStato)
+    : Finestra(u"frmEsploraFile"_s, u"Esplora Risorse"_s), COM(com), BarraStato(barraStato)
+{
+    disponi();
+    Disegno();
+    pulHome.Click.collega(this, &frmEsploraFile::pulHome_Click);
+    lstCartelle.DblClick.collega(this, &frmEsploraFile::lstCartelle_DblClick);
+    lstFile.DblClick.collega(this, &frmEsploraFile::lstFile_DblClick);
+}
+
+void frmEsploraFile::Disegno()
+{
+    setTag({});
+    setEnabled(true);
+    lstCartelle.setTag({});
+    lstCartelle.Clear();
+    lstFile.Clear();
+    m_fotogramma = 0;
+    imgAttesa.setVisible(false);
+    imgAttesa.setPicture(0);
+    imgFoto.setVisible(false);
+    togliFoto();
+    lblNomeFoto.setVisible(false);
+    intitolaFoto({});
+}
+
+void frmEsploraFile::Activate()
+{
+    // A disabled window cannot be come to: a fetch is not to be turned into a listing.
+    if (isEnabled() && lstCartelle.ListCount() == 0)
+        pulHome_Click();
+}
+
+void frmEsploraFile::pulHome_Click()
+{
+    setTag(u"Elenco"_s);
+    ImmagineAttesa(true);
+    ComandiTessaro::ApriPercorso(COM, Cartella, {});
+    lstCartelle.Clear();
+    lstFile.Clear();
+    lstCartelle.setTag({});
+}
+
+void frmEsploraFile::lstCartelle_DblClick()
+{
+    if (lstCartelle.ListIndex() == -1)
+        return;
+    const QString t = lstCartelle.Text();
+    setTag(u"Elenco"_s);
+    ComandiTessaro::ApriPercorso(COM, Cartella, Codifica::inByte(percorsoCartella(t)));
+    lstCartelle.setTag(prefissoCartella(t));
+    lstCartelle.Clear();
+    lstFile.Clear();
+}
+
+void frmEsploraFile::lstFile_DblClick()
+{
+    if (lstFile.ListIndex() == -1)
+        return;
+    const QString nome = lstFile.Text();
+    const QByteArray percorso = Codifica::inByte(lstCartelle.Tag() + nome);
+    if (percorso.size() > percorsoMassimo) {
+        // The robot would take the end of such a path for commands.
+        BarraStato.setPanels(3, u"Errore nella lettura dei file!"_s);
+        return;
+    }
+    setTag(u"File"_s);
+    setEnabled(false);
+    ComandiTessaro::ApriPercorso(COM, File, percorso);
+    imgFoto.setVisible(nomeDiFoto(nome));
+    lblNomeFoto.setVisible(nomeDiFoto(nome));
+    Resize();
+    BarraStato.setPanels(3, u"Attendere..."_s);
+    ImmagineAttesa(true);
+}
+
+AscoltatoreFile::Attesa frmEsploraFile::attesa() const
+{
+    if (Tag() == u"Elenco")
+        return Attesa::Elenco;
+    return Tag() == u"File" ? Attesa::File : Attesa::Niente;
+}
+
+void frmEsploraFile::VisualizzaElenco(quint8 k, quint8 x, const QByteArray &corpo)
+{
+    (x == voceCartella ? lstCartelle : lstFile).AddItem(Codifica::daByte(corpo));
+    ImmagineAttesa(true);
+    ComandiTessaro::LeggiElenco(COM, k);
+}
+
+void frmEsploraFile::ImmagineAttesa(bool attiva)
+{
+    if (attiva) {
+        m_fotogramma = static_cast<quint8>(m_fotogramma % lstImgAttesa.ListCount() + 1);
+        imgAttesa.setPicture(m_fotogramma);
+    }
+    imgAttesa.setVisible(attiva);
+}
+
+void frmEsploraFile::caricaFoto(const QString &percorso)
+{
+    imgFoto.setDisegno(leggiFoto(percorso));
+}
+
+void frmEsploraFile::intitolaFoto(const QString &nome)
+{
+    lblNomeFoto.setCaption(nome);
+    // A long name is cut at the photo's edge.
+    lblNomeFoto.setToolTip(nome.toHtmlEscaped());
+}
+
+void frmEsploraFile::riabilita()
+{
+    setEnabled(true);
+    // Disabling took the focus from the list in which the file was chosen.
+    if (isVisible())
+        lstFile.setFocus(Qt::OtherFocusReason);
+}
+
+void frmEsploraFile::Resize()
+{
+    const double larghezza = Unita::unita(width());
+    const double altezza = Unita::unita(height());
+    passaErrori([&] { imgFoto.setLeft(larghezza - imgFoto.Width() - 200); });
+    passaErrori([&] { lblNomeFoto.setLeft(imgFoto.Left()); });
+    passaErrori([&] { lstCartelle.setHeight(misura(altezza - 800)); });
+    passaErrori([&] { lstFile.setHeight(misura(altezza - 800)); });
+    passaErrori([&] {
+        const double margine = imgFoto.Visible() ? imgFoto.Width() + 400 : 300;
+        lstFile.setWidth(misura(larghezza - (lstCartelle.Left() + lstCartelle.Width()) - margine));
+    });
+    passaErrori([&] { pulHome.setLeft(lstFile.Left() + lstFile.Width() - pulHome.Width()); });
+    passaErrori([&] { imgAttesa.setLeft(pulHome.Left() - pulHome.Width()); });
+}

@@ -1,0 +1,60 @@
+// How the window looks: what the layout rule leaves alone stands here, in layout units.
+#include "frmEsploraFile.h"
+
+namespace {
+
+constexpr int larghezza = 760;
+constexpr int altezza = 440;
+// The narrowest window in which the photo leaves room for the names of files.
+constexpr int larghezzaMinima = 640;
+constexpr int altezzaMinima = 320;
+
+constexpr double bordo = 195;
+constexpr double cimaElenchi = 600;
+constexpr double cimaTitoli = 270;
+constexpr double altezzaTitolo = 300;
+
+void titolo(Etichetta &etichetta, double left, double width)
+{
+    etichetta.Move(left, cimaTitoli);
+    etichetta.Size(width, altezzaTitolo);
+    etichetta.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+} // namespace
+
+void frmEsploraFile::disponi()
+{
+    QFont carattere = font();
+    carattere.setPixelSize(12);
+    setFont(carattere);
+
+    lstCartelle.Move(bordo, cimaElenchi);
+    lstCartelle.Size(2550, 5800);
+    lstFile.Move(lstCartelle.Left() + lstCartelle.Width() + 105, cimaElenchi);
+    lstFile.Size(8000, 5800);
+    titolo(Label1, lstCartelle.Left(), lstCartelle.Width());
+    titolo(Label2, lstFile.Left(), 1500);
+    lstCartelle.setAccessibleName(Label1.Caption());
+    lstFile.setAccessibleName(Label2.Caption());
+
+    pulHome.Move(0, 75);
+    pulHome.Size(480, 450);
+    pulHome.setIcon(Disegni::icona(u"casa"));
+    pulHome.setIconSize(QSize(20, 20));
+    pulHome.setToolTip(u"Torna all'inizio"_s);
+    pulHome.setAccessibleName(pulHome.toolTip());
+    imgAttesa.Move(0, 105);
+    imgAttesa.Size(390, 390);
+
+    imgFoto.Move(0, cimaElenchi);
+    imgFoto.Size(4800, 3600);
+    imgFoto.setBorderStyle(1);
+    titolo(lblNomeFoto, 0, imgFoto.Width());
+
+    setTabOrder(&lstCartelle, &lstFile);
+    setTabOrder(&lstFile, &pulHome);
+    lstCartelle.setFocus();
+    setMinimumSize(larghezzaMinima, altezzaMinima);
+    resize(larghezza, altezza);
+}

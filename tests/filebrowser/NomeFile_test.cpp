@@ -1,0 +1,60 @@
+// Which names a fetched file may have.
+#include "MotoreRicezione.h"
+#include "Scritte.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void rifiutati(const QStringList &nomi)
+{
+    for (const QString &nome : nomi)
+        EXPECT_FALSE(nomeSicuro(nome)) << nome.toStdString();
+}
+
+} // namespace
+
+TEST(NomeSicuro, OrdinaryNamesPass)
+{
+    for (const QString &nome : {u"foto001.jpg"_s, u"LEGGIMI"_s, u"perché.txt"_s, u".nascosto"_s,
+                                u"a b.c"_s, u"FOTOGR~1.JPG"_s, u"a..b"_s, u"lista.sqm"_s})
+        EXPECT_TRUE(nomeSicuro(nome)) << nome.toStdString();
+}
+
+TEST(NomeSicuro, NamesThatLeadElsewhereAreRefused)
+{
+    rifiutati({QString(), u"."_s, u".."_s, u"../fuori"_s, u"/etc/passwd"_s, u"a/b"_s, u"..\\a"_s,
+               u"C:\\a"_s, u"C:a"_s, u"a:flusso"_s});
+}
+
+TEST(NomeSicuro, NamesThatASystemDoesNotKeepAsTheyAreAreRefused)
+{
+    rifiutati({u"a."_s, u"a "_s, u"..."_s, u" "_s, u"a\nb"_s, u"a\tb"_s, QString(QChar(0)),
+               u"a\x7f"_s, u"a*"_s, u"a?"_s, u"a|b"_s, u"a<b"_s, u"a>b"_s, u"a\"b"_s});
+}
+
+TEST(NomeSicuro, NamesOfDevicesAreRefused)
+{
+    rifiutati({u"CON"_s, u"nul"_s, u"Aux.txt"_s, u"prn .a"_s, u"COM1"_s, u"com1.txt"_s, u"LPT9"_s,
+               u"CONIN$"_s});
+    EXPECT_TRUE(nomeSicuro(u"console"_s));
+    EXPECT_TRUE(nomeSicuro(u"LPT10"_s));
+    EXPECT_TRUE(nomeSicuro(u"comando1"_s));
+}
+
+TEST(NomeSicuro, TheLinksToThePortsAreRefusedWhateverTheirNumber)
+{
+    rifiutati({u"COM3"_s, u"com12"_s, u"COM99"_s});
+}
+
+TEST(NomeSicuro, TheProgramsOwnFilesAreRefusedInAnyCase)
+{
+    const QString programma = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
+    rifiutati({u"Porta COM"_s, u"PORTA com"_s, u"prog.dat"_s, u"Prog.dat"_s, u"Immagini.dat"_s,
+               u"immagini.DAT"_s, programma, programma.toUpper()});
+    EXPECT_TRUE(nomeSicuro(u"x"_s + programma));
+}

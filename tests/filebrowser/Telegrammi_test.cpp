@@ -1,0 +1,96 @@
+// The telegrams of the storage arriving in any pieces.
+#include "Banco.h"
+
+namespace {
+
+struct Pezzi : Banco
+{
+    // Sends the bytes cut at that place, with the line idle between.
+    void spezzato(const QByteArray &byte, qsizetype taglio)
+    {
+        robot(byte.first(taglio));
+        gira(4);
+        robotFinito(byte.sliced(taglio));
+    }
+};
+
+} // namespace
+
+TEST_F(Pezzi, AListingCutAtEveryByteGivesTheSame)
+{
+    const QByteArray tutto = stato(5, 0) + voce(5, 2, "foto") + voce(5, 1, "a.txt") +
+                             voce(5, 1, "") + stato(5, 4) + stato(5, 255) + b({31, 20});
+    for (qsizetype taglio = 1; taglio < tutto.size(); ++taglio) {
+        esplora.Scarica();
+        console.lblTemperatura.setCaption({});
+        esplora.Mostra();
+        scritti();
+        spezzato(tutto, taglio);
+        EXPECT_EQ(voci(esplora.lstCartelle), QStringList{u"foto"_s}) << taglio;
+        EXPECT_EQ(voci(esplora.lstFile), (QStringList{u"a.txt"_s, QString()})) << taglio;
+        EXPECT_EQ(scritti(), b({46, 5, 46, 5, 46, 5, 46, 5, 41, 5})) << taglio;
+        EXPECT_EQ(esplora.Tag(), QString()) << taglio;
+        EXPECT_EQ(console.lblTemperatura.Caption(), u"20°"_s) << taglio;
+    }
+}
+
+TEST_F(Pezzi, AFetchCutAtEveryByteGivesTheSame)
+{
+    const QByteArray contenuto = b({45, 47, 42, 0, 255, 13, 10, 31});
+    const QByteArray tutto = stato(5, 0) + blocco(5, contenuto) + b({31, 20});
+    apri({"foto"}, {"a.bin"});
+    for (qsizetype taglio = 1; taglio < tutto.size(); ++taglio) {
+        console.lblTemperatura.setCaption({});
+        doppioClick(esplora.lstFile, 0);
+        scritti();
+        spezzato(tutto, taglio);
+        EXPECT_EQ(cartella.leggi(u"a.bin"_s), contenuto) << taglio;
+        ASSERT_TRUE(QFile::remove(cartella.percorso(u"a.bin"_s)));
+        EXPECT_EQ(scritti(), b({44, 5, 255, 255, 41, 5})) << taglio;
+        EXPECT_TRUE(esplora.isEnabled()) << taglio;
+        EXPECT_EQ(console.lblTemperatura.Caption(), u"20°"_s) << taglio;
+    }
+}
+
+TEST_F(Pezzi, AFailureCutAtEveryByteIsToldOnce)
+{
+    for (qsizetype taglio = 1; taglio < 3; ++taglio) {
+        esplora.Scarica();
+        esplora.Mostra();
+        scritti();
+        spezzato(stato(5, 2), taglio);
+        EXPECT_EQ(scritti().size(), 18) << taglio;
+    }
+}
+
+TEST_F(Pezzi, WithTheWindowClosedAnEntryCutAtEveryByteIsTaken)
+{
+    const QByteArray tutto = voce(5, 2, "foto") + b({31, 20});
+    for (qsizetype taglio = 1; taglio < tutto.size(); ++taglio) {
+        console.lblTemperatura.setCaption({});
+        spezzato(tutto, taglio);
+        EXPECT_EQ(console.lblTemperatura.Caption(), u"20°"_s) << taglio;
+    }
+    EXPECT_EQ(scritti(), QByteArray());
+}
+
+TEST_F(Pezzi, ATelegramCutShortForGoodEatsWhatFollowsAndTheEngineGoesOn)
+{
+    apri({"foto"}, {"a.txt"});
+    const QByteArray interi[] = {stato(5, 0), voce(5, 1, "abcdef"), blocco(5, "abcdef")};
+    for (const QByteArray &intero : interi) {
+        for (qsizetype taglio = 1; taglio < intero.size(); ++taglio) {
+            // Enough telemetry to fill any length that the cut one claims by now.
+            QByteArray telemetria;
+            for (int i = 0; i < 1000; ++i)
+                telemetria += b({31, 30});
+            console.lblTemperatura.setCaption({});
+            robot(intero.first(taglio) + telemetria);
+            // A block's length field may have been read from the telemetry: 7711 bytes.
+            while (!console.tmrElabInput.accumulatore.vuoto())
+                robot(telemetria);
+            robotFinito(b({31, 30, 31, 30}));
+            EXPECT_EQ(console.lblTemperatura.Caption(), u"30°"_s) << taglio;
+        }
+    }
+}
