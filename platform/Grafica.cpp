@@ -130,6 +130,15 @@ void Superficie::Riempi(const QRect &rettangolo, const QColor &colore)
     update(rettangolo);
 }
 
+void Superficie::Dipingi(QPoint angolo, const QImage &immagine)
+{
+    adatta();
+    QPainter pittore(&m_disegno);
+    pittore.setCompositionMode(QPainter::CompositionMode_Source);
+    pittore.drawImage(angolo, immagine);
+    update(QRect(angolo, immagine.size()));
+}
+
 void Superficie::Stampa(const QString &testo)
 {
     adatta();

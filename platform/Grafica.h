@@ -135,6 +135,8 @@ public:
 
     // Coordinates in logical pixels.
     void Riempi(const QRect &rettangolo, const QColor &colore);
+    // A whole picture at once, its upper left corner there, in place of what was there.
+    void Dipingi(QPoint angolo, const QImage &immagine);
     void Stampa(const QString &testo);
     void Pulisci();
     const QImage &disegno() const { return m_disegno; }

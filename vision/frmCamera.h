@@ -1,0 +1,64 @@
+// The live picture of the robot's camera.
+#pragma once
+
+#include "Acquisitore.h"
+#include "Acquisizione.h"
+#include "Ascoltatori.h"
+#include "ControlliVideo.h"
+#include "Finestra.h"
+#include "Fotogramma.h"
+#include "InPixel.h"
+#include "frmNomeImmagine.h"
+
+// Its Tag is the video scale: "10" while video runs, "0" where it could not be started.
+class frmCamera : public Finestra, public AscoltatoreVideo, public Acquisitore
+{
+    Q_OBJECT
+
+public:
+    frmCamera(const ControlliVideo &console, frmNomeImmagine &nomeImmagine);
+
+    // Whether the video window was asked for from the toolbar and is not closed yet.
+    bool cameraAperta() const override;
+    // Takes a row of 160 bytes, more being ignored; with the 60th one the frame is painted and
+    // searched. "Azzera" begins a new frame. Nothing where video does not run or the window is not
+    // visible. Failures are told in panel 3.
+    void CalcolaRiga(const QByteArray &riga) override;
+    void AcquisisciImmagine(const Matrice &matrice, quint8 left, quint8 top, quint8 width,
+                            quint8 height) override;
+
+    // Its Tag is the zoom: how many screen pixels one pixel of the frame occupies.
+    Superficie Schermo;
+    // Its Tag tells whether a finished selection waits for the next complete frame.
+    FormaInPixel shpSelezione;
+    FormaInPixel shpImgRilevata;
+    EtichettaInPixel lblNomeImmagine;
+
+protected:
+    void Disegno() override;
+    void Load() override;
+    void Activate() override;
+    void Resize() override;
+    void Unload(bool &Cancel) override;
+
+private:
+    void disponi();
+    void Schermo_Resize();
+    void Schermo_MouseDown(int Button, int Shift, double X, double Y);
+    void Schermo_MouseMove(int Button, int Shift, double X, double Y);
+    void Schermo_MouseUp();
+    void Schermo_DblClick();
+
+    void AvviaRicezione();
+    void SvuotaRicezione();
+    void mostraFotogramma();
+    void PreparaAcquisizione();
+    void CercaImmagini();
+    bool cercaTraLeAttive();
+    int zoom() const;
+
+    ControlliVideo c;
+    ::frmNomeImmagine &frmNomeImmagine;
+    Fotogramma m_fotogramma;
+    Acquisizione m_acquisizione;
+};
