@@ -9,6 +9,7 @@
 #include "Pompa.h"
 #include "Se_Casi.h"
 
+#include <QFileInfo>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -211,10 +212,10 @@ void MotoreRicezione::salvaFile(quint8 k, qsizetype n)
         return;
     const QString nome = m_file->nomeFile();
     const QString percorso = conSeparatore(m_cartella) + nome;
-    // A name that leads out of the folder is refused before anything is written; a file that
-    // cannot be written is told the same way.
-    const bool scritto =
-        nomeSicuro(nome) && passaErrori([&] { ScriviFile(percorso, m_accumulatore.parte(5, n)); });
+    // A name that leads out of the folder, by itself or as a link does, is refused before anything
+    // is written; a file that cannot be written is told the same way.
+    const bool scritto = nomeSicuro(nome) && !QFileInfo(percorso).isSymLink() &&
+                         passaErrori([&] { ScriviFile(percorso, m_accumulatore.parte(5, n)); });
     if (!scritto) {
         c.BarraStato.setPanels(3, u"Errore nella lettura dei file!"_s);
     } else {
