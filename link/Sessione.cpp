@@ -3,6 +3,7 @@
 #include "Abilita_Disabilita.h"
 #include "Archivio.h"
 #include "Codifica.h"
+#include "Gest_File.h"
 #include "Messaggi.h"
 #include "Numeri.h"
 #include "Pompa.h"
@@ -99,7 +100,7 @@ void Sessione::connesso()
     ImpostaVisibili(true, t.imgLivBattLogica, t.imgLivBattMotori);
     c.BarraStato.setPanels(1, u"Connesso"_s);
     c.BarraStato.setPanels(3, {});
-    m_finestre.RidaiFuoco();
+    passaErrori([&] { m_finestre.RidaiFuoco(); });
 }
 
 void Sessione::nonRiuscito()
@@ -144,17 +145,15 @@ void Sessione::ApriPortaSalvata()
 void Sessione::ChiediPorta()
 {
     m_impostaPorta.MostraModale();
-    Archivio::apri(1, u"Porta COM"_s, Archivio::Modo::Scrittura);
-    Archivio::stampa(1, Codifica::inByte(m_impostaPorta.txtPorta.Text()) + "\r\n");
-    Archivio::chiudi();
+    ScriviFile(u"Porta COM"_s, Codifica::inByte(m_impostaPorta.txtPorta.Text()) + "\r\n");
 }
 
 void Sessione::Scollega()
 {
-    m_finestre.scaricaCamera();
-    m_finestre.scaricaEsploraFile();
+    passaErrori([&] { m_finestre.scaricaCamera(); });
+    passaErrori([&] { m_finestre.scaricaEsploraFile(); });
     if (m_finestre.vigilioAvviato())
-        m_finestre.stoppaVigilio();
+        passaErrori([&] { m_finestre.stoppaVigilio(); });
     ImpostaAbilitati(false, c.tmrControllaConn, c.tmrElabInput, c.tmrSensori);
     ComandiTessaro::ChiudiSessione(COM);
     COM.setPortOpen(false);
@@ -182,13 +181,15 @@ void Sessione::MostraInvio(const QString &testo)
         // A wait inside this one may have left the bar at its end.
         passaErrori([&] { barra.setValore(barra.Value() + 1); });
         pompa();
+        // The user may have disconnected meanwhile: what the robot does is no longer asked.
+        if (!COM.PortOpen()) {
+            barra.setValore(1);
+            return;
+        }
         if (barra.Value() >= barra.Max()) {
             c.BarraStato.setPanels(3, u"Nessuna risposta."_s);
             return;
         }
-        // The user may have disconnected meanwhile.
-        if (!COM.PortOpen())
-            return;
         const auto conteggio = static_cast<qint16>(COM.InBufferCount());
         if (conteggio != UltimoConteggio) {
             barra.setValore(1);
@@ -229,8 +230,10 @@ void Sessione::tmrControllaConn_Timer()
     for (int giri = 1; risposta.isEmpty() && giri <= giriMassimi; ++giri) {
         pompa();
         // The user may have disconnected meanwhile: there is nothing left to search for.
-        if (!c.tmrControllaConn.Enabled())
+        if (!c.tmrControllaConn.Enabled()) {
+            c.BarraCaricamento.setValore(1);
             return;
+        }
         if (giri > giriRicerca) {
             c.BarraStato.setPanels(1, u"Ricerca..."_s);
             passaErrori([&] { c.BarraCaricamento.setValore(giri); });
@@ -248,7 +251,9 @@ void Sessione::tmrControllaConn_Timer()
     } else {
         c.BarraStato.setPanels(3, u"Robot non trovato, chiusura della connessione in corso..."_s);
         pompa();
-        m_finestre.BarraPulsanti_ButtonClick(c.BarraPulsanti.Buttons(1));
+        // Where the user was quicker, the button would connect again.
+        if (c.tmrControllaConn.Enabled())
+            passaErrori([&] { m_finestre.BarraPulsanti_ButtonClick(c.BarraPulsanti.Buttons(1)); });
         m_mancato = false;
         c.BarraCaricamento.setValore(1);
     }

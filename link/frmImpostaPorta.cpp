@@ -1,6 +1,7 @@
 #include "frmImpostaPorta.h"
 
 #include <QGridLayout>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -30,26 +31,34 @@ frmImpostaPorta::frmImpostaPorta()
     griglia->addWidget(&pulOK, 1, 3);
     resize(320, 110);
     Disegno();
+    pulOK.MouseDown.collega(this, &frmImpostaPorta::pulOK_MouseDown);
     pulOK.Click.collega(this, &frmImpostaPorta::pulOK_Click);
 }
 
 void frmImpostaPorta::Disegno()
 {
     setTag({});
+    m_dettoAlClick = false;
     txtPorta.setText(u"1"_s);
     SuGiu.setValue(1);
 }
 
+void frmImpostaPorta::pulOK_MouseDown()
+{
+    // The press took the focus from an empty box, and the message was shown then.
+    m_dettoAlClick = Tag() == u"Errore"_s;
+}
+
 void frmImpostaPorta::pulOK_Click()
 {
+    // Once is enough for one click; and a mark that is left from a box put right since is not held
+    // against it.
     const bool vuota = txtPorta.Text().isEmpty();
-    // The click took the focus from the box, and the message was shown then: once is enough. A
-    // mark that is left from a box put right since is not held against it.
-    const bool giaDetto = vuota && Tag() == u"Errore"_s;
-    if (!vuota)
+    const bool giaDetto = std::exchange(m_dettoAlClick, false) && vuota;
+    if (!giaDetto) {
         setTag({});
-    if (!giaDetto)
         m_numeroPorta.txtPorta_LostFocus();
+    }
     if (Tag() == u"Errore"_s)
         setTag({});
     else

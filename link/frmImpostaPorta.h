@@ -21,7 +21,9 @@ protected:
     void Disegno() override;
 
 private:
+    void pulOK_MouseDown();
     void pulOK_Click();
 
     NumeroPorta m_numeroPorta;
+    bool m_dettoAlClick = false;
 };

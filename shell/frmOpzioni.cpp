@@ -105,11 +105,7 @@ void frmOpzioni::Activate()
 
 void frmOpzioni::pulOK_Click()
 {
-    passaErrori([&] {
-        Archivio::apri(1, u"Porta COM"_s, Archivio::Modo::Scrittura);
-        Archivio::stampa(1, Codifica::inByte(txtPorta.Text()) + "\r\n");
-        Archivio::chiudi();
-    });
+    passaErrori([&] { ScriviFile(u"Porta COM"_s, Codifica::inByte(txtPorta.Text()) + "\r\n"); });
     QByteArray testo;
     passaErrori([&] { testo = LeggiFile(u"prog.dat"_s, 0); });
     // Nothing found is -1, and what stands behind it is the whole text.

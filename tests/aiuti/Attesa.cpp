@@ -9,7 +9,7 @@ bool aspetta(const std::function<bool()> &condizione)
     QElapsedTimer orologio;
     orologio.start();
     while (!condizione()) {
-        if (orologio.hasExpired(120'000))
+        if (orologio.hasExpired(60'000))
             return false;
         pompa();
     }
