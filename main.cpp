@@ -3,9 +3,55 @@
 #include "Comandi.h"
 #include "Italiano.h"
 #include "PortaAsio.h"
+#include "frmCamera.h"
+#include "frmEditor.h"
+#include "frmEsploraFile.h"
 #include "frmPrincipale.h"
 
 #include <QApplication>
+
+namespace {
+
+// The console, as the editor sees it.
+class ConsoleVicina : public ConsoleEditor
+{
+public:
+    explicit ConsoleVicina(frmPrincipale &principale) : m_principale(principale) {}
+
+    ControlloSeriale &COM() override { return m_principale.COM; }
+    Posto posto() const override
+    {
+        return {m_principale.Left(), m_principale.Top(), m_principale.Width()};
+    }
+    void mostraMessaggio(const QString &testo) override
+    {
+        m_principale.BarraStato.setPanels(3, testo);
+    }
+    void MostraInvio(const QString &testo) override { m_principale.MostraInvio(testo); }
+    void AggiungiMossa(const QString &riga) override { m_principale.AggiungiMossa(riga); }
+
+private:
+    frmPrincipale &m_principale;
+};
+
+// The video window, as the line "Camera" of a list sees it.
+class CameraVicina : public CameraEditor
+{
+public:
+    explicit CameraVicina(frmCamera &camera) : m_camera(camera) {}
+    void mostra() override { m_camera.Mostra(); }
+
+private:
+    frmCamera &m_camera;
+};
+
+class OrologioVero : public Orologio
+{
+public:
+    QTime adesso() const override { return QTime::currentTime(); }
+};
+
+} // namespace
 
 int main(int argc, char **argv)
 {
@@ -14,9 +60,35 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(u"Lumbra"_s);
     QApplication::setStyle(u"Fusion"_s);
     QApplication::setWindowIcon(Disegni::icona(u"lumbra"));
+    const QString cartella = trovaCartellaProgramma();
 
     frmPrincipale principale(
-        {std::make_unique<PortaAsio>(), trovaCartellaProgramma(), [] { terminaProgramma(0); }});
+        {std::make_unique<PortaAsio>(), cartella, [] { terminaProgramma(0); }});
+
+    frmImmaginiAcquisite immaginiAcquisite(principale.lstImgCamera);
+    frmNomeImmagine nomeImmagine(immaginiAcquisite);
+    frmCamera camera({principale.COM, principale.BarraPulsanti, principale.BarraStato,
+                      principale.tmrElabInput, principale.lstImgCamera, principale.esitoVideo()},
+                     nomeImmagine);
+    frmEsploraFile esploraFile(principale.COM, principale.BarraStato);
+    principale.motore.ascoltaVideo(&camera);
+    principale.motore.ascoltaFile(&esploraFile);
+
+    ConsoleVicina console(principale);
+    CameraVicina cameraVicina(camera);
+    const OrologioVero orologio;
+    frmEditor editor(console, orologio, cartella);
+    editor.impostaCamera(&cameraVicina);
+
+    FinestreConsole finestre;
+    finestre.frmCamera = &camera;
+    finestre.frmEditor = &editor;
+    finestre.opzInsComandi = &editor.opzInsComandi;
+    finestre.lstMosse = &editor.lstMosse;
+    finestre.frmEsploraFile = &esploraFile;
+    finestre.frmImmaginiAcquisite = &immaginiAcquisite;
+    principale.impostaFinestre(finestre);
+
     eseguiGestore([&] { principale.Mostra(); });
     return QApplication::exec();
 }
