@@ -128,9 +128,17 @@ void frmPrincipale::colloca()
 void frmPrincipale::Activate()
 {
     passaErrori([this] { ImgTesta.SetFocus(); });
-    // The frame's width is known only now.
-    if (frameGeometry() != geometry() && frameGeometry().right() > screen()->geometry().right())
-        colloca();
+}
+
+void frmPrincipale::changeEvent(QEvent *evento)
+{
+    Finestra::changeEvent(evento);
+    // Only when it comes to the front does the window know the frame that it was given.
+    if (evento->type() == QEvent::ActivationChange && isActiveWindow() && !m_incorniciata) {
+        m_incorniciata = true;
+        if (frameGeometry() != geometry())
+            colloca();
+    }
 }
 
 void frmPrincipale::MouseMove()
@@ -199,7 +207,12 @@ bool frmPrincipale::mandaOInserisci(const Azione &azione)
 
 void frmPrincipale::BarraPulsanti_ButtonClick(PulsanteBarra &Button)
 {
-    switch (Button.Image()) {
+    passaErrori([&] { esegui(Button.Image()); });
+}
+
+void frmPrincipale::esegui(int Image)
+{
+    switch (Image) {
     case 1:
         Collega();
         break;
@@ -254,6 +267,7 @@ void frmPrincipale::icona(Immagine &immagine, int numero, const QString &suggeri
 {
     immagine.setPicture(numero);
     immagine.setToolTip(suggerimento);
+    immagine.setAccessibleName(suggerimento);
     immagine.setTop(accanto.Top());
 }
 
@@ -280,6 +294,7 @@ void frmPrincipale::opzBraccia_Click()
     for (Immagine *immagine : {&Image1, &Image2}) {
         immagine->setPicture(0);
         immagine->setToolTip({});
+        immagine->setAccessibleName({});
     }
     // The letters head the columns of the left and the right arm.
     lblOpzioni.setCaption(u"S         D"_s);

@@ -171,6 +171,7 @@ protected:
     void MouseMove() override;
     void KeyDown(int KeyCode, int Shift) override;
     void KeyUp(int KeyCode, int Shift) override;
+    void changeEvent(QEvent *evento) override;
 
 private:
     // How the window looks.
@@ -190,6 +191,8 @@ private:
     bool mandaOInserisci(const Azione &azione);
 
     void BarraPulsanti_ButtonClick(PulsanteBarra &Button) override;
+    // What the toolbar button with that picture does.
+    void esegui(int Image);
     void apri(Finestra *finestra);
     void opzBase_Click();
     void opzBraccia_Click();
@@ -226,4 +229,5 @@ private:
     FinestreConsole m_finestre;
     Sessione m_sessione;
     quint8 PassoFrecce = 0;
+    bool m_incorniciata = false;
 };

@@ -187,8 +187,10 @@ void frmPrincipale::disponiTesta()
     suggerimento(imgLEDPos, u"LED di posizione. Click sinistro: accendi. Click destro: spegni"_s);
     const auto comparsa = [](Forma &cappello, Etichetta &testo, Elenco &lista,
                              const QColor &colore) {
-        metti(cappello, 576, 72, 108, 24);
-        metti(testo, 576, 72, 108, 24);
+        // Over the picture: the mouse that comes from one of its halves must not cross the bare
+        // window, which would forget the half.
+        metti(cappello, 440, 120, 100, 22);
+        metti(testo, 440, 120, 100, 22);
         cappello.setColori(colore, colore.darker(130), 4);
         titolo(testo);
         testo.setForeColor(Qt::black);
@@ -201,7 +203,7 @@ void frmPrincipale::disponiTesta()
         lista.setFocusPolicy(Qt::NoFocus);
         for (const QString &voce : {u"Verde"_s, u"Giallo"_s, u"Rosso"_s, u"Blu"_s})
             lista.AddItem(voce);
-        metti(lista, 576, 95, 108, 4 * lista.sizeHintForRow(0) + 2 * lista.frameWidth());
+        metti(lista, 440, 141, 100, 4 * lista.sizeHintForRow(0) + 2 * lista.frameWidth());
         for (QWidget *parte : std::initializer_list<QWidget *>{&cappello, &testo, &lista}) {
             parte->raise();
             parte->hide();

@@ -5,7 +5,7 @@
 
 // The actions take the text of their box, and its number when they run: one that does not fit is
 // Errore::Overflow there.
-namespace Voce {
+namespace Parlato {
 
 // The phrase between quote marks, the sound's name bare. The text is compared, not its value: "07"
 // has no name, nor has any other text that is no number of the table.
@@ -30,4 +30,4 @@ Azione fermaProgramma();
 // units.
 int bordo(double x, double y, double larghezza, double altezza);
 
-} // namespace Voce
+} // namespace Parlato

@@ -1,4 +1,4 @@
-#include "Voce.h"
+#include "Parlato.h"
 
 #include "ComandiTessaro.h"
 #include "FrasiSuoni.h"
@@ -34,7 +34,7 @@ Azione messaggio(const QString &numero, const QString &cosa,
 
 } // namespace
 
-namespace Voce {
+namespace Parlato {
 
 QString nomeFrase(const QString &numero)
 {
@@ -109,4 +109,4 @@ int bordo(double x, double y, double larghezza, double altezza)
     return dentro ? 1 : 0;
 }
 
-} // namespace Voce
+} // namespace Parlato
