@@ -111,6 +111,6 @@ void frmEditor::colloca()
     if (suo->virtualGeometry().intersects(frameGeometry()))
         return;
     const QRect libero = suo->availableGeometry();
-    move(libero.right() + 1 - frameGeometry().width(),
+    move(libero.right() - Unita::pixel(distanza) - frameGeometry().width(),
          qBound(libero.top(), y(), qMax(libero.top(), libero.bottom() + 1 - height())));
 }

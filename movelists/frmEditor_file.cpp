@@ -106,10 +106,14 @@ void frmEditor::mnuFileSalva_Click()
     QStringList righe;
     for (int i = 0; i < lstMosse.ListCount(); ++i)
         righe += lstMosse.List(i);
-    // No failure is told; a file that is not written whole stays as it was.
-    passaErrori([this] { Archivio::apri(1, Finestre.FileName(), Archivio::Modo::Scrittura); });
-    passaErrori([&] { Archivio::stampa(1, FileMosse::scritto(righe)); });
-    passaErrori([] { Archivio::chiudi(); });
+    // No failure is told; a file that cannot be written whole stays as it was.
+    const bool scritto =
+        passaErrori([&] { Archivio::apri(1, Finestre.FileName(), Archivio::Modo::Scrittura); }) &&
+        passaErrori([&] { Archivio::stampa(1, FileMosse::scritto(righe)); });
+    if (scritto)
+        passaErrori([] { Archivio::chiudi(); });
+    else
+        Archivio::abbandona();
     lblFile.setCaption(nomeDelFile(Finestre.FileName()));
     lstMosse.setTag(Numeri::TestoLogico(true));
 }

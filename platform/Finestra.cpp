@@ -26,6 +26,11 @@ Finestra::Finestra(const QString &nome, const QString &titolo) : m_titolo(titolo
     setAttribute(Qt::WA_QuitOnClose, false);
 }
 
+Finestra *Finestra::Ultima()
+{
+    return ultimaAttiva && ultimaAttiva->isVisible() ? ultimaAttiva.data() : nullptr;
+}
+
 bool Finestra::carica()
 {
     if (m_caricata)

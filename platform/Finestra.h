@@ -36,6 +36,9 @@ public:
     void Mostra();
     // The same as a dialog: returns when the window is hidden or unloaded.
     void MostraModale();
+    // The window that was active last, while it is visible: a window system gives the activity back
+    // only some time after a message box or a file dialog has closed. nullptr where there is none.
+    static Finestra *Ultima();
     // Keeps the window's state.
     void Nascondi() { hide(); }
     // Asks QueryUnload and Unload; where neither refuses, hides the window and puts its design

@@ -1,6 +1,7 @@
 #include "FinestraFile.h"
 
 #include "Errore.h"
+#include "Finestra.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -34,7 +35,8 @@ void FinestraFile::ShowSave()
 void FinestraFile::mostra(QFileDialog::AcceptMode modo)
 {
     const bool apre = modo == QFileDialog::AcceptOpen;
-    QFileDialog dialogo(QApplication::activeWindow());
+    QWidget *sopra = QApplication::activeWindow();
+    QFileDialog dialogo(sopra ? sopra : Finestra::Ultima());
     // The system's own dialog speaks the system's language.
     dialogo.setOption(QFileDialog::DontUseNativeDialog);
     dialogo.setOption(QFileDialog::DontConfirmOverwrite);

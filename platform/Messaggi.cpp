@@ -1,5 +1,7 @@
 #include "Messaggi.h"
 
+#include "Finestra.h"
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -41,6 +43,8 @@ Risposta messaggio(const QString &testo, Icona icona, Pulsanti pulsanti, const Q
     QWidget *sopra = QApplication::activeModalWidget();
     if (!sopra)
         sopra = QApplication::activeWindow();
+    if (!sopra)
+        sopra = Finestra::Ultima();
     Riquadro box(sopra);
     box.setObjectName(u"Messaggio"_s);
     box.setWindowTitle(titolo.isEmpty() ? u"Lumbra"_s : titolo);

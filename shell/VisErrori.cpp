@@ -1,6 +1,7 @@
 #include "VisErrori.h"
 
 #include "Errore.h"
+#include "Finestra.h"
 #include "Messaggi.h"
 
 #include <QApplication>
@@ -11,6 +12,8 @@ using namespace Qt::StringLiterals;
 QString titoloFinestraAttiva()
 {
     const QWidget *attiva = QApplication::activeWindow();
+    if (!attiva)
+        attiva = Finestra::Ultima();
     return attiva ? attiva->windowTitle() : QString();
 }
 

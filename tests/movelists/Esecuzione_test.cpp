@@ -320,18 +320,15 @@ TEST_F(EsecuzioneTest, ALoopThatIsStoppedStartsAnew)
     EXPECT_EQ(editor.mnuInsRipeti.Tag(), u"-1"_s);
 }
 
-TEST_F(EsecuzioneTest, ALoopWhoseBlockWasDeletedStaysWhereItIs)
+TEST_F(EsecuzioneTest, ALoopWhoseReturnPointWasDeletedGoesOnBehindItself)
 {
-    avvia({u"Stop"_s, u"Ripeti 1 volta"_s, u"Foto"_s, u"Pausa 60000"_s});
     console.accelera = false;
-    aspettaRighe(4);
-    // The return point lies behind the list's end now.
+    avvia({u"Pausa 60000"_s, u"Ripeti 1 volta"_s, u"Foto"_s});
+    aspettaRighe(1);
     editor.mnuInsRipeti.setTag(u"9"_s);
-    lista.setList(3, u"Ripeti 1 volta"_s);
-    lista.setListIndex(2);
     timer.setInterval(1);
-    aspettaFine();
-    EXPECT_EQ(editor.pulEsegui.Caption(), u"ESEGUI"_s);
+    EXPECT_TRUE(aspetta([this] { return lista.ListIndex() == 2; }));
+    EXPECT_EQ(mandati(), QList<QByteArray>{foto});
 }
 
 TEST_F(EsecuzioneTest, TheMouseCannotMoveTheSelectionOfARun)

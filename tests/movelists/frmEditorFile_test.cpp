@@ -316,7 +316,8 @@ TEST_F(EditorFileTest, ClosingDiscardsTheContent)
     editor.setTag(u"Aperto"_s);
     editor.mnuFileEsci.trigger();
     EXPECT_FALSE(editor.Visible());
-    mostra();
+    editor.Mostra();
+    EXPECT_TRUE(editor.Visible());
     EXPECT_EQ(lista.ListCount(), 0);
     EXPECT_EQ(editor.Finestre.FileName(), QString());
     EXPECT_EQ(editor.lblFile.Caption(), QString());

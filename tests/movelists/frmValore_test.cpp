@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QTest>
 #include <gmock/gmock.h>
+#include <memory>
 
 namespace {
 
@@ -17,37 +18,37 @@ protected:
     // Shows the dialog in a mode, does what a user does, and returns when it has been hidden.
     void conDialogo(const QString &modo, const std::function<void()> &agisci)
     {
-        dialogo.setTag(modo);
+        m_dialogo->setTag(modo);
         bool fatto = false;
         const ConModale utente(u"frmValore"_s, [&] {
             if (std::exchange(fatto, true))
                 return;
             agisci();
-            if (dialogo.Visible())
-                dialogo.close();
+            if (m_dialogo->Visible())
+                m_dialogo->close();
         });
-        dialogo.MostraModale();
+        m_dialogo->MostraModale();
         EXPECT_TRUE(fatto);
     }
 
     // Types into the box in place of what it holds.
     void scrivi(const QString &testo)
     {
-        dialogo.txtValore.setFocus();
-        dialogo.txtValore.selectAll();
+        m_dialogo->txtValore.setFocus();
+        m_dialogo->txtValore.selectAll();
         if (testo.isEmpty())
-            QTest::keyClick(&dialogo.txtValore, Qt::Key_Backspace);
-        QTest::keyClicks(&dialogo.txtValore, testo);
+            QTest::keyClick(&m_dialogo->txtValore, Qt::Key_Backspace);
+        QTest::keyClicks(&m_dialogo->txtValore, testo);
     }
     void invio() { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); }
     void clicca(QWidget &controllo)
     {
-        const QPoint punto = controllo.mapTo(&dialogo, controllo.rect().center());
-        QTest::mouseClick(dialogo.windowHandle(), Qt::LeftButton, {}, punto);
+        const QPoint punto = controllo.mapTo(m_dialogo.get(), controllo.rect().center());
+        QTest::mouseClick(m_dialogo->windowHandle(), Qt::LeftButton, {}, punto);
     }
-    QString testo() const { return dialogo.txtValore.Text(); }
+    QString testo() const { return m_dialogo->txtValore.Text(); }
 
-    frmValore dialogo;
+    std::unique_ptr<frmValore> m_dialogo = std::make_unique<frmValore>();
 };
 
 } // namespace
@@ -70,11 +71,11 @@ TEST_F(FrmValoreTest, EachModeHasItsTitleItsHeadingAndItsRows)
     };
     for (const Modo &modo : modi) {
         conDialogo(modo.nome, [&] {
-            EXPECT_EQ(dialogo.Caption(), modo.titolo);
-            EXPECT_EQ(dialogo.lblInfo.Caption(), modo.etichetta);
-            EXPECT_EQ(dialogo.txtValore.Tag(), modo.limite);
-            EXPECT_EQ(dialogo.cbInfo.ListCount(), modo.righe);
-            EXPECT_EQ(dialogo.cbInfo.ListIndex(), 0);
+            EXPECT_EQ(m_dialogo->Caption(), modo.titolo);
+            EXPECT_EQ(m_dialogo->lblInfo.Caption(), modo.etichetta);
+            EXPECT_EQ(m_dialogo->txtValore.Tag(), modo.limite);
+            EXPECT_EQ(m_dialogo->cbInfo.ListCount(), modo.righe);
+            EXPECT_EQ(m_dialogo->cbInfo.ListIndex(), 0);
         });
     }
 }
@@ -82,8 +83,8 @@ TEST_F(FrmValoreTest, EachModeHasItsTitleItsHeadingAndItsRows)
 TEST_F(FrmValoreTest, AnUnknownModeSetsNothing)
 {
     conDialogo(u"pausa"_s, [&] {
-        EXPECT_EQ(dialogo.lblInfo.Caption(), u"Informazioni:"_s);
-        EXPECT_EQ(dialogo.cbInfo.ListCount(), 0);
+        EXPECT_EQ(m_dialogo->lblInfo.Caption(), u"Informazioni:"_s);
+        EXPECT_EQ(m_dialogo->cbInfo.ListCount(), 0);
     });
 }
 
@@ -107,7 +108,7 @@ TEST_F(FrmValoreTest, APauseStartsWithZeroAndThenWithTheLastNumber)
     });
     conDialogo(u"Pausa"_s, [&] {
         EXPECT_EQ(testo(), u"33"_s);
-        EXPECT_EQ(dialogo.cbInfo.ListIndex(), 0);
+        EXPECT_EQ(m_dialogo->cbInfo.ListIndex(), 0);
     });
 }
 
@@ -115,18 +116,18 @@ TEST_F(FrmValoreTest, TypingANumberMovesTheList)
 {
     conDialogo(u"Frase"_s, [&] {
         scrivi(u"7"_s);
-        EXPECT_EQ(dialogo.cbInfo.ListIndex(), 6);
+        EXPECT_EQ(m_dialogo->cbInfo.ListIndex(), 6);
         EXPECT_EQ(testo(), u"7"_s);
         scrivi(u"140"_s);
-        EXPECT_EQ(dialogo.cbInfo.Text(), u"Vuoi giocare con me?"_s);
+        EXPECT_EQ(m_dialogo->cbInfo.Text(), u"Vuoi giocare con me?"_s);
     });
     conDialogo(u"Ripeti"_s, [&] {
         scrivi(u"7"_s);
-        EXPECT_EQ(dialogo.cbInfo.Text(), u"7 volte"_s);
+        EXPECT_EQ(m_dialogo->cbInfo.Text(), u"7 volte"_s);
     });
     conDialogo(u"Pausa"_s, [&] {
         scrivi(u"1"_s);
-        EXPECT_EQ(dialogo.cbInfo.ListIndex(), 0);
+        EXPECT_EQ(m_dialogo->cbInfo.ListIndex(), 0);
     });
 }
 
@@ -134,19 +135,19 @@ TEST_F(FrmValoreTest, ChoosingARowSetsTheNumber)
 {
     conDialogo(u"Frase"_s, [&] {
         scrivi(u"7"_s);
-        dialogo.cbInfo.setListIndex(0);
+        m_dialogo->cbInfo.setListIndex(0);
         EXPECT_EQ(testo(), u"1"_s);
-        dialogo.cbInfo.setFocus();
-        QTest::keyClick(&dialogo.cbInfo, Qt::Key_Down);
+        m_dialogo->cbInfo.setFocus();
+        QTest::keyClick(&m_dialogo->cbInfo, Qt::Key_Down);
         EXPECT_EQ(testo(), u"2"_s);
     });
     conDialogo(u"Ripeti"_s, [&] {
-        dialogo.cbInfo.setListIndex(5);
+        m_dialogo->cbInfo.setListIndex(5);
         EXPECT_EQ(testo(), u"5"_s);
     });
     conDialogo(u"Pausa"_s, [&] {
         scrivi(u"9"_s);
-        dialogo.cbInfo.setListIndex(1);
+        m_dialogo->cbInfo.setListIndex(1);
         EXPECT_EQ(testo(), u"9"_s);
     });
 }
@@ -156,7 +157,7 @@ TEST_F(FrmValoreTest, ANumberOutsideTheListLeavesItsRow)
     conDialogo(u"Suono"_s, [&] {
         scrivi(u"17"_s);
         // "1" came first, and row 16 is refused.
-        EXPECT_EQ(dialogo.cbInfo.ListIndex(), 0);
+        EXPECT_EQ(m_dialogo->cbInfo.ListIndex(), 0);
         EXPECT_EQ(testo(), u"17"_s);
         scrivi(u"99999999999"_s);
         EXPECT_EQ(testo(), u"99999999999"_s);
@@ -170,7 +171,7 @@ TEST_F(FrmValoreTest, AnEmptiedNumberSelectsNothingAndStaysEmpty)
             scrivi(u"5"_s);
             scrivi(QString());
             EXPECT_EQ(testo(), QString());
-            EXPECT_EQ(dialogo.cbInfo.ListIndex(), -1);
+            EXPECT_EQ(m_dialogo->cbInfo.ListIndex(), -1);
         });
     }
 }
@@ -180,7 +181,7 @@ TEST_F(FrmValoreTest, OnlyDigitsCanBeTyped)
     conDialogo(u"Pausa"_s, [&] {
         scrivi(u"1a.-, 2"_s);
         EXPECT_EQ(testo(), u"12"_s);
-        QTest::keyClick(&dialogo.txtValore, Qt::Key_Backspace);
+        QTest::keyClick(&m_dialogo->txtValore, Qt::Key_Backspace);
         EXPECT_EQ(testo(), u"1"_s);
     });
 }
@@ -196,8 +197,8 @@ TEST_F(FrmValoreTest, EnterRefusesANumberAboveTheLimit)
         conDialogo(modo, [&] {
             scrivi(numero);
             invio();
-            EXPECT_TRUE(dialogo.Visible());
-            EXPECT_TRUE(dialogo.txtValore.hasFocus());
+            EXPECT_TRUE(m_dialogo->Visible());
+            EXPECT_EQ(m_dialogo->focusWidget(), &m_dialogo->txtValore);
         });
         ASSERT_EQ(utente.visti().size(), 1);
         EXPECT_EQ(utente.visti()[0].testo, u"Il numero impostato è troppo alto!"_s);
@@ -213,16 +214,16 @@ TEST_F(FrmValoreTest, EnterRefusesZeroButForALoop)
         conDialogo(modo, [&] {
             scrivi(u"0"_s);
             invio();
-            EXPECT_TRUE(dialogo.Visible());
+            EXPECT_TRUE(m_dialogo->Visible());
         });
         EXPECT_EQ(utente.testi(), QStringList{u"Lo zero non si può mettere"_s});
     }
     conDialogo(u"Ripeti"_s, [&] {
         scrivi(u"0"_s);
         invio();
-        EXPECT_FALSE(dialogo.Visible());
+        EXPECT_FALSE(m_dialogo->Visible());
     });
-    EXPECT_EQ(dialogo.Tag(), u"Ripeti"_s);
+    EXPECT_EQ(m_dialogo->Tag(), u"Ripeti"_s);
 }
 
 TEST_F(FrmValoreTest, EnterRefusesAnEmptyNumber)
@@ -231,7 +232,7 @@ TEST_F(FrmValoreTest, EnterRefusesAnEmptyNumber)
     conDialogo(u"Pausa"_s, [&] {
         scrivi(QString());
         invio();
-        EXPECT_TRUE(dialogo.Visible());
+        EXPECT_TRUE(m_dialogo->Visible());
     });
     EXPECT_EQ(utente.testi(), QStringList{u"Non hai impostato il numero!"_s});
 }
@@ -240,22 +241,23 @@ TEST_F(FrmValoreTest, AClickOnOkFindsTheNumberInOrder)
 {
     const RispondiMessaggi utente;
     const auto conClick = [&](const QString &modo, const QString &scritto) {
+        m_dialogo = std::make_unique<frmValore>();
         conDialogo(modo, [&] {
             scrivi(scritto);
-            clicca(dialogo.pulOK);
-            EXPECT_FALSE(dialogo.Visible());
+            clicca(m_dialogo->pulOK);
+            EXPECT_FALSE(m_dialogo->Visible());
         });
-        EXPECT_EQ(dialogo.Tag(), modo);
+        EXPECT_EQ(m_dialogo->Tag(), modo);
         return testo();
     };
     EXPECT_EQ(conClick(u"Frase"_s, u"141"_s), u"140"_s);
-    EXPECT_EQ(dialogo.cbInfo.ListIndex(), 139);
+    EXPECT_EQ(m_dialogo->cbInfo.ListIndex(), 139);
     EXPECT_EQ(conClick(u"Suono"_s, u"0"_s), u"1"_s);
     EXPECT_EQ(conClick(u"Pausa"_s, u""_s), u"1"_s);
     EXPECT_EQ(conClick(u"Pausa"_s, u"99999"_s), u"60000"_s);
     EXPECT_EQ(conClick(u"Ripeti"_s, u"0"_s), u"0"_s);
     EXPECT_EQ(conClick(u"Ripeti"_s, u"999"_s), u"200"_s);
-    EXPECT_EQ(dialogo.cbInfo.Text(), u"200 volte"_s);
+    EXPECT_EQ(m_dialogo->cbInfo.Text(), u"200 volte"_s);
     EXPECT_TRUE(utente.visti().isEmpty());
 }
 
@@ -263,27 +265,27 @@ TEST_F(FrmValoreTest, LeavingTheBoxBringsTheNumberIntoItsLimits)
 {
     conDialogo(u"Frase"_s, [&] {
         scrivi(u"500"_s);
-        dialogo.cbInfo.setFocus();
+        m_dialogo->cbInfo.setFocus();
         EXPECT_EQ(testo(), u"140"_s);
-        EXPECT_EQ(dialogo.cbInfo.ListIndex(), 139);
+        EXPECT_EQ(m_dialogo->cbInfo.ListIndex(), 139);
         scrivi(QString());
-        dialogo.cbInfo.setFocus();
+        m_dialogo->cbInfo.setFocus();
         EXPECT_EQ(testo(), u"1"_s);
-        EXPECT_EQ(dialogo.cbInfo.ListIndex(), 0);
+        EXPECT_EQ(m_dialogo->cbInfo.ListIndex(), 0);
     });
 }
 
 TEST_F(FrmValoreTest, TheCloseBoxIsTheWayOutWithoutAValue)
 {
-    conDialogo(u"Frase"_s, [&] { dialogo.close(); });
-    EXPECT_EQ(dialogo.Tag(), u"Annulla"_s);
-    EXPECT_TRUE(dialogo.Caricata());
+    conDialogo(u"Frase"_s, [&] { m_dialogo->close(); });
+    EXPECT_EQ(m_dialogo->Tag(), u"Annulla"_s);
+    EXPECT_TRUE(m_dialogo->Caricata());
 }
 
 TEST_F(FrmValoreTest, TheNumberIsReadyToBeTypedOver)
 {
     conDialogo(u"Frase"_s, [&] {
-        ASSERT_TRUE(dialogo.txtValore.hasFocus());
+        ASSERT_TRUE(m_dialogo->txtValore.hasFocus());
         QTest::keyClicks(QApplication::focusWidget(), u"25"_s);
         EXPECT_EQ(testo(), u"25"_s);
     });
