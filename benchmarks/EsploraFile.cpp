@@ -134,6 +134,14 @@ void elencoLungo(Banco &banco)
 {
     constexpr int voci = 5000;
     constexpr int tratto = 500;
+    constexpr char apri = 40;
+    constexpr char leggi = 46;
+    const auto risposta = [](int numero) {
+        if (numero == voci)
+            return QByteArrayLiteral("\x2a\x01\xff");
+        const QByteArray nome = "file" + QByteArray::number(numero) + ".txt";
+        return QByteArrayLiteral("\x2f\x01\x01") + static_cast<char>(nome.size()) + nome + '\0';
+    };
     std::atomic<bool> finito = false;
     std::thread robot([&] {
         int date = 0;
@@ -145,18 +153,16 @@ void elencoLungo(Banco &banco)
             char byte[64];
             const auto n = ::read(banco.terminale.capo(), byte, sizeof byte);
             richieste.append(byte, std::max<qsizetype>(n, 0));
-            while (richieste.startsWith("\x2e") && richieste.size() >= 2) {
-                richieste.remove(0, 2);
-                const QByteArray nome = "file" + QByteArray::number(date) + ".txt";
-                banco.terminale.scrivi(date == voci
-                                           ? QByteArrayLiteral("\x2a\x01\xff")
-                                           : QByteArrayLiteral("\x2f\x01\x01") +
-                                                 static_cast<char>(nome.size()) + nome + '\0');
-                ++date;
-            }
-            if (richieste.startsWith("\x28\x10") && richieste.size() >= 3) {
-                richieste.remove(0, 3);
-                banco.terminale.scrivi(QByteArray("\x2a\x01\x00", 3));
+            while (richieste.size() >= 2) {
+                const char comando = richieste.at(0);
+                // Opening, with its empty path, has three bytes; closing and reading on have two.
+                if (comando == apri && richieste.size() < 3)
+                    break;
+                richieste.remove(0, comando == apri ? 3 : 2);
+                if (comando == apri)
+                    banco.terminale.scrivi(QByteArray("\x2a\x01\x00", 3));
+                if (comando == leggi)
+                    banco.terminale.scrivi(risposta(date++));
             }
         }
     });
