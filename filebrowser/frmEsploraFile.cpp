@@ -106,6 +106,13 @@ AscoltatoreFile::Attesa frmEsploraFile::attesa() const
     return Tag() == u"File" ? Attesa::File : Attesa::Niente;
 }
 
+void frmEsploraFile::finisciAttesa()
+{
+    setTag({});
+    lstCartelle.assesta();
+    lstFile.assesta();
+}
+
 void frmEsploraFile::VisualizzaElenco(quint8 k, quint8 x, const QByteArray &corpo)
 {
     (x == voceCartella ? lstCartelle : lstFile).AddItem(Codifica::daByte(corpo));

@@ -5,7 +5,7 @@
 #include "Barre.h"
 #include "ControlloSeriale.h"
 #include "Disegni.h"
-#include "Elenco.h"
+#include "ElencoCrescente.h"
 #include "Finestra.h"
 #include "Grafica.h"
 
@@ -25,8 +25,8 @@ public:
     Etichetta Label1{u"Label1"_s, this, u"Cartelle"_s};
     Etichetta Label2{u"Label2"_s, this, u"File"_s};
     // lstCartelle.Tag is what stands before the names of the files.
-    Elenco lstCartelle{u"lstCartelle"_s, this};
-    Elenco lstFile{u"lstFile"_s, this};
+    ElencoCrescente lstCartelle{u"lstCartelle"_s, this};
+    ElencoCrescente lstFile{u"lstFile"_s, this};
     Immagine imgAttesa{u"imgAttesa"_s, this, &lstImgAttesa};
     Pulsante pulHome{u"pulHome"_s, this, {}};
     Etichetta lblNomeFoto{u"lblNomeFoto"_s, this};
@@ -35,7 +35,7 @@ public:
     // AscoltatoreFile.
     bool visibile() const override { return Visible(); }
     Attesa attesa() const override;
-    void finisciAttesa() override { setTag({}); }
+    void finisciAttesa() override;
     void VisualizzaElenco(quint8 k, quint8 x, const QByteArray &corpo) override;
     void ImmagineAttesa(bool attiva) override;
     QString nomeFile() const override { return lstFile.Text(); }

@@ -342,3 +342,32 @@ TEST_F(Elenchi, ARobotThatStopsInTheMiddleLeavesTheWindowToTheUser)
     esplora.pulHome.click();
     EXPECT_EQ(scritti(), b({40, 16, 0}));
 }
+
+TEST_F(Elenchi, ALongListingHasItsRowsInOrderAndInTheirPlaces)
+{
+    esplora.Mostra();
+    QByteArray elenco = stato(1, 0);
+    for (int i = 0; i < 300; ++i)
+        elenco += voce(1, 1, QByteArray::number(i));
+    robotFinito(elenco);
+    ASSERT_EQ(esplora.lstFile.ListCount(), 300);
+    robotFinito(stato(1, 255));
+    scritti();
+    for (const int riga : {0, 1, 150, 299}) {
+        const QRect sotto = esplora.lstFile.visualItemRect(esplora.lstFile.item(riga));
+        EXPECT_EQ(sotto.top() - esplora.lstFile.visualItemRect(esplora.lstFile.item(0)).top(),
+                  riga * sotto.height());
+    }
+    doppioClick(esplora.lstFile, 299);
+    EXPECT_EQ(scritti(), b({40, 1, 3}) + "299");
+}
+
+TEST_F(Elenchi, RowsAreLaidOutThoughTheListingNeverEnds)
+{
+    esplora.Mostra();
+    robotFinito(stato(1, 0) + voce(1, 1, "a") + voce(1, 1, "b") + voce(1, 1, "c"));
+    const auto bordo = [&](int riga) {
+        return esplora.lstFile.visualItemRect(esplora.lstFile.item(riga)).bottom();
+    };
+    EXPECT_TRUE(aspetta([&] { return bordo(2) > bordo(1) && bordo(1) > bordo(0); }));
+}
