@@ -50,12 +50,8 @@ void frmPrincipale::collegaGestori()
         opzione->MouseUp.collega([this](int, int, double, double) { ImgTesta.SetFocus(); });
     for (Combo *combo : {&cbMex, &cbModGiro, &cbProgrammi, &cbStepO, &cbStepV, &cbVelocità})
         combo->Click.collega(this, &frmPrincipale::RidaiFuoco);
-    for (int i = 1; i <= 10; ++i) {
-        imgFreccia(i).MouseDown.collega(
-            [this, i](int, int, double, double) { imgFreccia_MouseDown(i); });
-        imgFreccia(i).MouseUp.collega(
-            [this, i](int, int, double, double) { imgFreccia_MouseUp(i); });
-    }
+    for (int i = 1; i <= 10; ++i)
+        collegaFreccia(i);
     lblStop.Click.collega(this, &frmPrincipale::lblStop_Click);
     lblStop.MouseDown.collega(this, &frmPrincipale::lblStop_MouseDown);
     lblStop.MouseUp.collega(this, &frmPrincipale::lblStop_MouseUp);

@@ -199,6 +199,7 @@ private:
     void opzTesta_Click();
     void sceltaModo(CasellaOpzione &scelta);
     void icona(Immagine &immagine, int numero, const QString &suggerimento, const Combo &accanto);
+    void collegaFreccia(int Index);
     void imgFreccia_MouseDown(int Index);
     void imgFreccia_MouseUp(int Index);
     void lblStop_Click();
@@ -229,5 +230,7 @@ private:
     FinestreConsole m_finestre;
     Sessione m_sessione;
     quint8 PassoFrecce = 0;
+    // The arrow that the mouse holds down, 0 for none.
+    int m_frecciaPremuta = 0;
     bool m_incorniciata = false;
 };

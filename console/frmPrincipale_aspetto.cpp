@@ -1,4 +1,5 @@
 // How the console looks: where its controls stand, in logical pixels, and their tool tips.
+#include "LedTesta.h"
 #include "frmPrincipale.h"
 
 #include <QApplication>
@@ -168,6 +169,9 @@ void frmPrincipale::disponiTesta()
         imgfr(i).resize(32, 32);
         imgfr(i).setDisegno(Disegni::icona(u"freccia_testa_"_s + QString::number(i)));
         imgfr(i).setToolTip(ImgTesta.toolTip());
+        const LedTesta::Punto posto =
+            LedTesta::frecce(0, u"destro"_s, ImgTesta.Width())[static_cast<size_t>(i)];
+        imgfr(i).Move(posto.Left, posto.Top);
         imgfr(i).hide();
     }
     const auto targhetta = [](Forma &forma, Etichetta &etichetta, double left, double width) {
@@ -256,6 +260,7 @@ void frmPrincipale::disponiVoce()
         testo.setAlignment(Qt::AlignRight);
         testo.setAccessibleName(nome);
         metti(suGiu, 79, y, 20, 28);
+        suGiu.setAccessibleName(nome);
         metti(pulsante, 112, y, 166, 28);
     };
     riga(txtValFrase, SuGiu1, pulFrase, 381, u"Numero della frase"_s);

@@ -3,6 +3,8 @@
 #include "Tasti.h"
 #include "frmPrincipale.h"
 
+#include <QGuiApplication>
+
 void frmPrincipale::KeyDown(int KeyCode, int)
 {
     if (imgFreccia(1).Tag() == u"Tasto premuto"_s)
@@ -31,6 +33,23 @@ void frmPrincipale::KeyUp(int, int)
     if (opzBase.Value())
         lblStop_MouseUp();
     imgFreccia(1).setTag(u"Tasto rilasciato"_s);
+}
+
+void frmPrincipale::collegaFreccia(int Index)
+{
+    imgFreccia(Index).MouseDown.collega([this, Index](int, int, double, double) {
+        const bool premuta = QGuiApplication::mouseButtons() != Qt::NoButton;
+        m_frecciaPremuta = Index;
+        imgFreccia_MouseDown(Index);
+        // A message box that came up meanwhile keeps the release to itself.
+        const bool lasciata = premuta && QGuiApplication::mouseButtons() == Qt::NoButton;
+        if (lasciata && m_frecciaPremuta == Index)
+            imgFreccia_MouseUp(Index);
+    });
+    imgFreccia(Index).MouseUp.collega([this, Index](int, int, double, double) {
+        m_frecciaPremuta = 0;
+        imgFreccia_MouseUp(Index);
+    });
 }
 
 void frmPrincipale::imgFreccia_MouseDown(int Index)

@@ -49,7 +49,7 @@ TEST(AccessibilitaConsole, AToolTipOrACaptionIsTheName)
     frmPrincipale &f = c.finestra;
     for (QWidget *controllo : controlli(f)) {
         if (!controllo->toolTip().isEmpty()) {
-            EXPECT_EQ(nomeAccessibile(*controllo), controllo->toolTip())
+            EXPECT_EQ(controllo->accessibleName(), controllo->toolTip())
                 << controllo->objectName().toStdString();
         }
     }

@@ -59,6 +59,12 @@ TEST(Azioni, WithoutAConnectionEachActionCostsOneMessageBoxAndChangesNothing)
     RispondiMessaggi messaggi;
     ConsoleInProva c;
     c.mostra();
+    // The user lets the mouse go where the message box has come up.
+    messaggi.mentreAperto = [&](QMessageBox &) {
+        const Qt::MouseButtons premuti = QGuiApplication::mouseButtons();
+        if (premuti != Qt::NoButton)
+            c.lascia(c.finestra, Qt::MouseButton(premuti.toInt()), QPoint(399, 400));
+    };
     for (const AzioneManuale &azione : tutteLeAzioni()) {
         SCOPED_TRACE(azione.nome.toStdString());
         azione.prepara(c);

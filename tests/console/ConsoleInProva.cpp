@@ -58,10 +58,12 @@ bool ConsoleInProva::mostraCollegata()
 void ConsoleInProva::attivaLista(bool attiva)
 {
     frmEditor.opzInsComandi.setValue(attiva ? 1 : 0);
-    if (attiva)
+    if (attiva) {
         frmEditor.Mostra();
-    else
+        EXPECT_TRUE(aspetta([this] { return frmEditor.isActiveWindow(); }));
+    } else {
         frmEditor.Nascondi();
+    }
     finestra.activateWindow();
     EXPECT_TRUE(aspetta([this] { return finestra.isActiveWindow(); }));
 }

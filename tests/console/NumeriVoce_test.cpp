@@ -133,7 +133,7 @@ TEST(NumeriVoce, AnEmptyBoxAndZeroBecomeOne)
 TEST(NumeriVoce, OnlyDigitsCanBeTyped)
 {
     ConsoleInProva c;
-    c.mostra();
+    ASSERT_TRUE(c.mostraCollegata());
     for (CasellaTesto *casella : {&c.finestra.txtValFrase, &c.finestra.txtValSuono}) {
         scrivi(*casella, u"a1-b.2,c½ e"_s);
         EXPECT_EQ(casella->Text(), u"12"_s);

@@ -230,6 +230,23 @@ TEST(TastiConsole, WithoutAConnectionTheArrowStaysPressedUntilTheRelease)
     EXPECT_EQ(disegni(c), (QList<int>{1, 2, 3, 4}));
 }
 
+TEST(TastiConsole, AnArrowWhoseReleaseTheMessageBoxTookIsReleasedAllTheSame)
+{
+    RispondiMessaggi messaggi;
+    ConsoleInProva c;
+    c.mostra();
+    messaggi.mentreAperto = [&](QMessageBox &) {
+        EXPECT_EQ(disegni(c), (QList<int>{1, 6, 3, 4}));
+        c.lascia(c.finestra.imgFreccia(2));
+    };
+    for (int volta = 1; volta <= 2; ++volta) {
+        c.premi(c.finestra.imgFreccia(2));
+        EXPECT_EQ(messaggi.visti().size(), volta);
+        EXPECT_EQ(disegni(c), (QList<int>{1, 2, 3, 4}));
+        EXPECT_EQ(chiusura(c), u"Tasto rilasciato"_s);
+    }
+}
+
 TEST(TastiConsole, AMouseButtonOnAMainArrowIsItsKey)
 {
     ConsoleInProva c;

@@ -187,7 +187,11 @@ void aggiungiAttrezzi(std::vector<AzioneManuale> &a)
     for (const Interruttore &i : interruttori) {
         for (const Qt::MouseButton pulsante : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
             const bool acceso = pulsante == Qt::LeftButton;
-            a.push_back({i.parole + QString::number(pulsante), base, clic(i.immagine, pulsante),
+            const auto sopra = [immagine = i.immagine](C &c) {
+                base(c);
+                c.muovi(c.finestra.*immagine);
+            };
+            a.push_back({i.parole + QString::number(pulsante), sopra, clic(i.immagine, pulsante),
                          i.riga + (acceso ? u"ON"_s : u"OFF"_s), b({19, i.byte, acceso ? 255 : 0}),
                          i.parole + (acceso ? i.acceso : i.spento)});
         }
