@@ -1,7 +1,38 @@
 // How the window looks: what the layout rule leaves alone stands here, in layout units.
 #include "frmEsploraFile.h"
 
+#include <QStyledItemDelegate>
+
 namespace {
+
+// Rows with a drawing before the name.
+class RigheConDisegno : public QStyledItemDelegate
+{
+public:
+    RigheConDisegno(const QIcon &disegno, QObject *lista)
+        : QStyledItemDelegate(lista), m_disegno(disegno)
+    {
+    }
+    QSize sizeHint(const QStyleOptionViewItem &opzione, const QModelIndex &riga) const override
+    {
+        return QStyledItemDelegate::sizeHint(opzione, riga).expandedTo(QSize(0, altezzaRiga));
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *opzione, const QModelIndex &riga) const override
+    {
+        QStyledItemDelegate::initStyleOption(opzione, riga);
+        opzione->features |= QStyleOptionViewItem::HasDecoration;
+        opzione->icon = m_disegno;
+        opzione->decorationSize = QSize(latoDisegno, latoDisegno);
+    }
+
+private:
+    static constexpr int altezzaRiga = 22;
+    static constexpr int latoDisegno = 16;
+
+    QIcon m_disegno;
+};
 
 constexpr int larghezza = 760;
 constexpr int altezza = 440;
@@ -33,8 +64,10 @@ void frmEsploraFile::disponi()
     lstCartelle.Size(2550, 5800);
     lstFile.Move(lstCartelle.Left() + lstCartelle.Width() + 105, cimaElenchi);
     lstFile.Size(8000, 5800);
+    lstCartelle.setItemDelegate(new RigheConDisegno(Disegni::icona(u"cartella"), &lstCartelle));
+    lstFile.setItemDelegate(new RigheConDisegno(Disegni::icona(u"documento"), &lstFile));
     titolo(Label1, lstCartelle.Left(), lstCartelle.Width());
-    titolo(Label2, lstFile.Left(), 1500);
+    titolo(Label2, lstFile.Left(), 600);
     lstCartelle.setAccessibleName(Label1.Caption());
     lstFile.setAccessibleName(Label2.Caption());
 
@@ -44,8 +77,8 @@ void frmEsploraFile::disponi()
     pulHome.setIconSize(QSize(20, 20));
     pulHome.setToolTip(u"Torna all'inizio"_s);
     pulHome.setAccessibleName(pulHome.toolTip());
-    imgAttesa.Move(0, 105);
-    imgAttesa.Size(390, 390);
+    imgAttesa.Move(0, 75);
+    imgAttesa.Size(450, 450);
 
     imgFoto.Move(0, cimaElenchi);
     imgFoto.Size(4800, 3600);
