@@ -96,6 +96,10 @@ void Sessione::connesso()
     ImpostaAbilitati(true, c.tmrControllaConn, c.tmrElabInput, c.tmrSensori);
     ComandiTessaro::RichiediStatoA(COM);
     ComandiTessaro::RichiediStatoB(COM);
+    // Where there is no port these two open their box, and the keep-alive may have ended it all
+    // before the user closed it.
+    if (!c.tmrControllaConn.Enabled())
+        return;
     m_motore.LeggiIngresso();
     ImpostaVisibili(true, t.imgLivBattLogica, t.imgLivBattMotori);
     c.BarraStato.setPanels(1, u"Connesso"_s);

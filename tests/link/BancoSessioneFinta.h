@@ -35,7 +35,7 @@ public:
         banco.tmrControllaConn.setInterval(0);
         sessione.Collega();
         porta.scritto = nullptr;
-        gira(5);
+        static_cast<void>(aspetta([&] { return banco.tmrElabInput.accumulatore.vuoto(); }));
         porta.scritture.clear();
         finestre.registro.clear();
         telemetria.testi.clear();

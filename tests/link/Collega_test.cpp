@@ -351,6 +351,24 @@ TEST(Collega, AnAttemptWithoutAPortIsUndoneByTheKeepAlive)
     EXPECT_TRUE(p.fermo());
 }
 
+TEST(Collega, AnAttemptUndoneWhileItsBoxIsOpenDoesNotShowConnesso)
+{
+    BancoSessioneFinta p;
+    p.porta.apertura = Errore::PortaInUso;
+    p.banco.tmrSensori.setInterval(0);
+    bool fatto = false;
+    p.messaggi.mentreAperto = [&](const QMessageBox &box) {
+        if (!fatto && box.text() == u"Non sono collegato al robot"_s) {
+            fatto = true;
+            p.sessione.Scollega();
+        }
+    };
+    p.sessione.Collega();
+    EXPECT_TRUE(fatto);
+    EXPECT_EQ(p.pannello(1), u"Non connesso"_s);
+    EXPECT_FALSE(p.banco.imgLivBattLogica.Visible());
+}
+
 TEST(Collega, ATickOfTheEngineThatWaitsDoesNotTakeTheAnswer)
 {
     BancoSessioneFinta p;

@@ -209,11 +209,17 @@ TEST_F(SessioneRobot, AFarEndThatVanishedIsLeftAndCanBeFoundAgain)
 TEST_F(SessioneRobot, TelegramsCutByALostSessionDoNotSpoilTheNextForLong)
 {
     p.sessione.Collega();
+    ASSERT_TRUE(aspetta([&] { return !p.banco.lblTemperatura.Caption().isEmpty(); }));
+    // Half a telegram is the last that the robot says.
+    p.banco.tmrSensori.setEnabled(false);
+    robot.guasti().silenzio = true;
+    ASSERT_TRUE(aspetta([&] { return robot.inCoda() == 0; }));
     robot.inviaGrezzo(b({32, 200}));
     ASSERT_TRUE(aspetta([&] {
         return p.banco.tmrElabInput.accumulatore.tutto().endsWith(b({32, 200}));
     }));
     p.sessione.Scollega();
+    robot.guasti().silenzio = false;
     robot.robot().impostaTemperatura(37);
     p.sessione.Collega();
     EXPECT_TRUE(aspetta([&] { return p.banco.lblTemperatura.Caption() == u"37°"_s; }));

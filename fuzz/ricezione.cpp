@@ -1,0 +1,106 @@
+// The receive engine: bytes in any cuts. What comes in must be cut off again, whatever it is, and
+// after enough zeros the next telegram is understood.
+#include "Applicazione.h"
+#include "Banco.h"
+#include "Pompa.h"
+#include "PortaFinta.h"
+#include "Scritte.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct BancoFuzz
+{
+    std::unique_ptr<PortaFinta> nuova = std::make_unique<PortaFinta>();
+    PortaFinta &porta = *nuova;
+    QTemporaryDir cartella;
+    Banco banco{std::move(nuova), cartella.path()};
+    MotoreRicezione motore{banco.COM, banco.tmrElabInput, banco.telemetria(), cartella.path()};
+    VideoFinto video;
+    FileFinto file;
+    TelemetriaFinta telemetria;
+
+    BancoFuzz()
+    {
+        motore.ascoltaVideo(&video);
+        motore.ascoltaFile(&file);
+        motore.ascoltaTelemetria(&telemetria);
+        banco.COM.setPortOpen(true);
+    }
+
+    // Ticks as the timer would, until the engine has looked at all that came.
+    void lavora(const QByteArray &byte)
+    {
+        porta.arriva(byte);
+        for (int giri = 0; porta.inArrivo() > 0 || giri < 2; ++giri) {
+            scatto();
+            if (giri > 200'000)
+                std::abort();
+        }
+    }
+    void scatto()
+    {
+        // A tick that waits is taken up by the line's notice, any other one by the timer.
+        if (porta.sorvegliata()) {
+            if (porta.arrivo)
+                porta.arrivo();
+        } else {
+            banco.tmrElabInput.Timer();
+        }
+    }
+};
+
+void pretendi(bool condizione)
+{
+    if (!condizione)
+        std::abort();
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *dati, size_t quanti)
+{
+    conApplicazione();
+    if (quanti < 3)
+        return 0;
+    BancoFuzz p;
+    p.video.aperta = (dati[0] & 1) != 0;
+    p.file.inVista = (dati[0] & 2) != 0;
+    p.file.cheCosa = static_cast<AscoltatoreFile::Attesa>((dati[0] >> 2) % 3);
+    p.file.erroreFoto = (dati[0] & 32) != 0 ? 481 : 0;
+    // The name that the robot gave the file comes from the bytes too.
+    const size_t lungoNome = qMin<size_t>(dati[1] % 16, quanti - 3);
+    const auto *inizio = reinterpret_cast<const char *>(dati);
+    p.file.nome = QString::fromLatin1(inizio + 2, static_cast<qsizetype>(lungoNome));
+    if ((dati[0] & 64) != 0)
+        p.file.nome += u".jpg"_s;
+
+    // A piece's length stands before it.
+    size_t posto = 2 + lungoNome;
+    while (posto < quanti) {
+        const size_t pezzo = qMin<size_t>(dati[posto] + size_t{1}, quanti - posto - 1);
+        p.lavora(QByteArray(inizio + posto + 1, static_cast<qsizetype>(pezzo)));
+        posto += pezzo + 1;
+    }
+
+    // Whatever is open now ends within the longest telegram.
+    p.lavora(QByteArray(65535 + 6, '\0'));
+    for (int giri = 0; !p.banco.tmrElabInput.accumulatore.vuoto(); ++giri) {
+        p.scatto();
+        pretendi(giri < 200'000);
+    }
+    p.telemetria.testi.clear();
+    p.lavora(b({31, 17}));
+    pretendi(p.banco.lblTemperatura.Caption() == u"17°"_s);
+    pretendi(p.telemetria.testi == QStringList{u"Temperatura:17"_s});
+    // At most the one file, in the folder itself.
+    const QStringList scritti =
+        QDir(p.cartella.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    pretendi(scritti.isEmpty() || scritti == QStringList{p.file.nome});
+    return 0;
+}
