@@ -55,7 +55,8 @@ void frmCamera::disponi()
     lblNomeImmagine.setAttribute(Qt::WA_TransparentForMouseEvents);
     lblNomeImmagine.setForeColor(QColor(0xFF, 0xD4, 0x2A));
 
-    setMinimumSize(160, 120);
+    // Narrower, no zoom is left.
+    setMinimumSize(Fotogramma::Colonne, Fotogramma::Righe);
     resize((Fotogramma::Colonne + 1) * zoomIniziale, (Fotogramma::Righe + 1) * zoomIniziale);
 }
 

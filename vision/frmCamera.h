@@ -27,6 +27,9 @@ public:
     void AcquisisciImmagine(const Matrice &matrice, quint8 left, quint8 top, quint8 width,
                             quint8 height) override;
 
+    // The rows that came since the last frame, over that frame.
+    const Fotogramma &fotogramma() const { return m_fotogramma; }
+
     // Its Tag is the zoom: how many screen pixels one pixel of the frame occupies.
     Superficie Schermo;
     // Its Tag tells whether a finished selection waits for the next complete frame.

@@ -1,0 +1,282 @@
+// From a drag on the picture to the record in the naming dialog.
+#include "BancoVisione.h"
+
+#include "Attesa.h"
+#include "Modali.h"
+
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString erroreVideo =
+    u"Attenzione: errore nella visualizzazione delle immagini della videocamera!"_s;
+
+class Selezione : public testing::Test
+{
+protected:
+    Selezione()
+    {
+        banco.apriCamera();
+        // 80 times 10 and some more, so that a drag can end beyond the last column.
+        camera.resize(830, 640);
+        EXPECT_EQ(Schermo.Tag(), u"10"_s);
+    }
+    void trascina(QPoint da, QPoint a)
+    {
+        QTest::mousePress(&Schermo, Qt::LeftButton, {}, da);
+        muovi(da + (a - da) / 2);
+        muovi(a);
+        QTest::mouseRelease(&Schermo, Qt::LeftButton, {}, a);
+    }
+    void muovi(QPoint dove, Qt::MouseButtons premuti = Qt::LeftButton)
+    {
+        QMouseEvent evento(QEvent::MouseMove, QPointF(dove), QPointF(dove), Qt::NoButton, premuti,
+                           {});
+        QApplication::sendEvent(&Schermo, &evento);
+    }
+    QRectF rettangolo() const
+    {
+        return {shpSelezione.Left(), shpSelezione.Top(), shpSelezione.Width(),
+                shpSelezione.Height()};
+    }
+    // The record that the area gives, from the upper left pixel taken, counted from 1.
+    QString record(int W, int H, int colonna, int riga, int quanteColonne, int quanteRighe) const
+    {
+        QString testo = u"%1,%2"_s.arg(W).arg(H);
+        for (int r = 0; r < quanteRighe; ++r)
+            for (int c = 0; c < quanteColonne; ++c)
+                testo += u',' + QString::number(
+                                    coloreInArrivo(immagine.pixel(colonna - 1 + c, riga - 1 + r)));
+        return testo;
+    }
+    void finisci()
+    {
+        ASSERT_TRUE(aspetta([this] {
+            return nome.Visible() && nome.pulOK.Enabled() && !nome.tmrAcquisizione.Enabled();
+        }));
+    }
+
+    const QImage immagine = immagineACaso(11);
+    BancoSuPortaFinta banco;
+    frmCamera &camera = banco.camera;
+    frmNomeImmagine &nome = banco.nome;
+    Superficie &Schermo = banco.camera.Schermo;
+    FormaInPixel &shpSelezione = banco.camera.shpSelezione;
+};
+
+} // namespace
+
+TEST_F(Selezione, AtFirstThereIsNone)
+{
+    EXPECT_FALSE(shpSelezione.Visible());
+    EXPECT_EQ(shpSelezione.Tag(), u"0"_s);
+    banco.manda(immagine);
+    EXPECT_FALSE(nome.Visible());
+}
+
+TEST_F(Selezione, APressShowsAPointAndADragOpensIt)
+{
+    QTest::mousePress(&Schermo, Qt::LeftButton, {}, {100, 200});
+    EXPECT_TRUE(shpSelezione.Visible());
+    EXPECT_EQ(rettangolo(), QRectF(100, 200, 1, 1));
+    muovi({160, 290});
+    EXPECT_EQ(rettangolo(), QRectF(100, 200, 60, 90));
+    EXPECT_EQ(shpSelezione.Tag(), u"0"_s);
+    QTest::mouseRelease(&Schermo, Qt::LeftButton, {}, {160, 290});
+    EXPECT_EQ(shpSelezione.Tag(), u"True"_s);
+}
+
+TEST_F(Selezione, ADragUpOrLeftKeepsTheLastSizeThatWasOne)
+{
+    QTest::mousePress(&Schermo, Qt::LeftButton, {}, {100, 200});
+    muovi({130, 240});
+    muovi({90, 260});
+    EXPECT_EQ(rettangolo(), QRectF(100, 200, 30, 60));
+    muovi({150, 190});
+    EXPECT_EQ(rettangolo(), QRectF(100, 200, 50, 60));
+    muovi({10, 10});
+    EXPECT_EQ(rettangolo(), QRectF(100, 200, 50, 60));
+}
+
+TEST_F(Selezione, OnlyTheLeftButtonAloneDrags)
+{
+    QTest::mousePress(&Schermo, Qt::RightButton, {}, {100, 200});
+    EXPECT_EQ(rettangolo(), QRectF(100, 200, 1, 1));
+    muovi({150, 250}, Qt::RightButton);
+    muovi({150, 250}, Qt::LeftButton | Qt::RightButton);
+    muovi({150, 250}, Qt::NoButton);
+    EXPECT_EQ(rettangolo(), QRectF(100, 200, 1, 1));
+    QTest::mouseRelease(&Schermo, Qt::RightButton, {}, {150, 250});
+    EXPECT_EQ(shpSelezione.Tag(), u"True"_s);
+}
+
+TEST_F(Selezione, TheNextFrameTurnsItIntoARecordOnePixelFurther)
+{
+    trascina({100, 200}, {160, 290});
+    banco.manda(immagine);
+    EXPECT_FALSE(shpSelezione.Visible());
+    EXPECT_EQ(shpSelezione.Tag(), u"False"_s);
+    finisci();
+    EXPECT_EQ(nome.Tag(), record(6, 9, 11, 21, 6, 9));
+}
+
+TEST_F(Selezione, ItTakesTheFrameInWhichItEndsAndNoLaterOne)
+{
+    trascina({100, 100}, {700, 500});
+    banco.manda(immagine);
+    banco.manda(immaginePiena(0xFF00FF));
+    finisci();
+    EXPECT_EQ(nome.Tag(), record(60, 40, 11, 11, 60, 40));
+}
+
+TEST_F(Selezione, TheDialogIsThereAfterTwoRowsAndTheTimerCopiesTheRest)
+{
+    trascina({100, 100}, {150, 190});
+    nome.tmrAcquisizione.setInterval(0);
+    banco.manda(immagine);
+    EXPECT_TRUE(nome.Visible());
+    EXPECT_TRUE(nome.tmrAcquisizione.Enabled());
+    EXPECT_EQ(nome.Tag(), record(5, 9, 11, 11, 5, 2));
+    EXPECT_FALSE(nome.pulOK.Enabled());
+    EXPECT_FALSE(nome.imgAcquisita.Visible());
+    EXPECT_TRUE(nome.lblAttesa.Visible());
+    nome.tmrAcquisizione.setInterval(1);
+    finisci();
+    EXPECT_EQ(nome.Tag(), record(5, 9, 11, 11, 5, 9));
+    EXPECT_TRUE(nome.imgAcquisita.Visible());
+    EXPECT_FALSE(nome.lblAttesa.Visible());
+}
+
+TEST_F(Selezione, TheDialogShowsThePictureInTheMiddleOfItsArea)
+{
+    trascina({100, 100}, {160, 190});
+    banco.manda(immagine);
+    finisci();
+    EXPECT_EQ(nome.imgAcquisita.Left(), 36);
+    EXPECT_EQ(nome.imgAcquisita.Top(), 25);
+    const QImage visto = nome.imgAcquisita.disegno();
+    for (int riga = 1; riga <= 9; ++riga) {
+        for (int colonna = 1; colonna <= 6; ++colonna) {
+            const qint32 c = coloreInArrivo(immagine.pixel(10 + colonna - 1, 10 + riga - 1));
+            EXPECT_EQ(visto.pixelColor(colonna, riga), QColor(c % 256, c / 256 % 256, c / 65536));
+        }
+    }
+    EXPECT_EQ(visto.pixelColor(0, 0).alpha(), 0);
+    EXPECT_EQ(visto.pixelColor(7, 1).alpha(), 0);
+    EXPECT_EQ(visto.pixelColor(1, 10).alpha(), 0);
+}
+
+TEST_F(Selezione, AClickGivesARecordWithoutASizeAndOneColour)
+{
+    QTest::mouseClick(&Schermo, Qt::LeftButton, {}, {105, 203});
+    banco.manda(immagine);
+    finisci();
+    EXPECT_EQ(nome.Tag(), record(0, 0, 11, 21, 1, 1));
+    // Nor does a later tick add to it.
+    gira(20);
+    EXPECT_EQ(nome.Tag(), record(0, 0, 11, 21, 1, 1));
+}
+
+TEST_F(Selezione, TwoRowsAreCompleteBeforeTheDialogIsThere)
+{
+    trascina({100, 100}, {130, 120});
+    banco.manda(immagine);
+    finisci();
+    gira(20);
+    EXPECT_EQ(nome.Tag(), record(3, 2, 11, 11, 3, 2));
+}
+
+TEST_F(Selezione, InTheCornerItBeginsAtOne)
+{
+    trascina({2, 3}, {52, 43});
+    banco.manda(immagine);
+    finisci();
+    EXPECT_EQ(nome.Tag(), record(5, 4, 2, 2, 5, 4));
+}
+
+TEST_F(Selezione, BeyondTheEdgesItIsCutToTheFrame)
+{
+    trascina({700, 500}, {1300, 1200});
+    banco.manda(immagine);
+    finisci();
+    EXPECT_EQ(nome.Tag(), record(10, 10, 71, 51, 10, 10));
+}
+
+TEST_F(Selezione, FarBeyondTheEdgesTheVideoFailsUntilADoubleClick)
+{
+    trascina({100, 100}, {5000, 200});
+    banco.manda(immagine);
+    EXPECT_EQ(banco.pannello3(), erroreVideo);
+    EXPECT_EQ(camera.fotogramma().Riga, 60);
+    EXPECT_FALSE(nome.Visible());
+    EXPECT_EQ(shpSelezione.Tag(), u"False"_s);
+    QTest::mouseDClick(&Schermo, Qt::LeftButton, {}, {300, 200});
+    banco.manda(immagine);
+    EXPECT_EQ(camera.fotogramma().Riga, 0);
+}
+
+TEST_F(Selezione, BehindTheLastColumnThereIsNothingToTake)
+{
+    QTest::mouseClick(&Schermo, Qt::LeftButton, {}, {805, 203});
+    banco.manda(immagine);
+    EXPECT_EQ(banco.pannello3(), erroreVideo);
+    EXPECT_FALSE(nome.Visible());
+    EXPECT_FALSE(nome.tmrAcquisizione.Enabled());
+}
+
+TEST_F(Selezione, DragsAreIgnoredWhileTheDialogIsThereButReleasesCount)
+{
+    trascina({100, 100}, {150, 190});
+    banco.manda(immagine);
+    finisci();
+    trascina({300, 300}, {400, 400});
+    EXPECT_FALSE(shpSelezione.Visible());
+    EXPECT_EQ(rettangolo(), QRectF(100, 100, 50, 90));
+    EXPECT_EQ(shpSelezione.Tag(), u"True"_s);
+    // So the same area is taken anew from the next frame.
+    banco.manda(immaginePiena(0x000000));
+    ASSERT_TRUE(aspetta([this] { return !nome.tmrAcquisizione.Enabled(); }));
+    EXPECT_EQ(nome.Tag(), u"5,9"_s + u",0"_s.repeated(45));
+}
+
+TEST_F(Selezione, WithoutVideoNoRectangleAppears)
+{
+    camera.setTag(u"0"_s);
+    trascina({100, 100}, {150, 190});
+    EXPECT_FALSE(shpSelezione.Visible());
+    EXPECT_EQ(shpSelezione.Tag(), u"True"_s);
+}
+
+TEST_F(Selezione, ADisconnectionDuringTheCopyLeavesTheDialogToFinish)
+{
+    trascina({100, 100}, {500, 500});
+    nome.tmrAcquisizione.setInterval(0);
+    banco.manda(immagine);
+    ASSERT_FALSE(nome.pulOK.Enabled());
+    banco.scollega();
+    EXPECT_FALSE(camera.Visible());
+    EXPECT_TRUE(nome.Visible());
+    nome.tmrAcquisizione.setInterval(1);
+    finisci();
+    EXPECT_EQ(nome.Tag(), record(40, 40, 11, 11, 40, 40));
+}
+
+TEST_F(Selezione, ADisconnectionWhileADuplicateNameIsToldIsSurvived)
+{
+    banco.cartella.scrivi(u"Immagini.dat"_s, "\"Palla\",1,1,5");
+    trascina({100, 100}, {130, 130});
+    banco.manda(immagine);
+    finisci();
+    nome.txtNomeImmagine.setText(u"Palla"_s);
+    RispondiMessaggi risposte;
+    risposte.mentreAperto = [this](QMessageBox &) {
+        banco.scollega();
+        nome.Scarica();
+    };
+    QTest::mouseClick(&nome.pulOK, Qt::LeftButton);
+    EXPECT_EQ(risposte.testi(), QStringList(u"Il nome esiste già!"_s));
+    EXPECT_FALSE(nome.Visible());
+    EXPECT_FALSE(camera.Visible());
+    EXPECT_EQ(banco.cartella.leggi(u"Immagini.dat"_s), "\"Palla\",1,1,5");
+}

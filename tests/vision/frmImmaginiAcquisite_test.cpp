@@ -1,0 +1,208 @@
+// The list of the stored pictures: names, drawing, check marks.
+#include "BancoVisione.h"
+
+#include "Attesa.h"
+#include "Modali.h"
+
+#include <QAbstractItemView>
+#include <QDir>
+#include <QStyle>
+#include <QStyleOptionViewItem>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace {
+
+const QByteArray treImmagini = "\"Pallone\",2,2,255,65280,16711680,16777215\r"
+                               "\"Tazza\",1,3,1,2,3\r"
+                               "\"Mela\",0,0,77";
+
+class ImmaginiAcquisite : public testing::Test
+{
+protected:
+    explicit ImmaginiAcquisite(const QByteArray &file = treImmagini) : banco(file) {}
+
+    void clicca(int riga)
+    {
+        QTest::mouseClick(lista.viewport(), Qt::LeftButton, {},
+                          lista.visualItemRect(lista.item(riga)).center());
+    }
+    void spunta(int riga)
+    {
+        // Where the style draws the mark: at the row's beginning.
+        const QRect dove = lista.visualItemRect(lista.item(riga));
+        QTest::mouseClick(lista.viewport(), Qt::LeftButton, {},
+                          {dove.left() + 10, dove.center().y()});
+    }
+    QColor punto(int x, int y) const { return finestra.imgSelezionata.disegno().pixelColor(x, y); }
+
+    BancoSuPortaFinta banco;
+    frmImmaginiAcquisite &finestra = banco.acquisite;
+    Elenco &lista = banco.acquisite.lstImgAcquisite;
+    Elenco &lstImgCamera = banco.console.lstImgCamera;
+};
+
+class SenzaFile : public ImmaginiAcquisite
+{
+protected:
+    SenzaFile() : ImmaginiAcquisite(QByteArray()) {}
+};
+
+class FileGuasto : public ImmaginiAcquisite
+{
+protected:
+    FileGuasto() : ImmaginiAcquisite("\"a\",300,2,5\r\"b\",81,1,5\r\"c\",-1,1,5\rgarbage") {}
+};
+
+// The program ends with the box that tells the failure.
+void clickFatale(Elenco &lista, int riga)
+{
+    QTimer::singleShot(0, [] {
+        RispondiMessaggi *risposte = new RispondiMessaggi;
+        risposte->mentreAperto = [](QMessageBox &box) {
+            std::fprintf(stderr, "%s\n", qPrintable(box.text()));
+        };
+    });
+    lista.setListIndex(riga);
+}
+
+} // namespace
+
+TEST_F(ImmaginiAcquisite, TheEighthPictureOfTheToolbarOpensItWithoutAConnection)
+{
+    banco.premi(8);
+    EXPECT_TRUE(finestra.isVisible());
+    EXPECT_EQ(finestra.windowTitle(), u"Immagini acquisite"_s);
+    ASSERT_EQ(lista.ListCount(), 3);
+    EXPECT_EQ(lista.List(0), u"Pallone"_s);
+    EXPECT_EQ(lista.List(1), u"Tazza"_s);
+    EXPECT_EQ(lista.List(2), u"Mela"_s);
+}
+
+TEST_F(ImmaginiAcquisite, OnlyTheSecondPictureIsActiveAtTheStartAndNoMarkTellsIt)
+{
+    banco.premi(8);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(lstImgCamera.ItemData(i), i == 1 ? 1 : 0);
+        EXPECT_FALSE(lista.Selected(i));
+    }
+}
+
+TEST_F(ImmaginiAcquisite, AClickShowsThePictureInBoxesOfTwo)
+{
+    banco.premi(8);
+    clicca(0);
+    EXPECT_EQ(punto(2, 2), QColor(255, 0, 0));
+    EXPECT_EQ(punto(3, 3), QColor(255, 0, 0));
+    EXPECT_EQ(punto(4, 2), QColor(0, 255, 0));
+    EXPECT_EQ(punto(2, 4), QColor(0, 0, 255));
+    EXPECT_EQ(punto(5, 5), QColor(255, 255, 255));
+    EXPECT_EQ(punto(1, 1).alpha(), 0);
+    EXPECT_EQ(punto(6, 2).alpha(), 0);
+    EXPECT_EQ(punto(2, 6).alpha(), 0);
+}
+
+TEST_F(ImmaginiAcquisite, TheNextClickClearsThePictureBefore)
+{
+    banco.premi(8);
+    clicca(0);
+    clicca(1);
+    EXPECT_EQ(punto(2, 2), QColor(1, 0, 0));
+    EXPECT_EQ(punto(2, 6), QColor(3, 0, 0));
+    EXPECT_EQ(punto(4, 2).alpha(), 0);
+}
+
+TEST_F(ImmaginiAcquisite, APictureWithoutASizeIsAnEmptyOne)
+{
+    banco.premi(8);
+    clicca(0);
+    clicca(2);
+    EXPECT_EQ(punto(2, 2).alpha(), 0);
+}
+
+TEST_F(ImmaginiAcquisite, ACheckMarkMakesAPictureActive)
+{
+    banco.premi(8);
+    spunta(0);
+    EXPECT_TRUE(lista.Selected(0));
+    EXPECT_EQ(lista.ListIndex(), 0);
+    EXPECT_EQ(lstImgCamera.ItemData(0), -1);
+    spunta(0);
+    EXPECT_FALSE(lista.Selected(0));
+    EXPECT_EQ(lstImgCamera.ItemData(0), 0);
+}
+
+TEST_F(ImmaginiAcquisite, AClickOnAPictureWithoutAMarkMakesItInactive)
+{
+    banco.premi(8);
+    clicca(1);
+    EXPECT_EQ(lstImgCamera.ItemData(1), 0);
+}
+
+TEST_F(ImmaginiAcquisite, TheSpaceBarSetsTheMarkToo)
+{
+    banco.premi(8);
+    clicca(2);
+    QTest::keyClick(&lista, Qt::Key_Space);
+    EXPECT_EQ(lstImgCamera.ItemData(2), -1);
+}
+
+TEST_F(ImmaginiAcquisite, OpenedAgainTheMarksAreGoneAndTheFlagsAreNot)
+{
+    banco.premi(8);
+    spunta(0);
+    finestra.close();
+    banco.premi(8);
+    EXPECT_FALSE(lista.Selected(0));
+    EXPECT_EQ(lstImgCamera.ItemData(0), -1);
+    EXPECT_EQ(punto(2, 2).alpha(), 0);
+}
+
+TEST_F(ImmaginiAcquisite, ThePixelsAreThoseOfTheFileAsItIsNow)
+{
+    banco.premi(8);
+    banco.cartella.scrivi(u"Immagini.dat"_s, "\"Pallone\",2,2,9,9,9,9");
+    clicca(0);
+    EXPECT_EQ(punto(2, 2), QColor(9, 0, 0));
+}
+
+TEST_F(SenzaFile, TheWindowHasOneRowWithoutAName)
+{
+    banco.premi(8);
+    EXPECT_TRUE(finestra.isVisible());
+    ASSERT_EQ(lista.ListCount(), 1);
+    EXPECT_EQ(lista.List(0), QString());
+}
+
+TEST_F(SenzaFile, AClickEndsTheProgramWithTheReadersFailure)
+{
+    GTEST_FLAG_SET(death_test_style, "fast");
+    banco.premi(8);
+    EXPECT_EXIT(clickFatale(lista, 0), testing::ExitedWithCode(1), "\\(53\\)");
+}
+
+TEST_F(ImmaginiAcquisite, AFileThatHasBecomeShorterEndsTheProgramWithTheReadersFailure)
+{
+    GTEST_FLAG_SET(death_test_style, "fast");
+    banco.premi(8);
+    banco.cartella.scrivi(u"Immagini.dat"_s, "\"Pallone\",2,2,9,9,9,9");
+    EXPECT_EXIT(clickFatale(lista, 1), testing::ExitedWithCode(1), "\\(62\\)");
+}
+
+TEST_F(FileGuasto, SizesThatAreNoBytesOrLargerThanAFrameAreAFailure)
+{
+    GTEST_FLAG_SET(death_test_style, "fast");
+    banco.premi(8);
+    EXPECT_EXIT(clickFatale(lista, 0), testing::ExitedWithCode(1), "\\(6\\)");
+    EXPECT_EXIT(clickFatale(lista, 1), testing::ExitedWithCode(1), "\\(9\\)");
+    EXPECT_EXIT(clickFatale(lista, 2), testing::ExitedWithCode(1), "\\(6\\)");
+}
+
+TEST_F(FileGuasto, ARecordWithoutCommasIsAnEmptyPicture)
+{
+    banco.premi(8);
+    EXPECT_EQ(lista.List(3), QString());
+    clicca(3);
+    EXPECT_EQ(punto(2, 2).alpha(), 0);
+    EXPECT_EQ(lista.ListIndex(), 3);
+}

@@ -1,0 +1,236 @@
+// The naming dialog: keys, storing, duplicates, full disks.
+#include "BancoVisione.h"
+
+#include "Archivio.h"
+#include "Attesa.h"
+#include "Modali.h"
+#include "Scritte.h"
+
+#include <QDir>
+#include <QTest>
+#include <csignal>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+namespace {
+
+class NomeImmagine : public testing::Test
+{
+protected:
+    // The dialog with a complete copy.
+    void pronto(const QString &record = u"2,1,5,6"_s)
+    {
+        nome.Mostra();
+        nome.setTag(record);
+        nome.pulOK.setEnabled(true);
+    }
+    void ok(const QString &testo)
+    {
+        pronto();
+        nome.txtNomeImmagine.setText(testo);
+        QTest::mouseClick(&nome.pulOK, Qt::LeftButton);
+    }
+    QString battuto(const QString &testo)
+    {
+        for (const QChar c : testo) {
+            QKeyEvent tasto(QEvent::KeyPress, 0, Qt::NoModifier, c);
+            QApplication::sendEvent(&nome.txtNomeImmagine, &tasto);
+        }
+        return nome.txtNomeImmagine.Text();
+    }
+    QByteArray file() const { return banco.cartella.leggi(u"Immagini.dat"_s); }
+
+    BancoSuPortaFinta banco;
+    frmNomeImmagine &nome = banco.nome;
+};
+
+// Files of this process cannot grow beyond so many bytes: a disk that is full.
+class DiscoPieno
+{
+public:
+    explicit DiscoPieno(rlim_t byte) : m_segnale(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_prima);
+        const rlimit stretto{byte, m_prima.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &stretto);
+    }
+    ~DiscoPieno()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_prima);
+        std::signal(SIGXFSZ, m_segnale);
+    }
+    Q_DISABLE_COPY_MOVE(DiscoPieno)
+
+private:
+    rlimit m_prima{};
+    void (*m_segnale)(int);
+};
+
+} // namespace
+
+TEST_F(NomeImmagine, OpensWithTheFocusInTheNameAndOKOff)
+{
+    nome.Mostra();
+    EXPECT_EQ(nome.windowTitle(), u"Dai un nome all'immagine"_s);
+    EXPECT_EQ(nome.focusWidget(), &nome.txtNomeImmagine);
+    EXPECT_FALSE(nome.pulOK.Enabled());
+    EXPECT_TRUE(nome.pulAnnulla.Enabled());
+    EXPECT_EQ(nome.lblAttesa.Caption(), u"un attimo solo"_s);
+    EXPECT_TRUE(nome.lblAttesa.Visible());
+    EXPECT_FALSE(nome.tmrAcquisizione.Enabled());
+}
+
+TEST_F(NomeImmagine, TheFirstLetterBecomesACapital)
+{
+    nome.Mostra();
+    EXPECT_EQ(battuto(u"palla"_s), u"Palla"_s);
+}
+
+TEST_F(NomeImmagine, AndAgainAfterAllWasDeleted)
+{
+    nome.Mostra();
+    battuto(u"p"_s);
+    nome.txtNomeImmagine.clear();
+    EXPECT_EQ(battuto(u"tazza"_s), u"Tazza"_s);
+}
+
+TEST_F(NomeImmagine, CharactersThatNoFileNameMayHaveAreSwallowed)
+{
+    nome.Mostra();
+    EXPECT_EQ(battuto(u"/\\:*?\"<>|a/b\\c:d*e?f\"g<h>i|j"_s), u"Abcdefghij"_s);
+}
+
+TEST_F(NomeImmagine, CommasAndBlanksPass)
+{
+    nome.Mostra();
+    EXPECT_EQ(battuto(u"palla, rossa 1"_s), u"Palla, rossa 1"_s);
+}
+
+TEST_F(NomeImmagine, TheFirstPictureIsARecordWithoutALineEnd)
+{
+    ok(u"Pallone"_s);
+    EXPECT_EQ(file(), "\"Pallone\",2,1,5,6");
+    EXPECT_FALSE(nome.Visible());
+}
+
+TEST_F(NomeImmagine, TheSecondOneFollowsBehindACarriageReturn)
+{
+    ok(u"Pallone"_s);
+    ok(u"Tazza"_s);
+    EXPECT_EQ(file(), "\"Pallone\",2,1,5,6\r\"Tazza\",2,1,5,6");
+}
+
+TEST_F(NomeImmagine, TheFileIsInTheSingleByteCodePage)
+{
+    ok(u"Città"_s);
+    EXPECT_EQ(file(), "\"Citt\xE0\",2,1,5,6");
+}
+
+TEST_F(NomeImmagine, EnterStores)
+{
+    pronto();
+    nome.txtNomeImmagine.setText(u"Pallone"_s);
+    QTest::keyClick(&nome.txtNomeImmagine, Qt::Key_Return);
+    EXPECT_EQ(file(), "\"Pallone\",2,1,5,6");
+}
+
+TEST_F(NomeImmagine, WithoutANameNothingHappens)
+{
+    ok({});
+    EXPECT_TRUE(nome.Visible());
+    EXPECT_FALSE(banco.cartella.contiene(u"Immagini.dat"_s));
+}
+
+TEST_F(NomeImmagine, AnnullaStoresNothing)
+{
+    pronto();
+    nome.txtNomeImmagine.setText(u"Pallone"_s);
+    QTest::mouseClick(&nome.pulAnnulla, Qt::LeftButton);
+    EXPECT_FALSE(nome.Visible());
+    EXPECT_FALSE(banco.cartella.contiene(u"Immagini.dat"_s));
+}
+
+TEST_F(NomeImmagine, AnnullaStopsTheCopy)
+{
+    nome.Mostra();
+    nome.tmrAcquisizione.setEnabled(true);
+    QTest::keyClick(&nome.txtNomeImmagine, Qt::Key_Escape);
+    EXPECT_FALSE(nome.Visible());
+    EXPECT_FALSE(nome.tmrAcquisizione.Enabled());
+}
+
+TEST_F(NomeImmagine, OpenedAgainItIsAsAtFirst)
+{
+    ok(u"Pallone"_s);
+    nome.Mostra();
+    EXPECT_EQ(nome.txtNomeImmagine.Text(), QString());
+    EXPECT_FALSE(nome.pulOK.Enabled());
+    EXPECT_TRUE(nome.lblAttesa.Visible());
+    EXPECT_EQ(nome.Tag(), QString());
+}
+
+TEST_F(NomeImmagine, ANameThatIsThereIsRefused)
+{
+    ok(u"Pallone"_s);
+    RispondiMessaggi risposte;
+    ok(u"Pal"_s);
+    ASSERT_EQ(risposte.testi(), QStringList(u"Il nome esiste già!"_s));
+    EXPECT_EQ(risposte.visti().first().icona, QMessageBox::NoIcon);
+    EXPECT_EQ(risposte.visti().first().pulsanti, QMessageBox::Ok);
+    EXPECT_TRUE(nome.Visible());
+    EXPECT_EQ(nome.txtNomeImmagine.Text(), u"Pal"_s);
+    EXPECT_EQ(file(), "\"Pallone\",2,1,5,6");
+}
+
+TEST_F(NomeImmagine, ALongerNameThanTheStoredOneIsTaken)
+{
+    ok(u"Pallone"_s);
+    ok(u"Pallone1"_s);
+    EXPECT_EQ(file(), "\"Pallone\",2,1,5,6\r\"Pallone1\",2,1,5,6");
+}
+
+TEST_F(NomeImmagine, OnAFullDiskTheOldFileSurvivesInSilence)
+{
+    ok(u"Pallone"_s);
+    pronto(u"2,1"_s + u",16777215"_s.repeated(4800));
+    nome.txtNomeImmagine.setText(u"Tazza"_s);
+    {
+        const DiscoPieno pieno(100);
+        QTest::mouseClick(&nome.pulOK, Qt::LeftButton);
+    }
+    EXPECT_FALSE(nome.Visible());
+    EXPECT_EQ(file(), "\"Pallone\",2,1,5,6");
+    // And the next one can be stored.
+    ok(u"Mela"_s);
+    EXPECT_EQ(file(), "\"Pallone\",2,1,5,6\r\"Mela\",2,1,5,6");
+}
+
+TEST_F(NomeImmagine, AFileThatCannotBeReadIsNotWrittenOver)
+{
+    ok(u"Pallone"_s);
+    // Somebody left the file number open.
+    Archivio::apri(1, u"prog.dat"_s, Archivio::Modo::Lettura);
+    ok(u"Tazza"_s);
+    Archivio::abbandona();
+    EXPECT_FALSE(nome.Visible());
+    EXPECT_EQ(file(), "\"Pallone\",2,1,5,6");
+}
+
+TEST_F(NomeImmagine, AFolderOfThatNameIsLeftAlone)
+{
+    ASSERT_TRUE(QDir().mkdir(u"Immagini.dat"_s));
+    ok(u"Pallone"_s);
+    EXPECT_FALSE(nome.Visible());
+    EXPECT_TRUE(QFileInfo(u"Immagini.dat"_s).isDir());
+}
+
+TEST_F(NomeImmagine, TheListOfPicturesIsFilledAnewFromWhatWasReadAtTheStart)
+{
+    banco.acquisite.Mostra();
+    banco.acquisite.lstImgAcquisite.AddItem(u"di troppo"_s);
+    ok(u"Pallone"_s);
+    // Without a file at the start there is one empty entry, and the new picture is not there yet.
+    ASSERT_EQ(banco.acquisite.lstImgAcquisite.ListCount(), 1);
+    EXPECT_EQ(banco.acquisite.lstImgAcquisite.List(0), QString());
+    EXPECT_EQ(banco.console.lstImgCamera.ListCount(), 1);
+}
