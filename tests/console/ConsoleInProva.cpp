@@ -140,8 +140,8 @@ QList<QByteArray> ConsoleInProva::mandati()
     finestra.COM.Output(segno);
     EXPECT_TRUE(aspetta(arrivato));
     QList<QByteArray> comandi;
-    for (const ::Voce &voce : diario.voci()) {
-        if (voce.tipo == ::Voce::Tipo::Comando && !voce.testo.startsWith(u"Richiedi"_s))
+    for (const VoceDiario &voce : diario.voci()) {
+        if (voce.tipo == VoceDiario::Tipo::Comando && !voce.testo.startsWith(u"Richiedi"_s))
             comandi << voce.byte;
     }
     diario.svuota();
