@@ -4,6 +4,13 @@
 #include <gtest/gtest.h>
 #include <utility>
 
+ControlloSeriale &ConsoleFinta::COM()
+{
+    istanti.append({lstMosse->ListIndex(), tmrEseguiMosse->Interval(), tmrEseguiMosse->Tag(),
+                    mnuInsRipeti ? mnuInsRipeti->Tag() : QString()});
+    return m_seriale;
+}
+
 void ConsoleFinta::AggiungiMossa(const QString &riga)
 {
     lstMosse->AddItem(riga, lstMosse->ListIndex() + 1);
@@ -53,6 +60,7 @@ Banco::Banco()
 {
     console.lstMosse = &editor.lstMosse;
     console.tmrEseguiMosse = &editor.tmrEseguiMosse;
+    console.mnuInsRipeti = &editor.mnuInsRipeti;
     editor.impostaVigilio(&vigilio);
     editor.impostaCamera(&camera);
 }

@@ -17,7 +17,7 @@ class ConsoleFinta : public ConsoleEditor
 public:
     explicit ConsoleFinta(ControlloSeriale &seriale) : m_seriale(seriale) {}
 
-    ControlloSeriale &COM() override { return m_seriale; }
+    ControlloSeriale &COM() override;
     Posto posto() const override { return dove; }
     void mostraMessaggio(const QString &testo) override { nota(testo); }
     void MostraInvio(const QString &testo) override { nota(testo); }
@@ -33,6 +33,19 @@ public:
     // Cuts the wait behind each line short once it has been noted.
     bool accelera = true;
     std::function<void()> dopo;
+
+    // How the run stood at each moment that the editor asked for the port, which every tick does
+    // first of all: what the tick before has left.
+    struct Istante
+    {
+        int riga;
+        int attesa;
+        QString contatore;
+        QString ritorno;
+        bool operator==(const Istante &) const = default;
+    };
+    QList<Istante> istanti;
+    VoceMenu *mnuInsRipeti = nullptr;
 
 private:
     void nota(const QString &testo);

@@ -8,6 +8,8 @@
 
 namespace {
 
+using Istante = ConsoleFinta::Istante;
+
 class EsecuzioneTest : public testing::Test, protected Banco
 {
 protected:
@@ -138,15 +140,12 @@ TEST_F(EsecuzioneTest, EachKindOfLineHasItsWait)
 
 TEST_F(EsecuzioneTest, AHeadLedIsSwitchedWithoutAWord)
 {
-    console.accelera = false;
-    avvia({u"Testa LED Vs on"_s, u"Testa LED tutti off"_s, u"Pausa 60000"_s});
-    EXPECT_TRUE(aspetta([this] { return lista.ListIndex() == 0; }));
-    EXPECT_EQ(timer.Interval(), 600);
-    EXPECT_EQ(mandati(), QList<QByteArray>{b({19, 37, 8})});
-    EXPECT_TRUE(aspetta([this] { return lista.ListIndex() == 1; }));
-    EXPECT_EQ(timer.Interval(), 1600);
-    EXPECT_EQ(mandati().size(), 9);
-    EXPECT_TRUE(console.pannello.isEmpty());
+    const auto mandate = corsa({u"Testa LED Vs on"_s, u"Testa LED tutti off"_s, u"Pausa 5"_s});
+    EXPECT_EQ(mandate.first(), b({19, 37, 8}));
+    EXPECT_EQ(mandate.size(), 9);
+    EXPECT_TRUE(console.istanti.contains(Istante{0, 600, u"0"_s, u"-1"_s}));
+    EXPECT_TRUE(console.istanti.contains(Istante{1, 1600, u"0"_s, u"-1"_s}));
+    EXPECT_EQ(console.pannello, QStringList{u"Comando 3: pausa di 5 millisecondi"_s});
 }
 
 TEST_F(EsecuzioneTest, AnUnknownLineSendsNothingAndIsToldOf)
@@ -260,29 +259,21 @@ TEST_F(EsecuzioneTest, ALoopRunsItsBlockOnceMoreThanItSays)
 
 TEST_F(EsecuzioneTest, ALoopGoesBackInAHundredMillisecondsAndLeavesInOne)
 {
-    console.accelera = false;
-    avvia({u"Pausa 1"_s, u"Ripeti 1 volta"_s, u"Pausa 60000"_s});
-    EXPECT_TRUE(aspetta([this] { return timer.Interval() == 100; }));
-    EXPECT_EQ(lista.ListIndex(), -1);
-    EXPECT_EQ(timer.Tag(), u"201"_s);
-    EXPECT_TRUE(aspetta([this] { return editor.mnuInsRipeti.Tag() == u"1"; }));
-    EXPECT_EQ(timer.Interval(), 1);
-    EXPECT_EQ(lista.ListIndex(), 1);
-    EXPECT_EQ(timer.Tag(), u"0"_s);
-    aspettaRighe(3);
-    EXPECT_EQ(lista.ListIndex(), 2);
+    corsa({u"Pausa 5"_s, u"Ripeti 1 volta"_s, u"Foto"_s});
+    const auto indietro = console.istanti.indexOf(Istante{-1, 100, u"201"_s, u"-1"_s});
+    const auto fuori = console.istanti.indexOf(Istante{1, 1, u"0"_s, u"1"_s});
+    EXPECT_GE(indietro, 0);
+    EXPECT_GT(fuori, indietro);
 }
 
 TEST_F(EsecuzioneTest, ALoopCountsItsRounds)
 {
-    console.accelera = false;
-    avvia({u"Pausa 1"_s, u"Ripeti 3 volte"_s});
+    corsa({u"Pausa 5"_s, u"Ripeti 3 volte"_s});
     QStringList conteggi;
-    EXPECT_TRUE(aspetta([&] {
-        if (conteggi.isEmpty() || conteggi.last() != timer.Tag())
-            conteggi += timer.Tag();
-        return !timer.Enabled();
-    }));
+    for (const Istante &istante : console.istanti) {
+        if (conteggi.isEmpty() || conteggi.last() != istante.contatore)
+            conteggi += istante.contatore;
+    }
     EXPECT_EQ(conteggi, (QStringList{u"0"_s, u"1"_s, u"2"_s, u"201"_s, u"0"_s}));
 }
 
@@ -312,10 +303,13 @@ TEST_F(EsecuzioneTest, ACountThatDoesNotFitRepeatsWithoutEnd)
 
 TEST_F(EsecuzioneTest, ALoopThatIsStoppedStartsAnew)
 {
-    avvia({u"Stop"_s, u"Ripeti 1 volta"_s, u"Foto"_s, u"Ripeti 5 volte"_s});
-    EXPECT_TRUE(aspetta([this] { return timer.Tag() == u"2"; }));
-    EXPECT_EQ(editor.mnuInsRipeti.Tag(), u"1"_s);
-    clicca(editor.pulEsegui);
+    console.dopo = [this] {
+        if (timer.Tag() != u"2")
+            return;
+        EXPECT_EQ(editor.mnuInsRipeti.Tag(), u"1"_s);
+        editor.pulEsegui.click();
+    };
+    corsa({u"Stop"_s, u"Ripeti 1 volta"_s, u"Foto"_s, u"Ripeti 5 volte"_s});
     EXPECT_EQ(timer.Tag(), u"0"_s);
     EXPECT_EQ(editor.mnuInsRipeti.Tag(), u"-1"_s);
 }
