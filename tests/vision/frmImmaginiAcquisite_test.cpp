@@ -176,14 +176,14 @@ TEST_F(SenzaFile, TheWindowHasOneRowWithoutAName)
 
 TEST_F(SenzaFile, AClickEndsTheProgramWithTheReadersFailure)
 {
-    GTEST_FLAG_SET(death_test_style, "fast");
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
     banco.premi(8);
     EXPECT_EXIT(clickFatale(lista, 0), testing::ExitedWithCode(1), "\\(53\\)");
 }
 
 TEST_F(ImmaginiAcquisite, AFileThatHasBecomeShorterEndsTheProgramWithTheReadersFailure)
 {
-    GTEST_FLAG_SET(death_test_style, "fast");
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
     banco.premi(8);
     banco.cartella.scrivi(u"Immagini.dat"_s, "\"Pallone\",2,2,9,9,9,9");
     EXPECT_EXIT(clickFatale(lista, 1), testing::ExitedWithCode(1), "\\(62\\)");
@@ -191,7 +191,7 @@ TEST_F(ImmaginiAcquisite, AFileThatHasBecomeShorterEndsTheProgramWithTheReadersF
 
 TEST_F(FileGuasto, SizesThatAreNoBytesOrLargerThanAFrameAreAFailure)
 {
-    GTEST_FLAG_SET(death_test_style, "fast");
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
     banco.premi(8);
     EXPECT_EXIT(clickFatale(lista, 0), testing::ExitedWithCode(1), "\\(6\\)");
     EXPECT_EXIT(clickFatale(lista, 1), testing::ExitedWithCode(1), "\\(9\\)");
