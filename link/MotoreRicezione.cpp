@@ -50,6 +50,7 @@ MotoreRicezione::MotoreRicezione(ControlloSeriale &com, TemporizzatoreIngresso &
 MotoreRicezione::~MotoreRicezione()
 {
     m_accumulatore.cresciuto = nullptr;
+    COM.avvisa(false);
     COM.Arrivo.collega(std::function<void()>());
     if (m_sospeso)
         m_sospeso.destroy();
