@@ -176,7 +176,7 @@ void frmPrincipale::disponiTesta()
     }
     const auto targhetta = [](Forma &forma, Etichetta &etichetta, double left, double width) {
         QFont piccolo = etichetta.font();
-        piccolo.setPixelSize(11);
+        piccolo.setPixelSize(10);
         etichetta.setFont(piccolo);
         forma.Size(width, 255);
         etichetta.Size(width, 255);
