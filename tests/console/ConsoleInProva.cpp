@@ -116,13 +116,14 @@ void ConsoleInProva::taci()
 {
     robot.robot().impostaRisponde(false);
     finestra.tmrControllaConn.setEnabled(false);
-    finestra.tmrElabInput.setEnabled(false);
     mandati();
-    // What the robot had said already is out of the way when seven bytes more are alone.
     EXPECT_TRUE(aspetta([this] { return robot.inCoda() == 0; }));
-    finestra.COM.Input();
+    // Nobody else takes bytes now: what the first wait below finds is what the second finds gone,
+    // so that it ends at rest, with nothing there.
+    const MotoreRicezione::Fermo fermo(finestra.motore);
+    finestra.tmrElabInput.setEnabled(false);
     robot.inviaGrezzo(QByteArray(7, '\xFF'));
-    EXPECT_TRUE(aspetta([this] { return finestra.COM.InBufferCount() == 7; }));
+    EXPECT_TRUE(aspetta([this] { return finestra.COM.InBufferCount() >= 7; }));
     finestra.MostraInvio({});
     finestra.COM.Input();
     finestra.MostraInvio({});
@@ -140,8 +141,8 @@ QList<QByteArray> ConsoleInProva::mandati()
     finestra.COM.Output(segno);
     EXPECT_TRUE(aspetta(arrivato));
     QList<QByteArray> comandi;
-    for (const ::Voce &voce : diario.voci()) {
-        if (voce.tipo == ::Voce::Tipo::Comando && !voce.testo.startsWith(u"Richiedi"_s))
+    for (const VoceDiario &voce : diario.voci()) {
+        if (voce.tipo == VoceDiario::Tipo::Comando && !voce.testo.startsWith(u"Richiedi"_s))
             comandi << voce.byte;
     }
     diario.svuota();
