@@ -98,7 +98,8 @@ void frmPrincipale::disponiMovimenti()
     CasellaOpzione *opzioniModo[] = {&opzBase, &opzBraccia, &opzTesta};
     int y = 84;
     for (CasellaOpzione *opzione : opzioniModo) {
-        opzione->setContentsMargins(6, 0, 0, 0);
+        // The mark stands inside the coloured field, not on its edge.
+        opzione->setStyleSheet(u"padding-left: 7px"_s);
         metti(*opzione, 18, y, 158, 28);
         senzaTasti(*opzione);
         y += 34;
@@ -123,7 +124,7 @@ void frmPrincipale::disponiMovimenti()
     for (Combo *combo : {&cbVelocità, &cbModGiro, &cbStepV, &cbStepO})
         senzaTasti(*combo);
 
-    const QPoint frecce[] = {{174, 202}, {108, 252}, {240, 252}, {174, 302}, {34, 216},
+    const QPoint frecce[] = {{174, 206}, {113, 252}, {235, 252}, {174, 298}, {34, 216},
                              {34, 290},  {187, 84},  {235, 84},  {187, 136}, {235, 136}};
     const QString nomi[] = {u"Su"_s,
                             u"Sinistra"_s,
@@ -162,7 +163,7 @@ void frmPrincipale::disponiTesta()
 {
     titolo(lblLED, Qt::AlignLeft);
     metti(lblLED, 412, 60, 100, 20);
-    metti(ImgTesta, 410, 84, 160, 152);
+    metti(ImgTesta, 424, 84, 160, 152);
     ImgTesta.setSfondo(Disegni::icona(u"testa"));
     suggerimento(ImgTesta, u"Click sinistro: accendi LED. Click destro: spegni LED"_s);
     for (int i = imgfr.prima(); i <= imgfr.ultima(); ++i) {
@@ -187,14 +188,14 @@ void frmPrincipale::disponiTesta()
     targhetta(Shape3, lblAccLED, 60, 1065);
     targhetta(Shape4, lblSpLED, 1140, 1200);
 
-    metti(imgLEDPos, 612, 204, 40, 40);
+    metti(imgLEDPos, 620, 150, 40, 40);
     suggerimento(imgLEDPos, u"LED di posizione. Click sinistro: accendi. Click destro: spegni"_s);
     const auto comparsa = [](Forma &cappello, Etichetta &testo, Elenco &lista,
                              const QColor &colore) {
         // Over the picture: the mouse that comes from one of its halves must not cross the bare
         // window, which would forget the half.
-        metti(cappello, 440, 120, 100, 22);
-        metti(testo, 440, 120, 100, 22);
+        metti(cappello, 454, 120, 100, 22);
+        metti(testo, 454, 120, 100, 22);
         cappello.setColori(colore, colore.darker(130), 4);
         titolo(testo);
         testo.setForeColor(Qt::black);
@@ -207,7 +208,7 @@ void frmPrincipale::disponiTesta()
         lista.setFocusPolicy(Qt::NoFocus);
         for (const QString &voce : {u"Verde"_s, u"Giallo"_s, u"Rosso"_s, u"Blu"_s})
             lista.AddItem(voce);
-        metti(lista, 440, 141, 100, 4 * lista.sizeHintForRow(0) + 2 * lista.frameWidth());
+        metti(lista, 454, 141, 100, 4 * lista.sizeHintForRow(0) + 2 * lista.frameWidth());
         for (QWidget *parte : std::initializer_list<QWidget *>{&cappello, &testo, &lista}) {
             parte->raise();
             parte->hide();
@@ -273,7 +274,7 @@ void frmPrincipale::disponiVoce()
         u"QGroupBox { background: palette(base); border: 1px solid palette(mid);"
         " border-radius: 6px; margin: 0; }"
         " QGroupBox::title { subcontrol-origin: padding; subcontrol-position: top left;"
-        " padding: 4px 10px; font-weight: bold; }"_s);
+        " padding: 4px 7px; font-weight: bold; }"_s);
     QFont grassetto = corMex.font();
     grassetto.setBold(true);
     corMex.setFont(grassetto);
@@ -292,7 +293,7 @@ void frmPrincipale::disponiVoce()
     pulsante(pulCancMex, 187, u"Cancella"_s);
 
     titolo(Label6, Qt::AlignLeft);
-    metti(Label6, 538, 374, 140, 20);
+    metti(Label6, 538, 372, 140, 20);
     metti(cbProgrammi, 540, 410, 60, 28);
     cbProgrammi.setAccessibleName(u"Numero del programma interno"_s);
     senzaTasti(cbProgrammi);
@@ -331,8 +332,8 @@ void frmPrincipale::disponiTelemetria()
     batteria(Label7, imgBattLogica, imgLivBattLogica, 272);
     batteria(Label8, imgBattMotori, imgLivBattMotori, 302);
     metti(Label10, 548, 332, 78, 20);
-    metti(imgTermometro, 624, 330, 24, 24);
-    metti(lblTemperatura, 650, 332, 36, 20);
+    metti(imgTermometro, 626, 330, 24, 24);
+    metti(lblTemperatura, 652, 332, 36, 20);
     lblTemperatura.setAccessibleName(u"Temperatura"_s);
     titolo(lblTemperatura, Qt::AlignLeft);
 }
