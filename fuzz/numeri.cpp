@@ -4,7 +4,6 @@
 #include "Codifica.h"
 #include "Errore.h"
 
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <cmath>
@@ -24,12 +23,12 @@ void pretendi(bool condizione)
 void leggiPorta(const QByteArray &contenuto)
 {
     static const QTemporaryDir cartella;
-    QDir::setCurrent(cartella.path());
-    QFile file(u"Porta COM"_s);
+    static const QString nome = cartella.filePath(u"Porta COM"_s);
+    QFile file(nome);
     pretendi(file.open(QIODevice::WriteOnly) && file.write(contenuto) == contenuto.size());
     file.close();
     try {
-        Archivio::apri(1, u"Porta COM"_s, Archivio::Modo::Lettura);
+        Archivio::apri(1, nome, Archivio::Modo::Lettura);
         Numeri::Byte(Archivio::leggiNumero(1));
         while (!Archivio::fine(1))
             Archivio::leggiCampo(1);
@@ -39,7 +38,7 @@ void leggiPorta(const QByteArray &contenuto)
         pretendi(errore.numero() == Errore::Overflow || errore.numero() == Errore::FineDelFile);
     }
     try {
-        Archivio::apri(1, u"Porta COM"_s, Archivio::Modo::Lettura);
+        Archivio::apri(1, nome, Archivio::Modo::Lettura);
         while (!Archivio::fine(1))
             Archivio::leggiRiga(1);
         Archivio::chiudi();
