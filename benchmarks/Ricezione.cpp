@@ -1,7 +1,7 @@
 // How fast the receive engine is: bytes from the pseudo-terminal to the console's controls, and the
 // time a telegram takes with little and with much waiting behind it.
-#include "PortaAsio.h"
 #include "Pompa.h"
+#include "PortaAsio.h"
 #include "Terminale.h"
 #include "frmPrincipale.h"
 

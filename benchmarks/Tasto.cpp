@@ -1,7 +1,7 @@
 // How long it takes from a key press to the first byte of its command at the far end of the
 // pseudo-terminal, with a robot that goes on sending telemetry.
-#include "PortaAsio.h"
 #include "Pompa.h"
+#include "PortaAsio.h"
 #include "Terminale.h"
 #include "frmPrincipale.h"
 
@@ -69,10 +69,9 @@ int main(int argc, char **argv)
         QApplication::sendEvent(fuoco, &giu);
         while (arrivo == 0)
             pompa();
-        tempi.push_back(
-            std::chrono::duration<double, std::milli>(
-                Orologio::duration(arrivo) - premuto.time_since_epoch())
-                .count());
+        tempi.push_back(std::chrono::duration<double, std::milli>(Orologio::duration(arrivo) -
+                                                                  premuto.time_since_epoch())
+                            .count());
         QKeyEvent su(QEvent::KeyRelease, Qt::Key_Up, Qt::NoModifier);
         QApplication::sendEvent(fuoco, &su);
     }

@@ -14,8 +14,7 @@
 class Terminale
 {
 public:
-    Terminale()
-        : m_capo(::posix_openpt(O_RDWR | O_NOCTTY))
+    Terminale() : m_capo(::posix_openpt(O_RDWR | O_NOCTTY))
     {
         if (m_capo < 0 || ::grantpt(m_capo) != 0 || ::unlockpt(m_capo) != 0)
             throw std::runtime_error("no pseudo-terminal");

@@ -111,6 +111,9 @@ void frmEditor::colloca()
     if (suo->virtualGeometry().intersects(frameGeometry()))
         return;
     const QRect libero = suo->availableGeometry();
-    move(libero.right() - Unita::pixel(distanza) - frameGeometry().width(),
+    const int aSinistra = Unita::pixel(console.Left - distanza) - frameGeometry().width();
+    move(aSinistra >= libero.left()
+             ? aSinistra
+             : libero.right() - Unita::pixel(distanza) - frameGeometry().width(),
          qBound(libero.top(), y(), qMax(libero.top(), libero.bottom() + 1 - height())));
 }

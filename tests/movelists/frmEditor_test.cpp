@@ -66,6 +66,16 @@ TEST_F(FrmEditorTest, ComesBackOntoTheScreenWhereTheConsoleLeavesNoPlace)
     EXPECT_TRUE(schermo.contains(editor.frameGeometry()));
 }
 
+TEST_F(FrmEditorTest, StandsOnTheOtherSideWhereTheConsoleIsFlushWithTheScreensEdge)
+{
+    const QRect schermo = editor.screen()->geometry();
+    const int sinistra = schermo.width() - 300;
+    console.dove = {Unita::unita(sinistra), 3000, Unita::unita(300)};
+    mostra();
+    EXPECT_TRUE(schermo.contains(editor.frameGeometry()));
+    EXPECT_LT(editor.frameGeometry().right(), sinistra);
+}
+
 TEST_F(FrmEditorTest, TheMenusStandInTheirOrder)
 {
     const auto voci = [](const QMenu *menu) {

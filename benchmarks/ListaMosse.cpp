@@ -1,0 +1,118 @@
+// Move lists: the longest one loaded and shown, scrolled, its lines read; the time that a run of
+// short pauses takes.
+#include "Archivio.h"
+#include "ControlloSeriale.h"
+#include "FileMosse.h"
+#include "Mossa.h"
+#include "PortaAsio.h"
+#include "Terminale.h"
+#include "frmEditor.h"
+
+#include <QApplication>
+#include <QScrollBar>
+#include <benchmark/benchmark.h>
+
+namespace {
+
+class ConsoleFinta : public ConsoleEditor
+{
+public:
+    explicit ConsoleFinta(const QString &cartella)
+        : m_com(QStringLiteral("COM"), nullptr, std::make_unique<PortaAsio>(), cartella)
+    {
+        m_com.setCommPort(1);
+        m_com.setPortOpen(true);
+    }
+    ControlloSeriale &COM() override { return m_com; }
+    Posto posto() const override { return {0, 1300, 0}; }
+    void mostraMessaggio(const QString &) override {}
+    void MostraInvio(const QString &) override {}
+    void AggiungiMossa(const QString &) override {}
+
+private:
+    ControlloSeriale m_com;
+};
+
+class OrologioFermo : public Orologio
+{
+public:
+    QTime adesso() const override { return {12, 0}; }
+};
+
+struct Banco
+{
+    Terminale terminale;
+    ConsoleFinta console{terminale.cartella()};
+    OrologioFermo orologio;
+    frmEditor editor{console, orologio, terminale.cartella()};
+    QString nome;
+
+    Banco(int righe, const QString &riga)
+        : nome(terminale.cartella() + QStringLiteral("/lista.sqm"))
+    {
+        Archivio::apri(1, nome, Archivio::Modo::Scrittura);
+        Archivio::stampa(1, FileMosse::scritto(QStringList(righe, riga)));
+        Archivio::chiudi();
+        editor.Mostra();
+        QApplication::processEvents();
+    }
+};
+
+void CaricaEMostra(benchmark::State &stato)
+{
+    Banco banco(32767, QStringLiteral("Testa su 2"));
+    for (auto _ : stato) {
+        banco.editor.ApriLista(banco.nome);
+        QApplication::processEvents();
+    }
+}
+
+void ScorriUnaPagina(benchmark::State &stato)
+{
+    Banco banco(32767, QStringLiteral("Testa su 2"));
+    banco.editor.ApriLista(banco.nome);
+    QScrollBar &barra = *banco.editor.lstMosse.verticalScrollBar();
+    for (auto _ : stato) {
+        barra.setValue(barra.value() >= barra.maximum() ? 0 : barra.value() + barra.pageStep());
+        QApplication::processEvents();
+    }
+}
+
+void LeggiUnaRiga(benchmark::State &stato)
+{
+    const QString righe[] = {QStringLiteral("Avanti veloce"), QStringLiteral("Frase 140"),
+                             QStringLiteral("Testa LED Vs on"), QStringLiteral("Ripeti 5 volte"),
+                             QStringLiteral("Ciao")};
+    size_t i = 0;
+    for (auto _ : stato)
+        benchmark::DoNotOptimize(leggiMossa(righe[i++ % 5]));
+}
+
+// The intervals of the run add up to 1001 ms.
+void CorsaDiMillePause(benchmark::State &stato)
+{
+    Banco banco(1000, QStringLiteral("Pausa 1"));
+    banco.editor.ApriLista(banco.nome);
+    for (auto _ : stato) {
+        banco.editor.pulEsegui.click();
+        while (banco.editor.tmrEseguiMosse.Enabled())
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+}
+
+} // namespace
+
+BENCHMARK(CaricaEMostra)->Unit(benchmark::kMillisecond);
+BENCHMARK(ScorriUnaPagina)->Unit(benchmark::kMillisecond);
+BENCHMARK(LeggiUnaRiga);
+BENCHMARK(CorsaDiMillePause)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(3);
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
