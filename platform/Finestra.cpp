@@ -62,7 +62,7 @@ void Finestra::MostraModale()
     setWindowModality(Qt::ApplicationModal);
     setWindowFlag(Qt::Dialog);
     winId();
-    if (sopra && sopra->windowHandle())
+    if (sopra && sopra != this && sopra->windowHandle())
         windowHandle()->setTransientParent(sopra->windowHandle());
     Mostra();
     QEventLoop attesa;

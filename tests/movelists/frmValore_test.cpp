@@ -23,6 +23,10 @@ protected:
         const ConModale utente(u"frmValore"_s, [&] {
             if (std::exchange(fatto, true))
                 return;
+            // Without a window manager only a window's first showing makes it the active one.
+            if (!std::exchange(m_mostrato, true)) {
+                EXPECT_TRUE(aspetta([this] { return m_dialogo->isActiveWindow(); }));
+            }
             agisci();
             if (m_dialogo->Visible())
                 m_dialogo->close();
@@ -40,7 +44,7 @@ protected:
             QTest::keyClick(&m_dialogo->txtValore, Qt::Key_Backspace);
         QTest::keyClicks(&m_dialogo->txtValore, testo);
     }
-    void invio() { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); }
+    void invio() { QTest::keyClick(m_dialogo->focusWidget(), Qt::Key_Return); }
     void clicca(QWidget &controllo)
     {
         const QPoint punto = controllo.mapTo(m_dialogo.get(), controllo.rect().center());
@@ -49,6 +53,7 @@ protected:
     QString testo() const { return m_dialogo->txtValore.Text(); }
 
     std::unique_ptr<frmValore> m_dialogo = std::make_unique<frmValore>();
+    bool m_mostrato = false;
 };
 
 } // namespace
@@ -242,6 +247,7 @@ TEST_F(FrmValoreTest, AClickOnOkFindsTheNumberInOrder)
     const RispondiMessaggi utente;
     const auto conClick = [&](const QString &modo, const QString &scritto) {
         m_dialogo = std::make_unique<frmValore>();
+        m_mostrato = false;
         conDialogo(modo, [&] {
             scrivi(scritto);
             clicca(m_dialogo->pulOK);
@@ -286,7 +292,7 @@ TEST_F(FrmValoreTest, TheNumberIsReadyToBeTypedOver)
 {
     conDialogo(u"Frase"_s, [&] {
         ASSERT_TRUE(m_dialogo->txtValore.hasFocus());
-        QTest::keyClicks(QApplication::focusWidget(), u"25"_s);
+        QTest::keyClicks(m_dialogo->focusWidget(), u"25"_s);
         EXPECT_EQ(testo(), u"25"_s);
     });
 }
