@@ -88,6 +88,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *dati, size_t quanti)
                             banco.forma, banco.forma, banco.forma, banco.forma},
                            banco.cartella);
     motore.ascoltaFile(&banco.esplora);
+    // The engine of the run before may have been waiting.
+    banco.COM.avvisa(false);
     if (dati[0] & 1)
         banco.esplora.Mostra();
     const QByteArray byte(reinterpret_cast<const char *>(dati + 3),
