@@ -112,7 +112,13 @@ Scatto MotoreRicezione::tmrElabInput_Timer()
             const qsizetype n = basso + 256 * alto;
             if (m_file)
                 m_file->ImmagineAttesa(true);
-            // One byte beyond the body is awaited.
+            // One byte beyond the body is awaited. The line may have more of it than one reading
+            // takes.
+            for (qsizetype prima = -1;
+                 m_accumulatore.lunghezza() - 5 <= n && m_accumulatore.lunghezza() != prima;) {
+                prima = m_accumulatore.lunghezza();
+                LeggiIngresso();
+            }
             if (m_accumulatore.lunghezza() - 5 <= n)
                 co_return;
             salvaFile(k, n);
