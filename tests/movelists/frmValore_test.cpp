@@ -5,7 +5,6 @@
 #include "Modali.h"
 #include "Scritte.h"
 
-#include <QApplication>
 #include <QTest>
 #include <gmock/gmock.h>
 #include <memory>
