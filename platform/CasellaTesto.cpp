@@ -16,6 +16,12 @@ CasellaTesto::CasellaTesto(const QString &nome, QWidget *dentro, const QString &
             [this](QWidget *, QWidget *ora) { fuocoCambiato(ora); });
 }
 
+CasellaTesto::~CasellaTesto()
+{
+    // A widget that goes with the focus tells the application so when only its base is left.
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 QString CasellaTesto::filtrato(const QString &battuto)
 {
     QString passati;

@@ -13,6 +13,7 @@ class CasellaTesto : public Controllo<QLineEdit>
 
 public:
     CasellaTesto(const QString &nome, QWidget *dentro, const QString &testo = {});
+    ~CasellaTesto() override;
 
     QString Text() const { return text(); }
 

@@ -8,7 +8,6 @@
 #include <QKeyEvent>
 #include <QPointer>
 #include <QWindow>
-#include <algorithm>
 
 namespace {
 
@@ -151,32 +150,28 @@ bool Finestra::event(QEvent *evento)
     return esito;
 }
 
-// A key that nobody takes travels up through the parents as one and the same event: only its first
-// stop counts. Handlers may move the focus meanwhile or handle other keys, so the focus says
-// nothing.
-bool Finestra::primaTappa(QWidget *controllo, const QKeyEvent &tasto)
+// A key that nobody takes travels up through the parents as one and the same event, and only its
+// first stop counts. Nothing but the event itself can tell: handlers move the focus and handle
+// other keys meanwhile. So the first stop marks it, by the one bit of its time that no clock
+// reaches.
+static bool primaTappa(QKeyEvent &tasto)
 {
-    const auto stesso = [&](const Viaggio &v) { return v.evento == &tasto; };
-    auto viaggio = std::find_if(m_viaggi.begin(), m_viaggi.end(), stesso);
-    const bool prosegue = viaggio != m_viaggi.end() && viaggio->tipo == tasto.type() &&
-                          viaggio->tempo == tasto.timestamp() && viaggio->prossima == controllo;
-    if (viaggio != m_viaggi.end())
-        m_viaggi.erase(viaggio);
-    if (controllo != this)
-        m_viaggi.push_back(
-            {&tasto, tasto.type(), tasto.timestamp(), QPointer(controllo->parentWidget())});
-    return !prosegue;
+    constexpr quint64 segno = quint64(1) << 63;
+    if (tasto.timestamp() & segno)
+        return false;
+    tasto.setTimestamp(tasto.timestamp() | segno);
+    return true;
 }
 
 bool Finestra::eventFilter(QObject *oggetto, QEvent *evento)
 {
     if (evento->type() != QEvent::KeyPress && evento->type() != QEvent::KeyRelease)
         return false;
-    auto *controllo = qobject_cast<QWidget *>(oggetto);
+    const auto *controllo = qobject_cast<QWidget *>(oggetto);
     if (!controllo || controllo->window() != this)
         return false;
-    const auto *tasto = static_cast<QKeyEvent *>(evento);
-    if (!primaTappa(controllo, *tasto))
+    auto *tasto = static_cast<QKeyEvent *>(evento);
+    if (!primaTappa(*tasto))
         return false;
     const int codice = Tasti::codice(*tasto);
     const int maiuscole = numeroMaiuscole(tasto->modifiers());

@@ -5,9 +5,7 @@
 #include "Controllo.h"
 #include "Pulsanti.h"
 
-#include <QPointer>
 #include <QWidget>
-#include <vector>
 
 class Finestra : public QWidget
 {
@@ -88,21 +86,10 @@ protected:
     void keyPressEvent(QKeyEvent *evento) override;
 
 private:
-    // A key on its way from the control that had the focus up through the parents.
-    struct Viaggio
-    {
-        const QEvent *evento;
-        QEvent::Type tipo;
-        quint64 tempo;
-        QPointer<QWidget> prossima;
-    };
-
     bool carica();
     void scarica(Chiusura come);
     void attiva();
-    bool primaTappa(QWidget *controllo, const QKeyEvent &tasto);
 
-    std::vector<Viaggio> m_viaggi;
     QString m_tag;
     QString m_titolo;
     QSize m_misura;

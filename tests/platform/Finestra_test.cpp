@@ -7,6 +7,8 @@
 #include "Pompa.h"
 #include "Temporizzatore.h"
 
+#include <optional>
+
 namespace {
 
 struct FinestraTest : ::testing::Test
@@ -475,6 +477,17 @@ TEST_F(TastiDellaFinestra, keys_of_the_window_system_count_once)
         QTest::keyClick(finestra.windowHandle(), Qt::Key_Left);
         EXPECT_EQ(finestra.diario, (QStringList{u"KeyDown 37 0"_s, u"KeyUp 37 0"_s}));
     }
+}
+
+TEST_F(TastiDellaFinestra, a_key_is_not_taken_for_the_one_before_it_that_lay_in_the_same_place)
+{
+    // The button takes an arrow key, so that the first one never comes to the window.
+    std::optional<QKeyEvent> evento;
+    evento.emplace(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier);
+    QApplication::sendEvent(&pulsante, &*evento);
+    evento.emplace(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier);
+    QApplication::sendEvent(&finestra, &*evento);
+    EXPECT_EQ(finestra.volte(u"KeyDown 38 0"_s), 2);
 }
 
 TEST_F(TastiDellaFinestra, the_same_key_pressed_again_counts_again)
