@@ -229,7 +229,6 @@ void PienaVelocita(benchmark::State &stato)
         ultimo = ora;
     });
     dito.start(10);
-    ultimo = Orologio::now();
     constexpr int doppi = 50;
     for (auto _ : stato) {
         banco.console->lblTemperatura.setCaption({});

@@ -213,7 +213,7 @@ private:
     void ImgTesta_MouseDown(int Button, int Shift, double X, double Y);
     void tmrAnimazFrecce_Timer();
     void mnuComparsa_MouseMove(Elenco &lista, bool acceso, double Y);
-    void mnuComparsa_Click(Elenco &lista, bool acceso);
+    void mnuComparsa_Click(const Elenco &lista, bool acceso);
     void mostraComparsa(const Elenco &lista, bool visibile);
     static void lasciaNumero(CasellaTesto &testo, ::SuGiu &suGiu);
     void pulFrase_Click();

@@ -95,7 +95,7 @@ void frmPrincipale::disponiMovimenti()
     titolo(Label1, Qt::AlignLeft);
     metti(Label1, 20, 60, 150, 20);
 
-    CasellaOpzione *opzioniModo[] = {&opzBase, &opzBraccia, &opzTesta};
+    CasellaOpzione *const opzioniModo[] = {&opzBase, &opzBraccia, &opzTesta};
     int y = 84;
     for (CasellaOpzione *opzione : opzioniModo) {
         // The mark stands inside the coloured field, not on its edge.

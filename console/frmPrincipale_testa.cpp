@@ -113,7 +113,7 @@ void frmPrincipale::mnuComparsa_MouseMove(Elenco &lista, bool acceso, double Y)
     lista.setTag(u"SI"_s);
 }
 
-void frmPrincipale::mnuComparsa_Click(Elenco &lista, bool acceso)
+void frmPrincipale::mnuComparsa_Click(const Elenco &lista, bool acceso)
 {
     if (lista.Tag() == u"NO"_s)
         return;

@@ -52,20 +52,20 @@ FileAperto perLettura(const QString &nome)
     QFile ingresso(nome);
     if (!ingresso.open(QIODevice::ReadOnly))
         throw Errore(Errore::AccessoNegato);
-    FileAperto file;
-    file.contenuto = ingresso.readAll();
-    return file;
+    FileAperto aperto;
+    aperto.contenuto = ingresso.readAll();
+    return aperto;
 }
 
 FileAperto perScrittura(const QString &nome)
 {
     if (!QFileInfo(nome).dir().exists())
         throw Errore(Errore::PercorsoNonTrovato);
-    FileAperto file;
-    file.uscita = std::make_unique<QSaveFile>(nome);
-    if (!file.uscita->open(QIODevice::WriteOnly))
+    FileAperto aperto;
+    aperto.uscita = std::make_unique<QSaveFile>(nome);
+    if (!aperto.uscita->open(QIODevice::WriteOnly))
         throw Errore(Errore::AccessoNegato);
-    return file;
+    return aperto;
 }
 
 bool bianco(char c)
@@ -200,7 +200,7 @@ QByteArray leggiRiga(int numero)
     const qsizetype inizio = f.letti;
     while (!finito(f) && !fineRiga(corrente(f)))
         ++f.letti;
-    const QByteArray riga = f.contenuto.sliced(inizio, f.letti - inizio);
+    QByteArray riga = f.contenuto.sliced(inizio, f.letti - inizio);
     saltaFineRiga(f);
     return riga;
 }
@@ -210,7 +210,7 @@ QByteArray leggi(int numero, qsizetype quanti)
     FileAperto &f = file(numero);
     if (quanti > f.contenuto.size() - f.letti)
         throw Errore(Errore::FineDelFile);
-    const QByteArray letti = f.contenuto.sliced(f.letti, quanti);
+    QByteArray letti = f.contenuto.sliced(f.letti, quanti);
     f.letti += quanti;
     return letti;
 }

@@ -78,19 +78,19 @@ BarraDiStato::BarraDiStato(const QString &nome, QWidget *dentro, const std::vect
     riga->setContentsMargins(4, 2, 4, 2);
     riga->setSpacing(4);
     for (const int larghezza : larghezze) {
-        auto *pannello = new QLabel(this);
-        pannello->setObjectName(u"%1.Panels(%2)"_s.arg(nome).arg(m_pannelli.size() + 1));
-        pannello->setTextFormat(Qt::PlainText);
-        pannello->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-        pannello->setMargin(2);
+        auto *nuovo = new QLabel(this);
+        nuovo->setObjectName(u"%1.Panels(%2)"_s.arg(nome).arg(m_pannelli.size() + 1));
+        nuovo->setTextFormat(Qt::PlainText);
+        nuovo->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+        nuovo->setMargin(2);
         if (larghezza > 0) {
-            pannello->setFixedWidth(larghezza);
+            nuovo->setFixedWidth(larghezza);
         } else {
             // A long message must not widen the window.
-            pannello->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+            nuovo->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         }
-        riga->addWidget(pannello, larghezza > 0 ? 0 : 1);
-        m_pannelli.push_back(pannello);
+        riga->addWidget(nuovo, larghezza > 0 ? 0 : 1);
+        m_pannelli.push_back(nuovo);
     }
 }
 

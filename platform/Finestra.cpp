@@ -110,7 +110,7 @@ int Finestra::WindowState() const
     const Qt::WindowStates stato = windowState();
     if (stato & Qt::WindowMinimized)
         return 1;
-    return stato & Qt::WindowMaximized ? 2 : 0;
+    return (stato & Qt::WindowMaximized) ? 2 : 0;
 }
 
 void Finestra::setWindowState(int stato)

@@ -58,6 +58,6 @@ void pompa()
         return;
     giriAVuoto = 0;
     const auto dovuto = durataGiro * giriPerPausa - (adesso - inizioVuoto);
-    if (dovuto > 0us)
+    if (dovuto.count() > 0)
         dormi(dovuto);
 }

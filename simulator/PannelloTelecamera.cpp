@@ -69,9 +69,9 @@ void PannelloTelecamera::scelta(int indice)
 
 void PannelloTelecamera::scegliCartella()
 {
-    const QString scelta = QFileDialog::getExistingDirectory(
+    const QString cartella = QFileDialog::getExistingDirectory(
         this, u"Scegli una cartella di immagini"_s, robot_.telecamera().cartella());
-    if (!scelta.isEmpty() && !robot_.telecamera().impostaCartella(scelta))
+    if (!cartella.isEmpty() && !robot_.telecamera().impostaCartella(cartella))
         QMessageBox::information(this, u"Telecamera"_s,
                                  u"Nella cartella non ci sono immagini leggibili."_s);
     fonte_->setCurrentIndex(robot_.telecamera().cartella().isEmpty() ? DallaStanza : DaCartella);

@@ -46,12 +46,12 @@ bool Registrazione::leggi(const QString &file, QList<Tratto> &tratti, QString &e
     tratti.clear();
     int numero = 0;
     while (!f.atEnd()) {
-        const QByteArray riga = f.readLine().trimmed();
+        const QByteArray testo = f.readLine().trimmed();
         ++numero;
-        if (riga.isEmpty() || riga.startsWith('#'))
+        if (testo.isEmpty() || testo.startsWith('#'))
             continue;
         Tratto tratto;
-        if (!leggiRiga(riga, tratto)) {
+        if (!leggiRiga(testo, tratto)) {
             errore = u"%1: riga %2 non valida"_s.arg(file).arg(numero);
             return false;
         }
