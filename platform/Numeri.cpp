@@ -42,16 +42,11 @@ double Valore(QStringView testo)
     for (const QChar c : testo) {
         if (bianco(c))
             continue;
-        if (cifra(c)) {
-            numero += c;
-        } else if (c == u'.' && !punto) {
+        if (c == u'.' && !punto)
             punto = true;
-            numero += c;
-        } else if ((c == u'-' || c == u'+') && numero.isEmpty()) {
-            numero += c;
-        } else {
+        else if (!cifra(c) && !(numero.isEmpty() && (c == u'-' || c == u'+')))
             break;
-        }
+        numero += c;
     }
     // toDouble gives 0 for what is left without a digit ("", "-", "."), and infinity for a number
     // of hundreds of digits, which every integer then refuses.

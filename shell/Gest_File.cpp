@@ -8,7 +8,7 @@ QByteArray LeggiFile(const QString &nome, quint8 modo)
     if (modo > 1)
         return {};
     Archivio::apri(1, nome, Archivio::Modo::Lettura);
-    const QByteArray contenuto = Archivio::leggi(1, Archivio::lunghezza(1));
+    QByteArray contenuto = Archivio::leggi(1, Archivio::lunghezza(1));
     Archivio::chiudi();
     return contenuto;
 }

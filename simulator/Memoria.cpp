@@ -99,7 +99,7 @@ QString Memoria::trova(const QByteArray &percorso)
     const QString base = volume(primo);
     if (base.isEmpty())
         return {};
-    const QString diretto = scendi(base, nomi);
+    QString diretto = scendi(base, nomi);
     if (!diretto.isEmpty() || primo != "disk" || nomi.isEmpty() || !eVolume(nomi.constFirst()))
         return diretto;
     const QString altra = volume(nomi.takeFirst());

@@ -49,7 +49,7 @@ QByteArray Telecamera::prossimaRiga(const StatoRobot &stato, const Stanza &stanz
         fotogramma_ = guarda(stato, stanza, colonne, righe);
         ++prossimo_;
     }
-    const QByteArray byte = codifica(fotogramma_, riga_);
+    QByteArray byte = codifica(fotogramma_, riga_);
     riga_ = (riga_ + 1) % righe;
     return byte;
 }
