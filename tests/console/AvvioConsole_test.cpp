@@ -127,6 +127,8 @@ TEST(AvvioConsole, AMissingPortFileAsksForThePortOverTheSplash)
             return;
         EXPECT_TRUE(c.finestra.splash.Visible());
         EXPECT_FALSE(c.finestra.isVisible());
+        // The attempt has not switched it on yet: it runs from the first moment.
+        EXPECT_TRUE(c.finestra.tmrChiusuraAutomatica.Enabled());
         c.finestra.impostaPorta.pulOK.click();
     });
     c.mostra();
