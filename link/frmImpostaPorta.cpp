@@ -1,6 +1,7 @@
 #include "frmImpostaPorta.h"
 
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -45,8 +46,9 @@ void frmImpostaPorta::Disegno()
 
 void frmImpostaPorta::pulOK_MouseDown()
 {
-    // The press took the focus from an empty box, and the message was shown then.
-    m_dettoAlClick = Tag() == u"Errore"_s;
+    // The press took the focus from an empty box, and the message was shown then. Where the button
+    // was let go over the message no click follows, and the next OK is a try of its own.
+    m_dettoAlClick = Tag() == u"Errore"_s && (QGuiApplication::mouseButtons() & Qt::LeftButton);
 }
 
 void frmImpostaPorta::pulOK_Click()

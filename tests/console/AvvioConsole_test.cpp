@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QScreen>
+#include <QTimer>
 #include <gmock/gmock.h>
 
 TEST(AvvioConsole, ConnectsWhereTheFileSaysOne)
@@ -63,6 +64,77 @@ TEST(AvvioConsole, ShowsTheSplashUntilTheConsoleIsLoaded)
     EXPECT_TRUE(visto);
     EXPECT_FALSE(c.finestra.splash.Visible());
     EXPECT_FALSE(c.finestra.splash.Caricata());
+}
+
+TEST(AvvioConsole, NonCollegareDuringTheAttemptShowsTheConsoleWithoutAWord)
+{
+    RispondiMessaggi messaggi;
+    ConsoleInProva c;
+    c.cartella.scrivi(u"prog.dat"_s, "1;");
+    c.robot.guasti().silenzio = true;
+    bool premuto = false;
+    QTimer utente;
+    QObject::connect(&utente, &QTimer::timeout, &utente, [&] {
+        if (premuto || c.finestra.splash.lblColl.Caption() != u"Attendere il collegamento..."_s)
+            return;
+        premuto = true;
+        EXPECT_FALSE(c.finestra.isVisible());
+        EXPECT_TRUE(c.finestra.splash.tmrAnimazione.Enabled());
+        QTest::mouseClick(&c.finestra.splash.pulNonCollegare, Qt::LeftButton);
+    });
+    utente.start(1);
+    c.mostra();
+    EXPECT_TRUE(premuto);
+    EXPECT_TRUE(messaggi.visti().isEmpty());
+    EXPECT_EQ(c.pannello(1), u"Non connesso"_s);
+    EXPECT_EQ(c.pannello(3), QString());
+    EXPECT_FALSE(c.finestra.COM.PortOpen());
+    EXPECT_FALSE(c.finestra.tmrChiusuraAutomatica.Enabled());
+    EXPECT_FALSE(c.finestra.splash.Caricata());
+    // The next attempt, from the toolbar, is not cancelled by it.
+    c.robot.guasti().silenzio = false;
+    c.clicca(c.finestra.BarraPulsanti.Buttons(1));
+    EXPECT_EQ(c.pannello(1), u"Connesso"_s);
+}
+
+TEST(AvvioConsole, AnAttemptThatFailsSaysSoAndThenTheConsoleComesUp)
+{
+    RispondiMessaggi messaggi;
+    ConsoleInProva c;
+    c.cartella.scrivi(u"prog.dat"_s, "1;");
+    c.robot.guasti().silenzio = true;
+    c.finestra.tmrChiusuraAutomatica.setInterval(20);
+    bool soloSplash = false;
+    messaggi.mentreAperto = [&](const QMessageBox &) {
+        soloSplash = c.finestra.splash.Visible() && !c.finestra.isVisible();
+    };
+    c.mostra();
+    EXPECT_EQ(messaggi.testi(), QStringList{u"Collegamento non riuscito!"_s});
+    EXPECT_TRUE(soloSplash);
+    EXPECT_EQ(c.pannello(1), u"Non connesso"_s);
+    EXPECT_FALSE(c.finestra.COM.PortOpen());
+    EXPECT_FALSE(c.finestra.splash.Visible());
+}
+
+TEST(AvvioConsole, AMissingPortFileAsksForThePortOverTheSplash)
+{
+    ConsoleInProva c;
+    c.cartella.scrivi(u"prog.dat"_s, "1;");
+    ASSERT_TRUE(QFile::remove(c.cartella.percorso(u"Porta COM"_s)));
+    int volte = 0;
+    const ConModale dialogo(u"frmImpostaPorta"_s, [&] {
+        if (++volte > 1)
+            return;
+        EXPECT_TRUE(c.finestra.splash.Visible());
+        EXPECT_FALSE(c.finestra.isVisible());
+        // The attempt has not switched it on yet: it runs from the first moment.
+        EXPECT_TRUE(c.finestra.tmrChiusuraAutomatica.Enabled());
+        c.finestra.impostaPorta.pulOK.click();
+    });
+    c.mostra();
+    EXPECT_EQ(volte, 1);
+    EXPECT_EQ(c.cartella.leggi(u"Porta COM"_s), "1\r\n");
+    EXPECT_EQ(c.pannello(1), u"Connesso"_s);
 }
 
 TEST(AvvioConsole, WorksInTheProgramsFolder)

@@ -122,6 +122,21 @@ TEST_F(ImpostaPorta, EnterWithAnEmptyFieldSaysSoEachTime)
     EXPECT_TRUE(finestra.Visible());
 }
 
+TEST_F(ImpostaPorta, EnterAfterAPressWhoseReleaseWentToTheMessageSaysSoAgain)
+{
+    finestra.txtPorta.setText({});
+    // The message comes up at the press; the button is let go over it, so no click follows.
+    messaggi.mentreAperto = [&](const QMessageBox &) {
+        QTest::mouseRelease(&finestra, Qt::LeftButton);
+    };
+    QTest::mousePress(&finestra.pulOK, Qt::LeftButton);
+    ASSERT_TRUE(aspetta([&] { return !finestra.pulOK.isDown(); }));
+    ASSERT_EQ(messaggi.visti().size(), 1);
+    QTest::keyClick(&finestra.txtPorta, Qt::Key_Return);
+    EXPECT_EQ(messaggi.visti().size(), 2);
+    EXPECT_TRUE(finestra.Visible());
+}
+
 TEST_F(ImpostaPorta, LeavingTheEmptyFieldMarksTheWindow)
 {
     finestra.txtPorta.setText({});
