@@ -40,6 +40,12 @@ void ElencoCrescente::reset()
     Elenco::reset();
 }
 
+QModelIndex ElencoCrescente::moveCursor(CursorAction azione, Qt::KeyboardModifiers tasti)
+{
+    assesta();
+    return Elenco::moveCursor(azione, tasti);
+}
+
 void ElencoCrescente::timerEvent(QTimerEvent *evento)
 {
     if (evento->timerId() != m_pausa.timerId()) {

@@ -21,6 +21,8 @@ protected:
     void rowsInserted(const QModelIndex &sopra, int prima, int ultima) override;
     void rowsAboutToBeRemoved(const QModelIndex &sopra, int prima, int ultima) override;
     void reset() override;
+    // Where a key leads is told by where the rows are.
+    QModelIndex moveCursor(CursorAction azione, Qt::KeyboardModifiers tasti) override;
     void timerEvent(QTimerEvent *evento) override;
 
 private:

@@ -4,6 +4,7 @@
 #include "ComandiTessaro.h"
 #include "Foto.h"
 #include "PercorsoRobot.h"
+#include "Tasti.h"
 
 namespace {
 
@@ -31,6 +32,8 @@ frmEsploraFile::frmEsploraFile(ControlloSeriale &com, BarraDiStato &barraStato)
     pulHome.Click.collega(this, &frmEsploraFile::pulHome_Click);
     lstCartelle.DblClick.collega(this, &frmEsploraFile::lstCartelle_DblClick);
     lstFile.DblClick.collega(this, &frmEsploraFile::lstFile_DblClick);
+    lstCartelle.KeyDown.collega(this, &frmEsploraFile::lstCartelle_KeyDown);
+    lstFile.KeyDown.collega(this, &frmEsploraFile::lstFile_KeyDown);
 }
 
 void frmEsploraFile::Disegno()
@@ -99,6 +102,22 @@ void frmEsploraFile::lstFile_DblClick()
     ImmagineAttesa(true);
 }
 
+void frmEsploraFile::lstCartelle_KeyDown(int &KeyCode, int)
+{
+    if (KeyCode == Tasti::Invio) {
+        KeyCode = 0;
+        lstCartelle_DblClick();
+    }
+}
+
+void frmEsploraFile::lstFile_KeyDown(int &KeyCode, int)
+{
+    if (KeyCode == Tasti::Invio) {
+        KeyCode = 0;
+        lstFile_DblClick();
+    }
+}
+
 AscoltatoreFile::Attesa frmEsploraFile::attesa() const
 {
     if (Tag() == u"Elenco")
@@ -138,7 +157,7 @@ void frmEsploraFile::intitolaFoto(const QString &nome)
 {
     lblNomeFoto.setCaption(nome);
     // A long name is cut at the photo's edge.
-    lblNomeFoto.setToolTip(nome.toHtmlEscaped());
+    lblNomeFoto.setToolTip(suggerimento(nome));
 }
 
 void frmEsploraFile::riabilita()

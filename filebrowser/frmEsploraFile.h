@@ -7,7 +7,7 @@
 #include "Disegni.h"
 #include "ElencoCrescente.h"
 #include "Finestra.h"
-#include "Grafica.h"
+#include "Nomi.h"
 
 using namespace Qt::StringLiterals;
 
@@ -29,7 +29,7 @@ public:
     ElencoCrescente lstFile{u"lstFile"_s, this};
     Immagine imgAttesa{u"imgAttesa"_s, this, &lstImgAttesa};
     Pulsante pulHome{u"pulHome"_s, this, {}};
-    Etichetta lblNomeFoto{u"lblNomeFoto"_s, this};
+    EtichettaDiNome lblNomeFoto{u"lblNomeFoto"_s, this};
     Immagine imgFoto{u"imgFoto"_s, this};
 
     // AscoltatoreFile.
@@ -46,6 +46,8 @@ public:
 
 protected:
     void Disegno() override;
+    // A telegram that came while the window was closed has left nothing in it.
+    void Load() override { Disegno(); }
     void Activate() override;
     void Resize() override;
 
@@ -56,6 +58,9 @@ private:
     void pulHome_Click();
     void lstCartelle_DblClick();
     void lstFile_DblClick();
+    // The key that does what a double click does.
+    void lstCartelle_KeyDown(int &KeyCode, int Shift);
+    void lstFile_KeyDown(int &KeyCode, int Shift);
 
     ControlloSeriale &COM;
     BarraDiStato &BarraStato;

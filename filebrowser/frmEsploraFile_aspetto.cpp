@@ -1,38 +1,7 @@
 // How the window looks: what the layout rule leaves alone stands here, in layout units.
 #include "frmEsploraFile.h"
 
-#include <QStyledItemDelegate>
-
 namespace {
-
-// Rows with a drawing before the name.
-class RigheConDisegno : public QStyledItemDelegate
-{
-public:
-    RigheConDisegno(const QIcon &disegno, QObject *lista)
-        : QStyledItemDelegate(lista), m_disegno(disegno)
-    {
-    }
-    QSize sizeHint(const QStyleOptionViewItem &opzione, const QModelIndex &riga) const override
-    {
-        return QStyledItemDelegate::sizeHint(opzione, riga).expandedTo(QSize(0, altezzaRiga));
-    }
-
-protected:
-    void initStyleOption(QStyleOptionViewItem *opzione, const QModelIndex &riga) const override
-    {
-        QStyledItemDelegate::initStyleOption(opzione, riga);
-        opzione->features |= QStyleOptionViewItem::HasDecoration;
-        opzione->icon = m_disegno;
-        opzione->decorationSize = QSize(latoDisegno, latoDisegno);
-    }
-
-private:
-    static constexpr int altezzaRiga = 22;
-    static constexpr int latoDisegno = 16;
-
-    QIcon m_disegno;
-};
 
 constexpr int larghezza = 760;
 constexpr int altezza = 440;
@@ -64,10 +33,12 @@ void frmEsploraFile::disponi()
     lstCartelle.Size(2550, 5800);
     lstFile.Move(lstCartelle.Left() + lstCartelle.Width() + 105, cimaElenchi);
     lstFile.Size(8000, 5800);
-    lstCartelle.setItemDelegate(new RigheConDisegno(Disegni::icona(u"cartella"), &lstCartelle));
-    lstFile.setItemDelegate(new RigheConDisegno(Disegni::icona(u"documento"), &lstFile));
+    lstCartelle.setItemDelegate(new RigheDiNomi(Disegni::icona(u"cartella"), &lstCartelle));
+    lstFile.setItemDelegate(new RigheDiNomi(Disegni::icona(u"documento"), &lstFile));
     titolo(Label1, lstCartelle.Left(), lstCartelle.Width());
     titolo(Label2, lstFile.Left(), 600);
+    for (ElencoCrescente *lista : {&lstCartelle, &lstFile})
+        lista->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lstCartelle.setAccessibleName(Label1.Caption());
     lstFile.setAccessibleName(Label2.Caption());
 

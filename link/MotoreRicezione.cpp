@@ -6,14 +6,12 @@
 #include "DescriviBatteria.h"
 #include "Gest_File.h"
 #include "Gest_Variabili.h"
+#include "NomeSicuro.h"
 #include "Pompa.h"
 #include "Se_Casi.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QTimer>
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -252,7 +250,7 @@ void MotoreRicezione::salvaFile(quint8 k, qsizetype n)
 
 bool MotoreRicezione::Byte::await_ready()
 {
-    if (motore.m_accumulatore.lunghezza() < posto)
+    if (motore.m_accumulatore.lunghezza() < posto && motore.m_fermi == 0)
         motore.LeggiIngresso();
     return motore.m_accumulatore.lunghezza() >= posto;
 }
@@ -307,26 +305,4 @@ MotoreRicezione::Fermo::~Fermo()
     --m_motore.m_fermi;
     m_motore.aggiornaAvviso();
     m_motore.riprendiPresto();
-}
-
-bool nomeSicuro(const QString &nome)
-{
-    static constexpr QStringView vietati = u"/\\:*?\"<>|";
-    if (nome.isEmpty() || nome.endsWith(u' ') || nome.endsWith(u'.'))
-        return false;
-    for (const QChar c : nome) {
-        if (c < u' ' || c == QChar(0x7F) || vietati.contains(c))
-            return false;
-    }
-    // Devices on Windows, also with an ending; elsewhere a COM entry is the link to the port.
-    static const QRegularExpression dispositivo(
-        u"^((con|prn|aux|nul|conin\\$|conout\\$|(com|lpt)[0-9¹²³])( *\\..*)?|com[0-9]+)$"_s,
-        QRegularExpression::CaseInsensitiveOption);
-    if (dispositivo.match(nome).hasMatch())
-        return false;
-    const QString propri[] = {u"Porta COM"_s, u"prog.dat"_s, u"Immagini.dat"_s,
-                              nomeDelFile(QCoreApplication::applicationFilePath())};
-    return std::ranges::none_of(propri, [&](const QString &proprio) {
-        return nome.compare(proprio, Qt::CaseInsensitive) == 0;
-    });
 }

@@ -42,8 +42,8 @@ public:
     // Appends all that the port gives to the accumulator; passes over errors.
     void LeggiIngresso();
 
-    // While one lives, a suspended tick is not taken up: somebody beneath counts what the port
-    // holds, and the bytes are his to see first.
+    // While one lives, a tick that lacks a byte neither looks for it nor is taken up: somebody
+    // beneath counts what the port holds, and the bytes are his to see first.
     class Fermo
     {
     public:
@@ -95,8 +95,3 @@ private:
     int m_fermi = 0;
     bool m_ripresaChiesta = false;
 };
-
-// Whether a fetched file may have that name: it lies in the folder and nowhere else (no separator,
-// no "..", no control character, no name that a system reserves), and it is none of the program's
-// own files, whatever the case of its letters.
-bool nomeSicuro(const QString &nome);

@@ -6,8 +6,11 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <filesystem>
 #include <map>
 #include <memory>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,6 +21,8 @@ struct FileAperto
     qsizetype letti = 0;
     // Writing.
     std::unique_ptr<QSaveFile> uscita;
+    // Where the written file goes at the end, if it is written under another name until then.
+    QString definitivo;
 };
 
 std::map<int, FileAperto> aperti;
@@ -61,11 +66,38 @@ FileAperto perScrittura(const QString &nome)
 {
     if (!QFileInfo(nome).dir().exists())
         throw Errore(Errore::PercorsoNonTrovato);
+    // What is not whole yet lies beside the old file, under a name that is longer by so many bytes.
+    constexpr qsizetype aggiunta = 7;
+    constexpr qsizetype nomeMassimo = 255;
+    const QFileInfo info(nome);
+    const bool lungo = QFile::encodeName(info.fileName()).size() > nomeMassimo - aggiunta;
+    if (lungo && info.exists() && (info.isDir() || !info.isWritable()))
+        throw Errore(Errore::AccessoNegato);
     FileAperto aperto;
-    aperto.uscita = std::make_unique<QSaveFile>(nome);
+    aperto.definitivo = lungo ? nome : QString();
+    aperto.uscita =
+        std::make_unique<QSaveFile>(lungo ? info.dir().filePath(u"salvataggio.tmp"_s) : nome);
     if (!aperto.uscita->open(QIODevice::WriteOnly))
         throw Errore(Errore::AccessoNegato);
     return aperto;
+}
+
+// 0, or the number of the error that kept the old file where it was.
+int conferma(FileAperto &file)
+{
+    // A commit does not notice that the last bytes could not be written.
+    if (!file.uscita->flush() || !file.uscita->commit())
+        return file.uscita->error() == QFileDevice::PermissionsError ? Errore::AccessoNegato
+                                                                     : Errore::DiscoPieno;
+    if (file.definitivo.isEmpty())
+        return 0;
+    std::error_code errore;
+    std::filesystem::rename(QFileInfo(file.uscita->fileName()).filesystemFilePath(),
+                            QFileInfo(file.definitivo).filesystemFilePath(), errore);
+    if (!errore)
+        return 0;
+    QFile::remove(file.uscita->fileName());
+    return Errore::AccessoNegato;
 }
 
 bool bianco(char c)
@@ -128,11 +160,8 @@ void chiudi()
 {
     int errore = 0;
     for (auto &[numero, file] : aperti) {
-        // A commit does not notice that the last bytes could not be written.
-        if (!file.uscita || (file.uscita->flush() && file.uscita->commit()))
-            continue;
-        errore = file.uscita->error() == QFileDevice::PermissionsError ? Errore::AccessoNegato
-                                                                       : Errore::DiscoPieno;
+        if (const int proprio = file.uscita ? conferma(file) : 0; proprio != 0)
+            errore = proprio;
     }
     aperti.clear();
     if (errore != 0)

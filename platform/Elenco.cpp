@@ -130,7 +130,10 @@ double Elenco::AltezzaRiga() const
 QItemSelectionModel::SelectionFlags Elenco::selectionCommand(const QModelIndex &indice,
                                                              const QEvent *evento) const
 {
-    // Qt would take the selection off the current row at a click with the control key held.
+    // Qt would take the selection off the current row at a click beside the rows, and at one with
+    // the control key held.
+    if (!indice.isValid())
+        return QItemSelectionModel::NoUpdate;
     const auto comando = QListWidget::selectionCommand(indice, evento);
     return comando.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::ClearAndSelect
                                                            : comando;

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QTest>
 
 namespace {
 
@@ -301,6 +302,76 @@ TEST_F(Elenchi, ANameOfCharactersOutsideAsciiIsShownAsText)
 {
     apri({}, {"perch\xe9 \x80.txt"});
     EXPECT_EQ(esplora.lstFile.List(0), u"perché €.txt"_s);
+}
+
+TEST_F(Elenchi, EnterOnAFolderOpensItAsADoubleClickDoes)
+{
+    apri({"foto", "mmc"}, {});
+    for (const Qt::Key tasto : {Qt::Key_Return, Qt::Key_Enter}) {
+        QTest::keyClick(&esplora.lstCartelle, Qt::Key_Down);
+        QTest::keyClick(&esplora.lstCartelle, Qt::Key_Down);
+        EXPECT_EQ(esplora.lstCartelle.Text(), u"mmc"_s);
+        QTest::keyClick(&esplora.lstCartelle, tasto);
+        EXPECT_EQ(scritti(), b({40, 16, 6}) + "../mmc");
+        EXPECT_EQ(esplora.lstCartelle.Tag(), u"mmc/"_s);
+        EXPECT_EQ(esplora.Tag(), u"Elenco"_s);
+        robotFinito(stato(1, 0) + voce(1, 2, "disk") + voce(1, 2, "mmc") + stato(1, 255));
+        scritti();
+    }
+}
+
+TEST_F(Elenchi, EnterWithNothingChosenDoesNothing)
+{
+    apri({"foto"}, {"a"});
+    for (Elenco *lista : {&esplora.lstCartelle, &esplora.lstFile}) {
+        lista->setFocus();
+        QTest::keyClick(lista, Qt::Key_Return);
+    }
+    EXPECT_EQ(scritti(), QByteArray());
+    EXPECT_EQ(esplora.Tag(), QString());
+    EXPECT_TRUE(esplora.isEnabled());
+}
+
+TEST_F(Elenchi, TheTabKeyGoesFromTheFoldersToTheFilesToTheTopLevelsButton)
+{
+    apri({"foto"}, {"a"});
+    EXPECT_EQ(esplora.focusWidget(), &esplora.lstCartelle);
+    QTest::keyClick(esplora.focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(esplora.focusWidget(), &esplora.lstFile);
+    QTest::keyClick(esplora.focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(esplora.focusWidget(), &esplora.pulHome);
+    scritti();
+    QTest::keyClick(esplora.focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(scritti(), b({40, 16, 0}));
+}
+
+TEST_F(Elenchi, AClickBesideTheRowsLeavesTheChosenOneInSight)
+{
+    apri({}, {"a", "b"});
+    esplora.lstFile.setListIndex(1);
+    QTest::mouseClick(esplora.lstFile.viewport(), Qt::LeftButton, {},
+                      esplora.lstFile.viewport()->rect().center());
+    EXPECT_EQ(esplora.lstFile.ListIndex(), 1);
+    EXPECT_TRUE(esplora.lstFile.item(1)->isSelected());
+}
+
+TEST_F(Elenchi, TheKeysWalkAListThatIsStillGrowing)
+{
+    esplora.Mostra();
+    QByteArray elenco = stato(1, 0);
+    for (int i = 0; i < 200; ++i)
+        elenco += voce(1, 1, QByteArray::number(i));
+    robotFinito(elenco);
+    QTest::keyClick(&esplora.lstFile, Qt::Key_Home);
+    QTest::keyClick(&esplora.lstFile, Qt::Key_End);
+    EXPECT_EQ(esplora.lstFile.Text(), u"199"_s);
+    robotFinito(voce(1, 1, "dopo"));
+    QTest::keyClick(&esplora.lstFile, Qt::Key_Down);
+    EXPECT_EQ(esplora.lstFile.Text(), u"dopo"_s);
+    robotFinito(voce(1, 1, "in fondo"));
+    QTest::keyClick(&esplora.lstFile, Qt::Key_PageUp);
+    EXPECT_GT(esplora.lstFile.ListIndex(), 100);
+    EXPECT_EQ(esplora.lstFile.ListCount(), 202);
 }
 
 TEST_F(Elenchi, ADoubleClickBesideTheRowsDoesNothing)

@@ -4,6 +4,9 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QTest>
+#include <QTextDocument>
+#include <QTimer>
 #include <csignal>
 #include <sys/resource.h>
 #include <unistd.h>
@@ -103,6 +106,19 @@ TEST_F(Prelievo, ADoubleClickAsksForTheFileAndDisablesTheWindow)
     EXPECT_FALSE(esplora.lblNomeFoto.Visible());
 }
 
+TEST_F(Prelievo, EnterOnAFileFetchesItAsADoubleClickDoes)
+{
+    apri({"foto"}, {"a.txt", "b.jpg"});
+    QTest::keyClick(&esplora.lstFile, Qt::Key_Home);
+    QTest::keyClick(&esplora.lstFile, Qt::Key_Down);
+    QTest::keyClick(&esplora.lstFile, Qt::Key_Return);
+    EXPECT_EQ(scritti(), b({40, 1, 5}) + "b.jpg");
+    EXPECT_EQ(esplora.Tag(), u"File"_s);
+    EXPECT_FALSE(esplora.isEnabled());
+    EXPECT_TRUE(esplora.imgFoto.Visible());
+    EXPECT_EQ(pannello(), u"Attendere..."_s);
+}
+
 TEST_F(Prelievo, ThePrefixStandsBeforeTheName)
 {
     apri({"foto"}, {});
@@ -136,6 +152,25 @@ TEST_F(Prelievo, AFileOfTheLargestBlockIsWrittenWhole)
     preleva("dati.bin", tuttiIByte(65535));
     EXPECT_EQ(cartella.leggi(u"dati.bin"_s), tuttiIByte(65535));
     finito(scaricato);
+}
+
+TEST_F(Prelievo, ANameOf255BytesIsFetchedAndReplaced)
+{
+    const QByteArray nome(255, 'n');
+    for (const QByteArray &contenuto : {QByteArray("prima"), QByteArray("dopo")}) {
+        esplora.Scarica();
+        preleva(nome, contenuto);
+        finito(scaricato);
+        EXPECT_EQ(cartella.leggi(QString::fromLatin1(nome)), contenuto);
+        EXPECT_EQ(cartella.elenco(), QStringList{QString::fromLatin1(nome)});
+    }
+}
+
+TEST_F(Prelievo, ANameOfBytesAbove127IsWrittenAsItsText)
+{
+    preleva("perch\xe9 \x80\x85.txt", "ciao");
+    finito(scaricato);
+    EXPECT_EQ(cartella.elenco(), QStringList{u"perché €….txt"_s});
 }
 
 TEST_F(Prelievo, AnEmptyFileIsWrittenEmpty)
@@ -206,6 +241,16 @@ TEST_F(Prelievo, AFetchedPhotoIsShownUnderItsName)
     EXPECT_NE(prima.pixelColor(160, 120), colore);
     EXPECT_GT(colore.red(), 240);
     EXPECT_LT(colore.blue(), 16);
+}
+
+TEST_F(Prelievo, ThePhotosTipIsItsNameToTheLetter)
+{
+    preleva("gatti & cani, &lt;forse&gt;  due.jpg", jpeg({32, 32}));
+    EXPECT_EQ(esplora.lblNomeFoto.Caption(), u"gatti & cani, &lt;forse&gt;  due.jpg"_s);
+    QTextDocument letto;
+    ASSERT_TRUE(Qt::mightBeRichText(esplora.lblNomeFoto.toolTip()));
+    letto.setHtml(esplora.lblNomeFoto.toolTip());
+    EXPECT_EQ(letto.toPlainText(), u"gatti & cani, &lt;forse&gt;  due.jpg"_s);
 }
 
 TEST_F(Prelievo, APhotoLargerThanItsPlaceIsShownWhole)
@@ -283,8 +328,8 @@ TEST_F(Prelievo, TheEndOfAFolderIsNoAnswerToAFetch)
 TEST_F(Prelievo, ANameThatLeavesTheFolderIsRefusedBeforeAnythingIsWritten)
 {
     const QString fuori = cartella.percorso(u"../fuori.txt"_s);
-    for (const QByteArray nome :
-         {"../fuori.txt", "..", "/tmp/fuori.txt", "..\\fuori.txt", "a/b", ""}) {
+    for (const QByteArray nome : {"../fuori.txt", "..", "/tmp/fuori.txt", "..\\fuori.txt", "a/b",
+                                  "", "a\nb", "a\x1b", "a\x7f", "a\x81", "C:a", "a "}) {
         esplora.Scarica();
         preleva(nome, "nemico");
         finito(erroreLettura);
@@ -399,6 +444,43 @@ TEST_F(Prelievo, ClosedInTheMiddleOfAFetchTheBlockIsTakenAndWrittenNowhere)
     esplora.Mostra();
     EXPECT_TRUE(esplora.isEnabled());
     EXPECT_EQ(esplora.Tag(), u"Elenco"_s);
+}
+
+TEST_F(Prelievo, ABlockThatIsStillComingLeavesNothingInAWindowOpenedAnew)
+{
+    apri({"foto"}, {"a.txt"});
+    chiedi(u"a.txt"_s, 4);
+    robot(blocco(4, tuttiIByte(3000)).first(1500));
+    esplora.close();
+    // Each look at the block steps the animation, whether or not anybody sees it.
+    gira(100);
+    esplora.Mostra();
+    EXPECT_EQ(esplora.imgAttesa.Picture(), 1);
+    EXPECT_EQ(esplora.Tag(), u"Elenco"_s);
+}
+
+TEST_F(Prelievo, ClosedWhileAPhotoIsRefusedTheWindowOpensAnewAsItWas)
+{
+    apri({"foto"}, {"b.jpg"});
+    chiedi(u"b.jpg"_s, 4);
+    // The one moment between the telling and the window's being enabled.
+    QTimer utente;
+    int chiusure = 0;
+    QObject::connect(&utente, &QTimer::timeout, &utente, [&] {
+        if (pannello() == scaricato && !esplora.isEnabled() && ++chiusure == 1)
+            esplora.close();
+    });
+    utente.start(0);
+    robotFinito(blocco(4, "nessuna foto") + seguito);
+    utente.stop();
+    EXPECT_EQ(chiusure, 1);
+    EXPECT_FALSE(esplora.Visible());
+    EXPECT_EQ(pannello(), u"Errore nella rappresentazione dell'immagine!"_s);
+    EXPECT_EQ(scritti(), b({41, 4}));
+    esplora.Mostra();
+    EXPECT_EQ(esplora.lblNomeFoto.Caption(), QString());
+    EXPECT_EQ(esplora.lblNomeFoto.toolTip(), QString());
+    EXPECT_FALSE(esplora.imgFoto.Visible());
 }
 
 TEST_F(Prelievo, ARobotThatStopsInTheMiddleIsWaitedForAndItsRestIsTaken)

@@ -52,6 +52,27 @@ TEST_F(Pezzi, AFetchCutAtEveryByteGivesTheSame)
     }
 }
 
+TEST_F(Pezzi, AListingAndAFetchByteByByteGiveTheSame)
+{
+    esplora.Mostra();
+    const auto unoPerUno = [&](const QByteArray &byte) {
+        for (const char uno : byte) {
+            robot(QByteArray(1, uno));
+            gira(3);
+        }
+        robotFinito({});
+    };
+    unoPerUno(stato(5, 0) + voce(5, 2, "foto") + voce(5, 1, "a.bin") + stato(5, 255));
+    EXPECT_EQ(voci(esplora.lstCartelle), QStringList{u"foto"_s});
+    EXPECT_EQ(voci(esplora.lstFile), QStringList{u"a.bin"_s});
+    EXPECT_EQ(scritti(), b({40, 16, 0, 46, 5, 46, 5, 46, 5, 41, 5}));
+    doppioClick(esplora.lstFile, 0);
+    unoPerUno(stato(5, 0) + blocco(5, b({45, 47, 42, 0, 31})) + b({31, 20}));
+    EXPECT_EQ(cartella.leggi(u"a.bin"_s), b({45, 47, 42, 0, 31}));
+    EXPECT_EQ(scritti(), b({40, 1, 5}) + "a.bin" + b({44, 5, 255, 255, 41, 5}));
+    EXPECT_TRUE(esplora.isEnabled());
+}
+
 TEST_F(Pezzi, AFailureCutAtEveryByteIsToldOnce)
 {
     for (qsizetype taglio = 1; taglio < 3; ++taglio) {

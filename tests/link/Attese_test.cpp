@@ -180,10 +180,11 @@ TEST(MostraInvio, TakesADropOfTheCountForAReaction)
 {
     BancoSessioneFinta p;
     p.collega();
-    p.porta.arriva(b({31, 20}));
+    p.porta.arriva(b({31, 21}));
     p.sessione.MostraInvio(u"uno"_s);
+    ASSERT_EQ(p.pannello(3), u"uno"_s);
     // The engine has taken the two bytes since.
-    ASSERT_TRUE(aspetta([&] { return p.banco.lblTemperatura.Caption() == u"20°"_s; }));
+    ASSERT_TRUE(aspetta([&] { return p.banco.lblTemperatura.Caption() == u"21°"_s; }));
     p.sessione.MostraInvio(u"due"_s);
     EXPECT_EQ(p.pannello(3), u"due"_s);
     EXPECT_EQ(p.banco.BarraCaricamento.Value(), 1);

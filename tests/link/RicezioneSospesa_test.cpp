@@ -144,6 +144,19 @@ TEST(ScattoSospeso, IsNotTakenUpWhileSomebodyBeneathCountsTheBytes)
     EXPECT_EQ(p.banco.lblTemperatura.Caption(), u"21°"_s);
 }
 
+TEST(ScattoSospeso, ATickThatBeginsMeanwhileLeavesTheBytesToWhoCountsThem)
+{
+    BancoRicezione p;
+    p.porta.arriva(b({31, 21}));
+    {
+        const MotoreRicezione::Fermo fermo(p.motore);
+        p.tmrElabInput().Timer();
+        EXPECT_EQ(p.banco.COM.InBufferCount(), 2);
+        EXPECT_EQ(p.banco.lblTemperatura.Caption(), QString());
+    }
+    EXPECT_TRUE(aspetta([&] { return p.banco.lblTemperatura.Caption() == u"21°"_s; }));
+}
+
 TEST(ScattoSospeso, WaitsForTheOutermostOfSeveralWaits)
 {
     BancoRicezione p;

@@ -327,6 +327,43 @@ TEST_F(ArchivioTest, a_failed_close_closes_all_the_same_and_keeps_the_old_file)
     EXPECT_EQ(erroreDi([] { Archivio::apri(1, u"prova.dat"_s, Modo::Scrittura); }), 0);
 }
 
+TEST_F(ArchivioTest, a_name_of_any_length_that_a_folder_takes_is_written_and_replaced)
+{
+    for (const int lunghezza : {247, 248, 249, 255}) {
+        const QString nome(lunghezza, u'x');
+        for (const QByteArray &byte : {QByteArray("old"), QByteArray("new")}) {
+            Archivio::apri(1, cartella.filePath(nome), Modo::Scrittura);
+            Archivio::stampa(1, byte);
+            EXPECT_EQ(erroreDi([] { Archivio::chiudi(); }), 0) << lunghezza;
+            EXPECT_EQ(contenuto(nome), byte) << lunghezza;
+        }
+        EXPECT_EQ(QDir().entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{nome});
+        QFile::remove(nome);
+    }
+}
+
+TEST_F(ArchivioTest, a_name_that_no_folder_takes_is_an_error_and_leaves_nothing)
+{
+    for (const QString &nome : {QString(256, u'x'), QString(128, u'è')}) {
+        const int errore = erroreDi([&] {
+            Archivio::apri(1, cartella.filePath(nome), Modo::Scrittura);
+            Archivio::stampa(1, "new");
+            Archivio::chiudi();
+        });
+        EXPECT_EQ(errore, Errore::AccessoNegato);
+        EXPECT_TRUE(QDir(cartella.path()).isEmpty());
+    }
+}
+
+TEST_F(ArchivioTest, a_folder_of_a_long_name_is_error_75_and_stays)
+{
+    const QString nome(255, u'x');
+    ASSERT_TRUE(QDir().mkdir(nome));
+    EXPECT_EQ(erroreDi([&] { Archivio::apri(1, cartella.filePath(nome), Modo::Scrittura); }),
+              Errore::AccessoNegato);
+    EXPECT_TRUE(QFileInfo(nome).isDir());
+}
+
 TEST_F(ArchivioTest, a_bare_name_means_one_file_whatever_the_case_of_its_letters)
 {
     contenuto(u"prog.dat"_s, "1");

@@ -141,14 +141,17 @@ TEST_F(ElencoTest, a_click_with_the_control_key_held_keeps_the_row_selected)
     EXPECT_TRUE(lista.item(2)->isSelected());
 }
 
-TEST_F(ElencoTest, a_click_beside_the_rows_raises_nothing)
+TEST_F(ElencoTest, a_click_beside_the_rows_raises_nothing_and_leaves_the_row_selected)
 {
     finestra.mostraAttiva();
     lista.setListIndex(2);
     click.clear();
-    QTest::mouseClick(lista.viewport(), Qt::LeftButton, {}, {100, 190});
-    EXPECT_TRUE(click.isEmpty());
-    EXPECT_EQ(lista.ListIndex(), 2);
+    for (const Qt::KeyboardModifier tasto : {Qt::NoModifier, Qt::ControlModifier}) {
+        QTest::mouseClick(lista.viewport(), Qt::LeftButton, tasto, {100, 190});
+        EXPECT_TRUE(click.isEmpty());
+        EXPECT_EQ(lista.ListIndex(), 2);
+        EXPECT_TRUE(lista.item(2)->isSelected());
+    }
 }
 
 TEST_F(ElencoTest, the_arrow_keys_move_the_selection_and_raise_click)

@@ -1,5 +1,5 @@
 // Which names a fetched file may have.
-#include "MotoreRicezione.h"
+#include "NomeSicuro.h"
 #include "Scritte.h"
 
 #include <QCoreApplication>
@@ -20,8 +20,15 @@ void rifiutati(const QStringList &nomi)
 
 TEST(NomeSicuro, OrdinaryNamesPass)
 {
-    for (const QString &nome : {u"foto001.jpg"_s, u"LEGGIMI"_s, u"perché.txt"_s, u".nascosto"_s,
-                                u"a b.c"_s, u"FOTOGR~1.JPG"_s, u"a..b"_s, u"lista.sqm"_s})
+    for (const QString &nome :
+         {u"foto001.jpg"_s, u"LEGGIMI"_s, u"perché.txt"_s, u".nascosto"_s, u"a b.c"_s,
+          u"FOTOGR~1.JPG"_s, u"a..b"_s, u"€"_s, QString(255, u'x')})
+        EXPECT_TRUE(nomeSicuro(nome)) << nome.toStdString();
+}
+
+TEST(NomeSicuro, ListsAndProjectsAreTheUsersFilesAndPass)
+{
+    for (const QString &nome : {u"lista.sqm"_s, u"ronda.vgp"_s, u".sqm"_s})
         EXPECT_TRUE(nomeSicuro(nome)) << nome.toStdString();
 }
 
@@ -35,6 +42,16 @@ TEST(NomeSicuro, NamesThatASystemDoesNotKeepAsTheyAreAreRefused)
 {
     rifiutati({u"a."_s, u"a "_s, u"..."_s, u" "_s, u"a\nb"_s, u"a\tb"_s, QString(QChar(0)),
                u"a\x7f"_s, u"a*"_s, u"a?"_s, u"a|b"_s, u"a<b"_s, u"a>b"_s, u"a\"b"_s});
+}
+
+TEST(NomeSicuro, ControlCharactersOfEitherHalfAreRefused)
+{
+    for (char16_t c = 0; c < 0x20; ++c)
+        rifiutati({u"a"_s + QChar(c) + u"b"_s, QString(QChar(c))});
+    for (char16_t c = 0x7F; c < 0xA0; ++c)
+        rifiutati({u"a"_s + QChar(c) + u"b"_s});
+    for (char16_t c = 0xA0; c < 0x100; ++c)
+        EXPECT_TRUE(nomeSicuro(u"a"_s + QChar(c) + u"b"_s)) << int{c};
 }
 
 TEST(NomeSicuro, NamesOfDevicesAreRefused)
@@ -57,4 +74,11 @@ TEST(NomeSicuro, TheProgramsOwnFilesAreRefusedInAnyCase)
     rifiutati({u"Porta COM"_s, u"PORTA com"_s, u"prog.dat"_s, u"Prog.dat"_s, u"Immagini.dat"_s,
                u"immagini.DAT"_s, programma, programma.toUpper()});
     EXPECT_TRUE(nomeSicuro(u"x"_s + programma));
+}
+
+TEST(NomeSicuro, WhatWouldBePartOfTheProgramAtItsNextStartIsRefused)
+{
+    rifiutati({u"Qt6Core.dll"_s, u"version.DLL"_s, u"qt.conf"_s, u"QT.CONF"_s});
+    EXPECT_TRUE(nomeSicuro(u"dll"_s));
+    EXPECT_TRUE(nomeSicuro(u"a.dll.txt"_s));
 }

@@ -1,0 +1,46 @@
+#include "NomeSicuro.h"
+
+#include "Cartella.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+static bool restaNellaCartella(const QString &nome)
+{
+    static constexpr QStringView vietati = u"/\\:*?\"<>|";
+    // Windows drops blanks and dots at the end: another name would be written.
+    if (nome.isEmpty() || nome.endsWith(u' ') || nome.endsWith(u'.'))
+        return false;
+    return std::ranges::none_of(
+        nome, [](QChar c) { return c.category() == QChar::Other_Control || vietati.contains(c); });
+}
+
+static bool riservato(const QString &nome)
+{
+    // Devices on Windows, also with an ending; elsewhere a COM entry is the link to the port.
+    static const QRegularExpression dispositivo(
+        u"^((con|prn|aux|nul|conin\\$|conout\\$|(com|lpt)[0-9¹²³])( *\\..*)?|com[0-9]+)$"_s,
+        QRegularExpression::CaseInsensitiveOption);
+    return dispositivo.match(nome).hasMatch();
+}
+
+static bool delProgramma(const QString &nome)
+{
+    // What would be part of the program at its next start: a library beside it is taken before the
+    // system's, and Qt reads where its own lie.
+    if (nome.endsWith(u".dll"_s, Qt::CaseInsensitive))
+        return true;
+    const QString propri[] = {u"Porta COM"_s, u"prog.dat"_s, u"Immagini.dat"_s, u"qt.conf"_s,
+                              nomeDelFile(QCoreApplication::applicationFilePath())};
+    return std::ranges::any_of(propri, [&](const QString &proprio) {
+        return nome.compare(proprio, Qt::CaseInsensitive) == 0;
+    });
+}
+
+bool nomeSicuro(const QString &nome)
+{
+    return restaNellaCartella(nome) && !riservato(nome) && !delProgramma(nome);
+}

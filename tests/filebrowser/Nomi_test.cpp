@@ -1,0 +1,92 @@
+// How names are shown that are too long, or that are no plain text.
+#include "Nomi.h"
+
+#include "Banco.h"
+
+#include <QApplication>
+#include <QHelpEvent>
+#include <QScrollBar>
+#include <QTextDocument>
+#include <QToolTip>
+
+namespace {
+
+struct Nomi : Banco
+{
+    // What the tip says when the mouse rests on the row; nothing where there is none.
+    QString suggerito(Elenco &lista, int riga)
+    {
+        QToolTip::hideText();
+        EXPECT_TRUE(aspetta([] { return !QToolTip::isVisible(); }));
+        const QPoint dove = lista.visualItemRect(lista.item(riga)).center();
+        QHelpEvent evento(QEvent::ToolTip, dove, lista.viewport()->mapToGlobal(dove));
+        QApplication::sendEvent(lista.viewport(), &evento);
+        QTextDocument letto;
+        letto.setHtml(QToolTip::text());
+        return letto.toPlainText();
+    }
+};
+
+} // namespace
+
+TEST(Suggerimento, IsTheTextToTheLetter)
+{
+    for (const QString &testo : {u"a.jpg"_s, u"a & b"_s, u"<b>a</b>"_s, u"&lt;"_s, u"a   b"_s}) {
+        ASSERT_TRUE(Qt::mightBeRichText(suggerimento(testo)));
+        QTextDocument letto;
+        letto.setHtml(suggerimento(testo));
+        EXPECT_EQ(letto.toPlainText(), testo);
+    }
+    EXPECT_EQ(suggerimento({}), QString());
+}
+
+TEST_F(Nomi, ALongNameIsCutAtTheListsEdgeAndReadInItsTip)
+{
+    const QString lungo = u"un <b>nome</b> & molto  lungo "_s.repeated(6);
+    const QByteArray byte = lungo.toLatin1();
+    apri({"foto", byte}, {"a.txt", byte});
+    for (Elenco *lista : {&esplora.lstCartelle, &esplora.lstFile}) {
+        EXPECT_EQ(lista->horizontalScrollBar()->maximum(), 0);
+        EXPECT_FALSE(lista->horizontalScrollBar()->isVisible());
+        EXPECT_EQ(lista->visualItemRect(lista->item(1)).width(), lista->viewport()->width());
+        EXPECT_EQ(suggerito(*lista, 0), QString());
+        EXPECT_EQ(suggerito(*lista, 1), lungo);
+    }
+}
+
+TEST_F(Nomi, ARowIsOneLineWhateverTheNameHolds)
+{
+    apri({}, {"a.txt", "riga\nnuova\ttab\x81.txt"});
+    const auto *righe = esplora.lstFile.itemDelegate();
+    const QLocale lingua;
+    EXPECT_EQ(
+        dynamic_cast<const RigheDiNomi &>(*righe).displayText(esplora.lstFile.List(1), lingua),
+        u"riga\uFFFDnuova\uFFFDtab\uFFFD.txt"_s);
+    EXPECT_EQ(esplora.lstFile.visualItemRect(esplora.lstFile.item(1)).height(),
+              esplora.lstFile.visualItemRect(esplora.lstFile.item(0)).height());
+    // What is sent is the name itself.
+    doppioClick(esplora.lstFile, 1);
+    EXPECT_EQ(scritti(), b({40, 1, 19}) + "riga\nnuova\ttab\x81.txt");
+}
+
+TEST(EtichettaDiNome, ShowsWhatFitsAndThreeDots)
+{
+    QWidget dentro;
+    EtichettaDiNome nome(u"lblNomeFoto"_s, &dentro);
+    Etichetta tagliata(u"lblTagliata"_s, &dentro);
+    for (Etichetta *etichetta : {static_cast<Etichetta *>(&nome), &tagliata}) {
+        etichetta->Size(1500, 300);
+        etichetta->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    }
+    const QString lungo = u"un nome molto molto molto lungo.jpg"_s;
+    nome.setCaption(lungo);
+    EXPECT_EQ(nome.Caption(), lungo);
+    const QString corto = nome.fontMetrics().elidedText(lungo, Qt::ElideRight, nome.width());
+    ASSERT_TRUE(corto.endsWith(u'…'));
+    tagliata.setCaption(corto);
+    EXPECT_EQ(nome.grab().toImage(), tagliata.grab().toImage());
+    nome.setCaption(u"a.jpg"_s);
+    EXPECT_NE(nome.grab().toImage(), tagliata.grab().toImage());
+    tagliata.setCaption(u"a.jpg"_s);
+    EXPECT_EQ(nome.grab().toImage(), tagliata.grab().toImage());
+}
