@@ -1,4 +1,5 @@
 // Builds the windows, ties them together, starts.
+#include "Aspetto.h"
 #include "Cartella.h"
 #include "Comandi.h"
 #include "Italiano.h"
@@ -58,7 +59,7 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     installaItaliano(app);
     QApplication::setApplicationName(u"Lumbra"_s);
-    QApplication::setStyle(u"Fusion"_s);
+    impostaAspetto();
     QApplication::setWindowIcon(Disegni::icona(u"lumbra"));
     const QString cartella = trovaCartellaProgramma();
 

@@ -1,4 +1,5 @@
 // How the console looks: where its controls stand, in logical pixels, and their tool tips.
+#include "Attrezzi.h"
 #include "LedTesta.h"
 #include "frmPrincipale.h"
 
@@ -67,6 +68,7 @@ void frmPrincipale::disponi()
     }
 
     metti(BarraPulsanti, 0, 0, larghezza, 50);
+    BarraPulsanti.setAccessibleName(u"Barra dei pulsanti"_s);
     BarraPulsanti.aggiungi(1, u"Connetti ad Tessaro"_s);
     BarraPulsanti.aggiungi(2, u"Accedi alle opzioni"_s);
     BarraPulsanti.aggiungiSeparatore();
@@ -84,6 +86,7 @@ void frmPrincipale::disponi()
     metti(BarraCaricamento, 10, 463, larghezza - 20, 8);
     suggerimento(BarraCaricamento, u"Attesa della risposta del robot"_s);
     metti(BarraStato, 0, 476, larghezza, 30);
+    BarraStato.setAccessibleName(u"Barra di stato"_s);
     BarraStato.setPanels(1, u"Non connesso"_s);
     lstImgCamera.hide();
     lblProva.hide();
@@ -119,6 +122,7 @@ void frmPrincipale::disponiMovimenti()
         cbModGiro.AddItem(voce);
     suggerimento(cbVelocità, u"Velocità"_s);
     suggerimento(cbModGiro, u"Tipo di rotazione su sé stesso"_s);
+    cbModGiro.lineEdit()->setAccessibleName(cbModGiro.accessibleName());
     cbStepV.setAccessibleName(u"STEP verticali"_s);
     cbStepO.setAccessibleName(u"STEP orizzontali"_s);
     for (Combo *combo : {&cbVelocità, &cbModGiro, &cbStepV, &cbStepO})
@@ -169,7 +173,7 @@ void frmPrincipale::disponiTesta()
     for (int i = imgfr.prima(); i <= imgfr.ultima(); ++i) {
         imgfr(i).resize(32, 32);
         imgfr(i).setDisegno(Disegni::icona(u"freccia_testa_"_s + QString::number(i)));
-        imgfr(i).setToolTip(ImgTesta.toolTip());
+        suggerimento(imgfr(i), ImgTesta.toolTip());
         const LedTesta::Punto posto =
             LedTesta::frecce(0, u"destro"_s, ImgTesta.Width())[static_cast<size_t>(i)];
         imgfr(i).Move(posto.Left, posto.Top);
@@ -223,6 +227,7 @@ void frmPrincipale::disponiAttrezzi()
     titolo(Label11);
     metti(Label11, 296, 60, 100, 20);
     metti(imgFoto, 332, 92, 28, 28);
+    imgFoto.setAccessibleName(u"Macchina fotografica"_s);
     Shape12.Size(1380, 420);
     lblScattaFoto.Size(1380, 420);
     Shape12.Move(4500, 2040);
@@ -242,6 +247,9 @@ void frmPrincipale::disponiAttrezzi()
         suggerimento(*tool, u"Click sinistro: accendi tool. Click destro: spegni tool."_s);
         tool->setCursor(Qt::PointingHandCursor);
     }
+    // They have the tool tip, and so the name, in common.
+    imgToolSx.setAccessibleDescription(Attrezzi::nomeTool(Attrezzi::Lato::Sinistro));
+    imgToolDx.setAccessibleDescription(Attrezzi::nomeTool(Attrezzi::Lato::Destro));
 
     titolo(Label9);
     metti(Label9, 296, 278, 100, 20);
@@ -274,7 +282,7 @@ void frmPrincipale::disponiVoce()
         u"QGroupBox { background: palette(base); border: 1px solid palette(mid);"
         " border-radius: 6px; margin: 0; }"
         " QGroupBox::title { subcontrol-origin: padding; subcontrol-position: top left;"
-        " padding: 4px 7px; font-weight: bold; }"_s);
+        " left: 7px; top: 4px; font-weight: bold; }"_s);
     QFont grassetto = corMex.font();
     grassetto.setBold(true);
     corMex.setFont(grassetto);
@@ -334,6 +342,12 @@ void frmPrincipale::disponiTelemetria()
     metti(Label10, 548, 332, 78, 20);
     metti(imgTermometro, 626, 330, 24, 24);
     metti(lblTemperatura, 652, 332, 36, 20);
-    lblTemperatura.setAccessibleName(u"Temperatura"_s);
+    imgTermometro.setAccessibleName(u"Termometro"_s);
+    // A screen reader reads the name out, not the text.
+    const auto leggiAlta = [this] {
+        lblTemperatura.setAccessibleName((u"Temperatura "_s + lblTemperatura.Caption()).trimmed());
+    };
+    leggiAlta();
+    lblTemperatura.Change.collega(leggiAlta);
     titolo(lblTemperatura, Qt::AlignLeft);
 }

@@ -223,7 +223,11 @@ void frmEditor::opzInsComandi_Click()
     const bool attivato = opzInsComandi.Value() == 1;
     opzInsComandi.setCaption(attivato ? u"Inserisci comandi nella lista (Attivato)"_s
                                       : u"Inserisci comandi nella lista (Disattivato)"_s);
-    opzInsComandi.setForeColor(attivato ? QColor(0, 0xC0, 0) : QColor(0x80, 0, 0));
+    // The bright green would be lost on the light window.
+    if (attivato)
+        opzInsComandi.setForeColor(QColor(0, 0xC0, 0), QColor(0x1B, 0x2A, 0x20));
+    else
+        opzInsComandi.setForeColor(QColor(0x80, 0, 0));
 }
 
 void frmEditor::lblFile_Change()

@@ -56,6 +56,7 @@ void BarraDiPulsanti::aggiungiSeparatore()
 {
     PulsanteBarra *spazio = nuovo();
     spazio->setFocusPolicy(Qt::NoFocus);
+    spazio->setAccessibleName(u"Separatore"_s);
     spazio->setAttribute(Qt::WA_TransparentForMouseEvents);
     spazio->setFixedSize(12, 32);
     auto *linea = new QFrame(spazio);

@@ -1,6 +1,7 @@
 #include "Pulsanti.h"
 
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -43,11 +44,15 @@ void CasellaSpunta::setValue(int valore)
     setChecked(valore == 1);
 }
 
-void CasellaSpunta::setForeColor(const QColor &colore)
+void CasellaSpunta::setForeColor(const QColor &colore, const QColor &fondo)
 {
     QPalette tavolozza = palette();
     tavolozza.setColor(QPalette::WindowText, colore);
+    if (fondo.isValid())
+        tavolozza.setColor(QPalette::Window, fondo);
     setPalette(tavolozza);
+    setBackgroundRole(QPalette::Window);
+    setAutoFillBackground(fondo.isValid());
 }
 
 CasellaOpzione::CasellaOpzione(const QString &nome, QWidget *dentro, const QString &testo)
@@ -90,15 +95,33 @@ void CasellaOpzione::paintEvent(QPaintEvent *evento)
     QRadioButton::paintEvent(evento);
 }
 
+namespace {
+
+// The mouse alone spins: where a key belongs to the window, it must not spin as well, nor take the
+// focus to a neighbour.
+class FrecciaSuGiu : public QToolButton
+{
+public:
+    using QToolButton::QToolButton;
+
+protected:
+    void keyPressEvent(QKeyEvent *evento) override { evento->ignore(); }
+    void keyReleaseEvent(QKeyEvent *evento) override { evento->ignore(); }
+};
+
+} // namespace
+
 SuGiu::SuGiu(const QString &nome, QWidget *dentro, int minimo, int massimo, int valore)
     : Controllo(nome, dentro), m_minimo(minimo), m_massimo(massimo), m_valore(valore)
 {
     auto *colonna = new QVBoxLayout(this);
     colonna->setContentsMargins(0, 0, 0, 0);
     colonna->setSpacing(0);
-    const auto freccia = [&](Qt::ArrowType verso, int di, const QString &cosa) {
-        auto *pulsante = new QToolButton(this);
+    const auto freccia = [&](Qt::ArrowType verso, int di, const QString &cosa,
+                             const QString &azione) {
+        auto *pulsante = new FrecciaSuGiu(this);
         pulsante->setObjectName(nome + cosa);
+        pulsante->setAccessibleName(azione);
         pulsante->setArrowType(verso);
         pulsante->setAutoRepeat(true);
         pulsante->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -107,8 +130,8 @@ SuGiu::SuGiu(const QString &nome, QWidget *dentro, int minimo, int massimo, int 
         connect(pulsante, &QToolButton::clicked, this, [this, di] { passo(di); });
         colonna->addWidget(pulsante);
     };
-    freccia(Qt::UpArrow, +1, u".Su"_s);
-    freccia(Qt::DownArrow, -1, u".Giu"_s);
+    freccia(Qt::UpArrow, +1, u".Su"_s, u"Aumenta"_s);
+    freccia(Qt::DownArrow, -1, u".Giu"_s, u"Diminuisci"_s);
     setFixedWidth(20);
 }
 

@@ -41,7 +41,8 @@ public:
     void setValue(int valore);
     QString Caption() const { return text(); }
     void setCaption(const QString &testo) { setText(testo); }
-    void setForeColor(const QColor &colore);
+    // On the window's own ground where none is given.
+    void setForeColor(const QColor &colore, const QColor &fondo = {});
 
     // By the user or by code.
     Evento<> Click;

@@ -1,4 +1,5 @@
 // tessaro-sim: the simulated robot, with a window or without.
+#include "Aspetto.h"
 #include "FinestraSimulatore.h"
 #include "Opzioni.h"
 #include "Segnali.h"
@@ -62,8 +63,8 @@ int main(int argc, char **argv)
     if (opzioni.senzaFinestra) {
         app = std::make_unique<QCoreApplication>(argc, argv);
     } else {
-        QApplication::setStyle(u"Fusion"_s);
         app = std::make_unique<QApplication>(argc, argv);
+        impostaAspetto();
         // Qt's own dialogs speak Italian where its translations are installed.
         if (italiano.load(u"qtbase_it"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
             QCoreApplication::installTranslator(&italiano);

@@ -1,4 +1,6 @@
 // The main of every test program: offscreen unless told otherwise, and the same locale everywhere.
+#include "Aspetto.h"
+
 #include <QApplication>
 #include <QLocale>
 #include <gmock/gmock.h>
@@ -12,6 +14,6 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("lumbra-prova"));
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    impostaAspetto();
     return RUN_ALL_TESTS();
 }

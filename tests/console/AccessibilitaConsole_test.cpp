@@ -1,7 +1,11 @@
-// What a screen reader finds.
+// What a screen reader finds, the keyboard reaches, and the eye can read.
 #include "ConsoleInProva.h"
+#include "Contrasto.h"
+#include "TutteLeAzioni.h"
 
 #include <QAccessible>
+#include <QLineEdit>
+#include <QToolButton>
 #include <gmock/gmock.h>
 
 namespace {
@@ -18,17 +22,21 @@ QList<QWidget *> controlli(frmPrincipale &f)
     QList<QWidget *> tutti;
     for (int i = 1; i <= 10; ++i)
         tutti << &f.imgFreccia(i);
-    for (const int i : {1, 2, 4, 5, 6, 7})
+    for (int i = 1; i <= 7; ++i)
         tutti << &f.BarraPulsanti.Buttons(i);
-    tutti << &f.BarraCaricamento << &f.opzBase << &f.opzBraccia << &f.opzTesta << &f.cbVelocità
-          << &f.cbModGiro << &f.cbStepV << &f.cbStepO << &f.lblStop << &f.ImgTesta << &f.lblAccLED
-          << &f.lblSpLED << &f.imgLEDPos << &f.lblOn << &f.lblOff << &f.mnuComparsaOn
-          << &f.mnuComparsaOff << &f.lblScattaFoto << &f.imgToolSx << &f.imgToolDx
-          << &f.imgPinzaAperta << &f.imgPinzaChiusa << &f.txtValFrase << &f.SuGiu1 << &f.pulFrase
-          << &f.txtValSuono << &f.SuGiu2 << &f.pulSuono << &f.corMex << &f.cbMex << &f.pulPlayMex
-          << &f.pulRegistraMex << &f.pulStopMex << &f.pulCancMex << &f.cbProgrammi << &f.imgPlayProg
-          << &f.imgStopProg << &f.imgSensori << &f.shpUltrasuoniDx << &f.shpUltrasuoniCe
-          << &f.shpUltrasuoniSx << &f.imgBattLogica << &f.imgBattMotori << &f.lblTemperatura;
+    for (int i = 0; i <= 3; ++i)
+        tutti << &f.imgfr(i);
+    tutti << &f.BarraPulsanti << &f.BarraStato << &f.BarraCaricamento << &f.Image1 << &f.Image2
+          << &f.imgFoto << &f.imgTermometro << f.cbModGiro.lineEdit() << &f.opzBase << &f.opzBraccia
+          << &f.opzTesta << &f.cbVelocità << &f.cbModGiro << &f.cbStepV << &f.cbStepO << &f.lblStop
+          << &f.ImgTesta << &f.lblAccLED << &f.lblSpLED << &f.imgLEDPos << &f.lblOn << &f.lblOff
+          << &f.mnuComparsaOn << &f.mnuComparsaOff << &f.lblScattaFoto << &f.imgToolSx
+          << &f.imgToolDx << &f.imgPinzaAperta << &f.imgPinzaChiusa << &f.txtValFrase << &f.SuGiu1
+          << &f.pulFrase << &f.txtValSuono << &f.SuGiu2 << &f.pulSuono << &f.corMex << &f.cbMex
+          << &f.pulPlayMex << &f.pulRegistraMex << &f.pulStopMex << &f.pulCancMex << &f.cbProgrammi
+          << &f.imgPlayProg << &f.imgStopProg << &f.imgSensori << &f.shpUltrasuoniDx
+          << &f.shpUltrasuoniCe << &f.shpUltrasuoniSx << &f.imgBattLogica << &f.imgBattMotori
+          << &f.lblTemperatura;
     return tutti;
 }
 
@@ -55,6 +63,87 @@ TEST(AccessibilitaConsole, AToolTipOrACaptionIsTheName)
     }
     EXPECT_EQ(nomeAccessibile(f.pulFrase), u"Pronuncia frase"_s);
     EXPECT_EQ(nomeAccessibile(f.opzTesta), u"Controlla la testa"_s);
+}
+
+TEST(AccessibilitaConsole, NothingThatCanBePressedOrTypedIntoIsNameless)
+{
+    ConsoleInProva c;
+    c.mostra();
+    for (QWidget *controllo : c.finestra.findChildren<QWidget *>()) {
+        const bool agibile = qobject_cast<QAbstractButton *>(controllo) ||
+                             qobject_cast<QLineEdit *>(controllo) ||
+                             qobject_cast<Immagine *>(controllo);
+        if (agibile && controllo->window() == &c.finestra) {
+            EXPECT_NE(nomeAccessibile(*controllo), QString())
+                << controllo->objectName().toStdString();
+        }
+    }
+}
+
+TEST(AccessibilitaConsole, ToolsOfOneToolTipAreToldApartByTheirDescription)
+{
+    ConsoleInProva c;
+    EXPECT_EQ(c.finestra.imgToolSx.accessibleDescription(), u"Tool sinistro"_s);
+    EXPECT_EQ(c.finestra.imgToolDx.accessibleDescription(), u"Tool destro"_s);
+}
+
+TEST(AccessibilitaConsole, TheTemperatureIsReadOut)
+{
+    ConsoleInProva c;
+    c.mostra();
+    Etichetta &temperatura = c.finestra.lblTemperatura;
+    EXPECT_EQ(nomeAccessibile(temperatura), u"Temperatura"_s);
+    temperatura.setCaption(u"24°"_s);
+    EXPECT_EQ(nomeAccessibile(temperatura), u"Temperatura 24°"_s);
+    temperatura.setCaption({});
+    EXPECT_EQ(nomeAccessibile(temperatura), u"Temperatura"_s);
+}
+
+TEST(AccessibilitaConsole, TabGoesRoundFromTopToBottom)
+{
+    ConsoleInProva c;
+    c.mostra();
+    QStringList giro;
+    for (int i = 0; i < 11; ++i) {
+        c.tasto(Qt::Key_Tab);
+        giro << QApplication::focusWidget()->objectName();
+    }
+    EXPECT_EQ(giro, (QStringList{u"txtValFrase"_s, u"pulFrase"_s, u"txtValSuono"_s, u"pulSuono"_s,
+                                 u"BarraPulsanti.Buttons(1)"_s, u"BarraPulsanti.Buttons(2)"_s,
+                                 u"BarraPulsanti.Buttons(4)"_s, u"BarraPulsanti.Buttons(5)"_s,
+                                 u"BarraPulsanti.Buttons(6)"_s, u"BarraPulsanti.Buttons(7)"_s,
+                                 u"ImgTesta"_s}));
+}
+
+TEST(AccessibilitaConsole, EveryTextStandsOutFromItsGround)
+{
+    ConsoleInProva c;
+    ASSERT_TRUE(c.mostraCollegata());
+    frmPrincipale &f = c.finestra;
+    f.lblTemperatura.setCaption(u"24°"_s);
+    c.scriviPannello(u"Tool destro acceso"_s);
+    for (CasellaOpzione *modo : {&f.opzBraccia, &f.opzTesta, &f.opzBase}) {
+        modo->setValue(true);
+        EXPECT_THAT(pocoLeggibili(f), testing::IsEmpty());
+    }
+    for (const bool accendi : {true, false}) {
+        apriComparsa(c, true, accendi);
+        EXPECT_THAT(pocoLeggibili(f), testing::IsEmpty());
+        c.clicca(f.ImgTesta, Qt::LeftButton, QPoint(8, 80));
+    }
+}
+
+TEST(AccessibilitaConsole, SoItIsInTheSplashAndInTheDialogs)
+{
+    ConsoleInProva c;
+    c.mostra();
+    for (Finestra *finestra : std::initializer_list<Finestra *>{
+             &c.finestra.splash, &c.finestra.opzioni, &c.finestra.impostaPorta}) {
+        finestra->Mostra();
+        EXPECT_THAT(pocoLeggibili(*finestra), testing::IsEmpty())
+            << finestra->objectName().toStdString();
+        finestra->Scarica();
+    }
 }
 
 TEST(AccessibilitaConsole, EveryControlIsFoundByItsName)

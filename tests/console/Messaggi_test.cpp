@@ -95,6 +95,22 @@ TEST(MessaggiConsole, AButtonHasItsBorderWhileTheMouseIsWellInside)
     }
 }
 
+TEST(MessaggiConsole, TheirFrameIsWhole)
+{
+    ConsoleInProva c;
+    c.mostra();
+    const QImage cornice = c.finestra.corMex.grab().toImage();
+    const QImage specchiata = cornice.mirrored(true, false);
+    // The title stands at its upper left corner, which must look like the right one.
+    int massima = 0;
+    for (int y = 0; y < 7; ++y) {
+        for (int x = 0; x < 7; ++x)
+            massima =
+                qMax(massima, qAbs(qGray(cornice.pixel(x, y)) - qGray(specchiata.pixel(x, y))));
+    }
+    EXPECT_LT(massima, 30);
+}
+
 TEST(MessaggiConsole, EveryInternalProgramIsStartedAndStopped)
 {
     ConsoleInProva c;

@@ -224,6 +224,20 @@ TEST(NumeriVoce, SpinningShowsEachNameAsItGoesBy)
     EXPECT_EQ(f.SuGiu2.Max(), 16);
 }
 
+TEST(NumeriVoce, AfterSpinningTheKeysDriveTheRobotAndNothingElse)
+{
+    ConsoleInProva c;
+    ASSERT_TRUE(c.mostraCollegata());
+    frmPrincipale &f = c.finestra;
+    c.clicca(*f.SuGiu1.findChild<QToolButton *>(u"SuGiu1.Su"_s));
+    const QWidget *fuoco = QApplication::focusWidget();
+    c.tasto(Qt::Key_Space);
+    EXPECT_EQ(f.txtValFrase.Text(), u"2"_s);
+    c.tasto(Qt::Key_Up);
+    EXPECT_EQ(c.byteMandati(), b({19, 65, 0, 19, 65, 1}));
+    EXPECT_EQ(QApplication::focusWidget(), fuoco);
+}
+
 TEST(NumeriVoce, SpinningGoesOnFromTheTypedNumber)
 {
     ConsoleInProva c;

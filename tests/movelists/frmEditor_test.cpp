@@ -1,5 +1,6 @@
 // The editor's window: inserting, moving, deleting, the picture buttons, the runner's entries.
 #include "Banco.h"
+#include "Contrasto.h"
 
 #include <QMenu>
 #include <gmock/gmock.h>
@@ -280,6 +281,16 @@ TEST_F(FrmEditorTest, TheBoxTellsWhetherTheConsoleInserts)
     editor.opzInsComandi.setValue(1);
     EXPECT_EQ(editor.opzInsComandi.Caption(), u"Inserisci comandi nella lista (Attivato)"_s);
     EXPECT_EQ(editor.opzInsComandi.palette().color(QPalette::WindowText), QColor(0, 0xC0, 0));
+}
+
+TEST_F(FrmEditorTest, EveryTextStandsOutFromItsGround)
+{
+    mostra();
+    riempi({u"Avanti piano"_s});
+    for (const int valore : {1, 0, 1}) {
+        editor.opzInsComandi.setValue(valore);
+        EXPECT_THAT(pocoLeggibili(editor), testing::IsEmpty());
+    }
 }
 
 TEST_F(FrmEditorTest, APictureButtonLightsUpUnderThePointerOnly)

@@ -181,6 +181,30 @@ TEST_F(PulsantiTest, a_spin_bar_raises_change_by_code_and_by_its_arrows)
     EXPECT_EQ(volte, 3) << "that was no change";
 }
 
+TEST_F(PulsantiTest, keys_leave_a_clicked_spin_bar_and_the_focus_alone)
+{
+    SuGiu barra(u"SuGiu"_s, &finestra, 1, 99, 1);
+    barra.resize(20, 40);
+    Pulsante altro(u"pulAltro"_s, &finestra, u"Altro"_s);
+    finestra.mostraAttiva();
+    auto *su = barra.findChild<QToolButton *>(u"SuGiu.Su"_s);
+    QTest::mouseClick(su, Qt::LeftButton);
+    ASSERT_TRUE(su->hasFocus());
+    for (const Qt::Key tasto :
+         {Qt::Key_Space, Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right, Qt::Key_Select}) {
+        QTest::keyClick(su, tasto);
+        EXPECT_TRUE(su->hasFocus()) << tasto;
+        EXPECT_EQ(barra.Value(), 2) << tasto;
+    }
+}
+
+TEST_F(PulsantiTest, a_screen_reader_tells_a_spin_bars_arrows_apart)
+{
+    const SuGiu barra(u"SuGiu"_s, &finestra, 1, 99, 1);
+    EXPECT_EQ(barra.findChild<QToolButton *>(u"SuGiu.Su"_s)->accessibleName(), u"Aumenta"_s);
+    EXPECT_EQ(barra.findChild<QToolButton *>(u"SuGiu.Giu"_s)->accessibleName(), u"Diminuisci"_s);
+}
+
 TEST_F(PulsantiTest, a_spin_bar_stops_at_its_limits)
 {
     SuGiu barra(u"SuGiu"_s, &finestra, -1, 24, 24);
