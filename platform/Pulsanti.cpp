@@ -1,5 +1,6 @@
 #include "Pulsanti.h"
 
+#include <QFocusEvent>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QToolButton>
@@ -90,6 +91,27 @@ void CasellaOpzione::paintEvent(QPaintEvent *evento)
     QRadioButton::paintEvent(evento);
 }
 
+namespace {
+
+// An arrow of the spin bar. A handler of its own bar may give the focus to another control while
+// it is held: it goes on all the same, as Qt's would not.
+class Freccia : public QToolButton
+{
+public:
+    using QToolButton::QToolButton;
+
+protected:
+    void focusOutEvent(QFocusEvent *evento) override
+    {
+        if (evento->reason() == Qt::OtherFocusReason)
+            QWidget::focusOutEvent(evento);
+        else
+            QToolButton::focusOutEvent(evento);
+    }
+};
+
+} // namespace
+
 SuGiu::SuGiu(const QString &nome, QWidget *dentro, int minimo, int massimo, int valore)
     : Controllo(nome, dentro), m_minimo(minimo), m_massimo(massimo), m_valore(valore)
 {
@@ -97,7 +119,7 @@ SuGiu::SuGiu(const QString &nome, QWidget *dentro, int minimo, int massimo, int 
     colonna->setContentsMargins(0, 0, 0, 0);
     colonna->setSpacing(0);
     const auto freccia = [&](Qt::ArrowType verso, int di, const QString &cosa) {
-        auto *pulsante = new QToolButton(this);
+        auto *pulsante = new Freccia(this);
         pulsante->setObjectName(nome + cosa);
         pulsante->setArrowType(verso);
         pulsante->setAutoRepeat(true);
