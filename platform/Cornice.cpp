@@ -1,12 +1,19 @@
 #include "Cornice.h"
 
-#include <QStyleOptionGroupBox>
-#include <QStylePainter>
+#include <QPainter>
 
-Cornice::Cornice(const QString &nome, QWidget *dentro, const QString &testo)
-    : Cliccabile(nome, dentro)
+namespace {
+
+constexpr int altezzaTitolo = 40;
+constexpr int raggio = 6;
+
+} // namespace
+
+Cornice::Cornice(const QString &nome, QWidget *dentro, const QString &testo, int rientro)
+    : Cliccabile(nome, dentro), m_rientro(rientro)
 {
     setTitle(testo);
+    setContentsMargins({});
 }
 
 QColor Cornice::ForeColor() const
@@ -21,24 +28,48 @@ void Cornice::setForeColor(const QColor &colore)
     update();
 }
 
+QFont Cornice::carattere() const
+{
+    QFont grassetto = font();
+    grassetto.setBold(true);
+    return grassetto;
+}
+
+QRect Cornice::titolo() const
+{
+    const QSize misura = QFontMetrics(carattere()).size(Qt::TextSingleLine, title());
+    const int altezza = qMax(altezzaTitolo, misura.height() + 8);
+    return {m_rientro, (altezza - misura.height()) / 2, misura.width(), misura.height()};
+}
+
 void Cornice::paintEvent(QPaintEvent *)
 {
-    QStylePainter pittore(this);
-    QStyleOptionGroupBox opzione;
-    initStyleOption(&opzione);
-    if (m_colore.isValid()) {
-        // Some styles go by the one, some by the other.
-        opzione.textColor = m_colore;
-        opzione.palette.setColor(QPalette::WindowText, m_colore);
-        // The stated colours are for a light window: in a dark theme a light plate carries them.
-        if (palette().color(QPalette::Window).lightness() < 128) {
-            const QRect scritta = style()->subControlRect(QStyle::CC_GroupBox, &opzione,
-                                                          QStyle::SC_GroupBoxLabel, this);
-            pittore.setRenderHint(QPainter::Antialiasing);
-            pittore.setPen(Qt::NoPen);
-            pittore.setBrush(QColor(0xEE, 0xF4, 0xF8));
-            pittore.drawRoundedRect(scritta.adjusted(-4, 0, 4, 0), 3, 3);
-        }
+    QPainter pittore(this);
+    pittore.setRenderHint(QPainter::Antialiasing);
+    const QColor fondo = palette().color(QPalette::Base);
+    pittore.setBrush(fondo);
+    pittore.setPen(palette().color(QPalette::Mid));
+    pittore.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), raggio, raggio);
+    // The stated colours are for a light window: in a dark theme a light plate carries them.
+    if (m_colore.isValid() && fondo.lightness() < 128) {
+        pittore.setPen(Qt::NoPen);
+        pittore.setBrush(QColor(0xEE, 0xF4, 0xF8));
+        pittore.drawRoundedRect(titolo().adjusted(-4, -2, 4, 2), 3, 3);
     }
-    pittore.drawComplexControl(QStyle::CC_GroupBox, opzione);
+    pittore.setPen(ForeColor());
+    pittore.setFont(carattere());
+    pittore.drawText(titolo(), Qt::AlignLeft | Qt::TextSingleLine, title());
+}
+
+// Qt keeps a place free for a caption of its own.
+void Cornice::resizeEvent(QResizeEvent *evento)
+{
+    Cliccabile::resizeEvent(evento);
+    setContentsMargins({});
+}
+
+void Cornice::changeEvent(QEvent *evento)
+{
+    Cliccabile::changeEvent(evento);
+    setContentsMargins({});
 }

@@ -1,4 +1,4 @@
-// The frame with a caption, around the controls that lie in it.
+// The frame with a caption, around the controls that lie in it: a card like the console's.
 #pragma once
 
 #include "Grafica.h"
@@ -13,7 +13,8 @@ class Cornice : public Cliccabile<QGroupBox>
     Q_PROPERTY(QColor ForeColor READ ForeColor WRITE setForeColor)
 
 public:
-    Cornice(const QString &nome, QWidget *dentro, const QString &testo = {});
+    // The caption begins that many logical pixels from the left edge.
+    Cornice(const QString &nome, QWidget *dentro, const QString &testo = {}, int rientro = 12);
 
     QString Caption() const { return title(); }
     void setCaption(const QString &testo) { setTitle(testo); }
@@ -21,9 +22,17 @@ public:
     QColor ForeColor() const;
     void setForeColor(const QColor &colore);
 
+    // Where the caption stands; what lies in the frame keeps clear of it by its own layout.
+    QRect titolo() const;
+
 protected:
     void paintEvent(QPaintEvent *) override;
+    void resizeEvent(QResizeEvent *evento) override;
+    void changeEvent(QEvent *evento) override;
 
 private:
+    QFont carattere() const;
+
     QColor m_colore;
+    int m_rientro;
 };

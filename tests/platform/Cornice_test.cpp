@@ -58,10 +58,10 @@ TEST_F(CorniceTest, its_colour_is_not_handed_on_to_what_lies_in_it)
     EXPECT_EQ(etichetta.palette(), prima);
 }
 
-TEST_F(CorniceTest, in_a_dark_window_a_light_plate_carries_the_stated_colour)
+TEST_F(CorniceTest, in_a_dark_theme_a_light_plate_carries_the_stated_colour)
 {
     QPalette scura;
-    scura.setColor(QPalette::Window, QColor(0x2A, 0x2C, 0x30));
+    scura.setColor(QPalette::Base, QColor(0x2A, 0x2C, 0x30));
     finestra.setPalette(scura);
     finestra.mostraAttiva();
     cornice.setForeColor(QColor(0x00, 0x00, 0xC0));
@@ -77,7 +77,7 @@ TEST_F(CorniceTest, a_click_on_it_raises_click_and_one_on_what_lies_in_it_does_n
     const auto clicca = [&](QPoint punto, Qt::MouseButton pulsante = Qt::LeftButton) {
         QTest::mouseClick(finestra.windowHandle(), pulsante, {}, cornice.mapTo(&finestra, punto));
     };
-    clicca({40, 8});
+    clicca({40, 20});
     EXPECT_EQ(volte, 1) << "the caption";
     clicca({40, 60});
     EXPECT_EQ(volte, 2);
