@@ -101,20 +101,20 @@ void frmImpCondizioni::disponiPannelli()
         sensori->addWidget(&opzSens(k));
     }
 
+    static const QStringList livelli = {u"Scarichissime"_s, u"Scariche"_s, u"Medie"_s, u"Cariche"_s,
+                                        u"Carichissime"_s};
+    AggiungiVoci(cbBattLogica, livelli);
+    AggiungiVoci(cbBattMotori, livelli);
     const std::initializer_list<std::pair<int, Combo *>> scelte = {
         {CampoTemperatura, &cbTemperatura},
         {CampoLogica, &cbBattLogica},
         {CampoMotori, &cbBattMotori}};
     for (const auto &[pannello, combo] : scelte) {
-        combo->setFixedWidth(larghezzaCombo);
+        combo->setFixedWidth(qMax(larghezzaCombo, cbBattLogica.sizeHint().width()));
         combo->setAccessibleName(frame(pannello).Caption());
         combo->setCursor(Qt::ArrowCursor);
         rigaDelTitolo(frame(pannello))->addWidget(combo, 0, Qt::AlignRight);
     }
-    static const QStringList livelli = {u"Scarichissime"_s, u"Scariche"_s, u"Medie"_s, u"Cariche"_s,
-                                        u"Carichissime"_s};
-    AggiungiVoci(cbBattLogica, livelli);
-    AggiungiVoci(cbBattMotori, livelli);
 }
 
 void frmImpCondizioni::disponiOrario()
@@ -129,7 +129,7 @@ void frmImpCondizioni::disponiOrario()
         etichette[i]->setBuddy(&ora.testo);
         ora.testo.setAccessibleName(nome);
         ora.testo.setAlignment(Qt::AlignRight);
-        ora.testo.setFixedWidth(44);
+        ora.testo.setFixedWidth(qMax(44, ora.testo.fontMetrics().horizontalAdvance(u"0000"_s)));
         ora.barra.setAccessibleName(nome);
         ora.barra.setFixedHeight(ora.testo.sizeHint().height());
         ora.barra.setCursor(Qt::ArrowCursor);
@@ -144,7 +144,7 @@ void frmImpCondizioni::disponiOrario()
 // Beside the panels of the same number; the last one is for both batteries.
 void frmImpCondizioni::disponiEsempi()
 {
-    picOptions.setFixedWidth(larghezzaEsempi);
+    picOptions.setMinimumWidth(larghezzaEsempi);
     auto *colonna = new QVBoxLayout(&picOptions);
     colonna->setContentsMargins({});
     colonna->setSpacing(distanza);
@@ -162,7 +162,9 @@ void frmImpCondizioni::disponiEsempi()
         esempio.setFixedHeight(altezza);
         colonna->addWidget(&esempio);
     };
-    const auto altezza = [this](int pannello) { return frame(pannello).sizeHint().height(); };
+    const auto altezza = [this](int pannello) {
+        return frame(pannello).minimumSizeHint().expandedTo(frame(pannello).minimumSize()).height();
+    };
     aggiungi(fraSample2, altezza(CampoUltrasuoni), {disegno(fraSample2, u"sensori", {75, 45})});
     aggiungi(fraSample3, altezza(CampoTemperatura), {disegno(fraSample3, u"termometro", {24, 24})});
     aggiungi(fraSample4, altezza(CampoLogica) + distanza + altezza(CampoMotori),
