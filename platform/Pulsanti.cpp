@@ -103,10 +103,10 @@ public:
 protected:
     void focusOutEvent(QFocusEvent *evento) override
     {
-        if (evento->reason() == Qt::OtherFocusReason)
-            QWidget::focusOutEvent(evento);
-        else
-            QToolButton::focusOutEvent(evento);
+        const bool tenuta = isDown() && evento->reason() == Qt::OtherFocusReason;
+        QToolButton::focusOutEvent(evento);
+        if (tenuta)
+            setDown(true);
     }
 };
 
