@@ -6,7 +6,7 @@
 
 namespace {
 
-const QByteArray fineRiga = "\r\n";
+const QByteArray aCapoScritto = "\r\n";
 
 bool bianco(char c)
 {
@@ -87,14 +87,55 @@ private:
         if (corrente() != '"')
             return fino([ultimo](char c) { return aCapo(c) || (!ultimo && c == ','); });
         const qsizetype inizio = m_posto + 1;
-        for (qsizetype chiuso = m_file.indexOf('"', inizio); chiuso >= 0;
-             chiuso = m_file.indexOf('"', chiuso + 1)) {
-            m_posto = chiuso + 1;
-            saltaBianchi();
-            if (ultimo ? finito() || aCapo(corrente()) : !finito() && corrente() == ',')
-                return m_file.sliced(inizio, chiuso - inizio);
+        qsizetype chiuso = -1;
+        if (ultimo) {
+            chiuso = chiusura(m_file.size(), [this] { return finito() || aCapo(corrente()); });
+        } else {
+            // A name may hold a quote with a comma behind it: the flag of its line tells more.
+            chiuso = chiusura(fineRiga(), [this] { return prossimi(",#"); });
+            if (chiuso < 0)
+                chiuso = chiusura(m_file.size(), [this] { return prossimi(","); });
         }
-        throw Errore(Errore::FineDelFile);
+        if (chiuso < 0)
+            throw Errore(Errore::FineDelFile);
+        m_posto = chiuso + 1;
+        saltaBianchi();
+        return m_file.sliced(inizio, chiuso - inizio);
+    }
+    qsizetype fineRiga() const
+    {
+        qsizetype fine = m_posto;
+        while (fine < m_file.size() && !aCapo(m_file.at(fine)))
+            ++fine;
+        return fine;
+    }
+    // The place of the first quote, behind the one at hand and before an end, after which this
+    // holds; -1 where there is none.
+    template <class Dopo>
+    qsizetype chiusura(qsizetype fine, Dopo dopo)
+    {
+        const qsizetype prima = m_posto;
+        qsizetype trovata = -1;
+        for (qsizetype q = m_file.indexOf('"', prima + 1); q >= 0 && q < fine && trovata < 0;
+             q = m_file.indexOf('"', q + 1)) {
+            m_posto = q + 1;
+            saltaBianchi();
+            if (dopo())
+                trovata = q;
+        }
+        m_posto = prima;
+        return trovata;
+    }
+    // Whether these characters come next, blanks between them left out.
+    bool prossimi(QByteArrayView quali)
+    {
+        for (const char c : quali) {
+            saltaBianchi();
+            if (finito() || corrente() != c)
+                return false;
+            ++m_posto;
+        }
+        return true;
     }
 
     const QByteArray &m_file;
@@ -112,10 +153,10 @@ namespace Progetto {
 
 QByteArray scritto(const QList<Lista> &liste)
 {
-    QByteArray byte = ' ' + QByteArray::number(liste.size()) + ' ' + fineRiga;
+    QByteArray byte = ' ' + QByteArray::number(liste.size()) + ' ' + aCapoScritto;
     for (const Lista &lista : liste)
         byte += traVirgolette(lista.nome) + ',' + (lista.selezionata ? "#TRUE#" : "#FALSE#") + ',' +
-                traVirgolette(lista.condizione) + fineRiga;
+                traVirgolette(lista.condizione) + aCapoScritto;
     return byte;
 }
 

@@ -50,6 +50,8 @@ void BancoVigilio::avvia(const QList<std::pair<QString, QString>> &liste)
     seriale.apri();
     processor.pulAvvia.click();
     EXPECT_TRUE(processor.avviato());
+    // The editor comes to the front some time after it was shown.
+    EXPECT_TRUE(aspetta([this] { return editor.isActiveWindow(); }));
 }
 
 void BancoVigilio::imposta(int riga, const QString &condizione, bool selezionata)

@@ -157,11 +157,17 @@ TEST(Progetto, ARecordThatIsNoneEndsTheReading)
 
 TEST(Progetto, QuotesInANameAreReadBack)
 {
-    const Liste liste = {{u"\"evviva\".sqm"_s, true, u"no"_s},
-                         {u"\".sqm"_s, false, u"no"_s},
-                         {u"a \"b\" c.sqm"_s, true, u"\"x\",no"_s},
-                         {u"ultima.sqm"_s, true, u"no,no,25,no,no"_s}};
+    const Liste liste = {
+        {u"\"evviva\".sqm"_s, true, u"no"_s},      {u"\".sqm"_s, false, u"no"_s},
+        {u"\"b\", c.sqm"_s, false, u"no"_s},       {u"d\",e\".sqm"_s, true, u"no"_s},
+        {u"a \"b\" c.sqm"_s, true, u"\"x\",no"_s}, {u"ultima.sqm"_s, true, u"no,no,25,no,no"_s}};
     EXPECT_EQ(leggi(Progetto::scritto(liste)).liste, liste);
+}
+
+TEST(Progetto, AFlagWithoutItsSignsDoesNotReachForTheNextRecords)
+{
+    EXPECT_EQ(leggi("2\r\n\"a.sqm\",True,\"no\"\r\n\"b.sqm\",#FALSE#,\"no\"\r\n").liste,
+              (Liste{{u"a.sqm"_s, true, u"no"_s}, {u"b.sqm"_s, false, u"no"_s}}));
 }
 
 TEST(Progetto, LongAndAccentedTextsAreReadBack)
