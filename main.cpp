@@ -4,10 +4,12 @@
 #include "Comandi.h"
 #include "Italiano.h"
 #include "PortaAsio.h"
+#include "VigilioVicino.h"
 #include "frmCamera.h"
 #include "frmEditor.h"
 #include "frmEsploraFile.h"
 #include "frmPrincipale.h"
+#include "frmProcessor.h"
 
 #include <QApplication>
 
@@ -30,6 +32,19 @@ public:
     }
     void MostraInvio(const QString &testo) override { m_principale.MostraInvio(testo); }
     void AggiungiMossa(const QString &riga) override { m_principale.AggiungiMossa(riga); }
+
+private:
+    frmPrincipale &m_principale;
+};
+
+// The console, as the runner sees it.
+class CollegamentoVigilio : public ConsoleVigilio
+{
+public:
+    explicit CollegamentoVigilio(frmPrincipale &principale) : m_principale(principale) {}
+
+    bool PortOpen() override { return m_principale.COM.PortOpen(); }
+    void Collega() override { m_principale.Collega(); }
 
 private:
     frmPrincipale &m_principale;
@@ -81,11 +96,19 @@ int main(int argc, char **argv)
     frmEditor editor(console, orologio, cartella);
     editor.impostaCamera(&cameraVicina);
 
+    CollegamentoVigilio collegamento(principale);
+    frmProcessor processor(collegamento, editor, orologio, cartella);
+    VigilioVicino vigilio(processor);
+    editor.impostaVigilio(&vigilio);
+    principale.motore.ascoltaTelemetria(&processor);
+
     FinestreConsole finestre;
     finestre.frmCamera = &camera;
     finestre.frmEditor = &editor;
     finestre.opzInsComandi = &editor.opzInsComandi;
     finestre.lstMosse = &editor.lstMosse;
+    finestre.frmProcessor = &processor;
+    finestre.Stoppa = [&] { processor.Stoppa(); };
     finestre.frmEsploraFile = &esploraFile;
     finestre.frmImmaginiAcquisite = &immaginiAcquisite;
     principale.impostaFinestre(finestre);

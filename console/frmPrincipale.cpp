@@ -247,8 +247,6 @@ void frmPrincipale::apri(Finestra *finestra)
 {
     if (finestra)
         finestra->Mostra();
-    else
-        messaggio(u"Questa finestra non fa ancora parte del programma."_s, Icona::Informazione);
 }
 
 void frmPrincipale::sceltaModo(CasellaOpzione &scelta)

@@ -1,5 +1,6 @@
 #include "Grafica.h"
 
+#include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -74,6 +75,17 @@ void Immagine::setBorderStyle(int bordo)
     update();
 }
 
+void Immagine::keyPressEvent(QKeyEvent *evento)
+{
+    if (evento->key() == Qt::Key_Space && focusPolicy() != Qt::NoFocus) {
+        // Held down it stays one click.
+        if (!evento->isAutoRepeat())
+            Click();
+    } else {
+        Cliccabile::keyPressEvent(evento);
+    }
+}
+
 void Immagine::paintEvent(QPaintEvent *)
 {
     QPainter pittore(this);
@@ -83,6 +95,12 @@ void Immagine::paintEvent(QPaintEvent *)
     if (m_bordo == 1) {
         pittore.setPen(palette().color(QPalette::WindowText));
         pittore.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+    if (hasFocus()) {
+        pittore.setRenderHint(QPainter::Antialiasing);
+        pittore.setBrush(Qt::NoBrush);
+        pittore.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        pittore.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
     }
 }
 

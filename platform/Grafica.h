@@ -68,7 +68,8 @@ public:
     Evento<> Change;
 };
 
-// A picture, by number from a list or given as such, scaled to the control.
+// A picture, by number from a list or given as such, scaled to the control. One that can have the
+// focus shows it, and is clicked with the space bar, too.
 class Immagine : public Cliccabile<QWidget>
 {
     Q_OBJECT
@@ -91,6 +92,7 @@ public:
     void setBorderStyle(int bordo);
 
 protected:
+    void keyPressEvent(QKeyEvent *evento) override;
     void paintEvent(QPaintEvent *) override;
 
 private:

@@ -1,5 +1,6 @@
 #include "Pulsanti.h"
 
+#include <QFocusEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -97,8 +98,9 @@ void CasellaOpzione::paintEvent(QPaintEvent *evento)
 
 namespace {
 
-// The mouse alone spins: where a key belongs to the window, it must not spin as well, nor take the
-// focus to a neighbour.
+// An arrow of the spin bar. The mouse alone spins: where a key belongs to the window, it must not
+// spin as well, nor take the focus to a neighbour. A handler of its own bar may give the focus to
+// another control while it is held: it goes on all the same, as Qt's would not.
 class FrecciaSuGiu : public QToolButton
 {
 public:
@@ -107,6 +109,13 @@ public:
 protected:
     void keyPressEvent(QKeyEvent *evento) override { evento->ignore(); }
     void keyReleaseEvent(QKeyEvent *evento) override { evento->ignore(); }
+    void focusOutEvent(QFocusEvent *evento) override
+    {
+        const bool tenuta = isDown() && evento->reason() == Qt::OtherFocusReason;
+        QToolButton::focusOutEvent(evento);
+        if (tenuta)
+            setDown(true);
+    }
 };
 
 } // namespace

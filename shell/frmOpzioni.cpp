@@ -1,6 +1,7 @@
 #include "frmOpzioni.h"
 
 #include "Archivio.h"
+#include "CampiProgDat.h"
 #include "Codifica.h"
 #include "Gest_File.h"
 #include "Numeri.h"
@@ -108,10 +109,9 @@ void frmOpzioni::pulOK_Click()
     passaErrori([&] { ScriviFile(u"Porta COM"_s, Codifica::inByte(txtPorta.Text()) + "\r\n"); });
     QByteArray testo;
     passaErrori([&] { testo = LeggiFile(u"prog.dat"_s, 0); });
-    // Nothing found is -1, and what stands behind it is the whole text.
-    testo = testo.sliced(testo.indexOf(';') + 1);
     passaErrori([&] {
-        ScriviFile(u"prog.dat"_s, QByteArray::number(opzCollegaAut.Value()) + ';' + testo);
+        ScriviFile(u"prog.dat"_s, CampiProgDat::uniti(QByteArray::number(opzCollegaAut.Value()),
+                                                      CampiProgDat::condizione(testo)));
     });
     Scarica();
 }

@@ -75,6 +75,29 @@ TEST_F(GraficaTest, a_border_is_there_or_not)
     EXPECT_EQ(immagine.BorderStyle(), 1);
 }
 
+TEST_F(GraficaTest, an_image_that_can_have_the_focus_is_clicked_with_the_space_bar)
+{
+    Immagine immagine(u"imgCasella"_s, &finestra, &lista, 1);
+    immagine.resize(20, 20);
+    int volte = 0;
+    immagine.Click.collega([&] { ++volte; });
+    finestra.mostraAttiva();
+    QTest::keyClick(&immagine, Qt::Key_Space);
+    EXPECT_EQ(volte, 0) << "it cannot have the focus";
+    const QImage senza = immagine.grab().toImage();
+    immagine.setFocusPolicy(Qt::TabFocus);
+    QTest::keyClick(&finestra, Qt::Key_Tab);
+    ASSERT_TRUE(immagine.hasFocus());
+    EXPECT_NE(immagine.grab().toImage(), senza) << "the focus can be seen";
+    QTest::keyClick(&immagine, Qt::Key_Space);
+    EXPECT_EQ(volte, 1);
+    QTest::keyClick(&immagine, Qt::Key_A);
+    EXPECT_EQ(volte, 1);
+    QKeyEvent ripetuto(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, u" "_s, true);
+    QApplication::sendEvent(&immagine, &ripetuto);
+    EXPECT_EQ(volte, 1) << "a held key is one click";
+}
+
 TEST_F(GraficaTest, a_label_raises_change_only_when_its_text_changes)
 {
     Etichetta etichetta(u"lblFile"_s, &finestra, u"uno"_s);

@@ -205,6 +205,34 @@ TEST_F(PulsantiTest, a_screen_reader_tells_a_spin_bars_arrows_apart)
     EXPECT_EQ(barra.findChild<QToolButton *>(u"SuGiu.Giu"_s)->accessibleName(), u"Diminuisci"_s);
 }
 
+TEST_F(PulsantiTest, a_held_arrow_goes_on_when_its_handler_gives_the_focus_away)
+{
+    SuGiu barra(u"SuGiu"_s, &finestra, 1, 99, 1);
+    barra.resize(20, 40);
+    Pulsante pulsante(u"pulOK"_s, &finestra, u"OK"_s);
+    pulsante.move(0, 100);
+    finestra.mostraAttiva();
+    barra.Change.collega([&] { pulsante.SetFocus(); });
+    auto *su = barra.findChild<QToolButton *>(u"SuGiu.Su"_s);
+    QTest::mousePress(su, Qt::LeftButton);
+    EXPECT_TRUE(attendi([&] { return barra.Value() >= 4; }));
+    EXPECT_TRUE(pulsante.hasFocus());
+    QTest::mouseRelease(su, Qt::LeftButton);
+    EXPECT_FALSE(su->isDown());
+}
+
+TEST_F(PulsantiTest, a_held_arrow_stops_when_another_window_comes_to_the_front)
+{
+    SuGiu barra(u"SuGiu"_s, &finestra, 1, 99, 1);
+    barra.resize(20, 40);
+    finestra.mostraAttiva();
+    auto *su = barra.findChild<QToolButton *>(u"SuGiu.Su"_s);
+    su->setFocus();
+    QTest::mousePress(su, Qt::LeftButton);
+    const AltroProgramma altro;
+    EXPECT_TRUE(attendi([&] { return !su->isDown(); }));
+}
+
 TEST_F(PulsantiTest, a_spin_bar_stops_at_its_limits)
 {
     SuGiu barra(u"SuGiu"_s, &finestra, -1, 24, 24);

@@ -1,0 +1,176 @@
+#include "Condizione.h"
+
+#include "Numeri.h"
+
+#include <QStringList>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QStringView nonImpostato = u"no";
+
+// How many characters of a field are compared.
+constexpr qsizetype lunghezzaOrario = 8;
+constexpr qsizetype sensori = 3;
+constexpr std::array<qsizetype, 3> cifre{2, 1, 1};
+
+constexpr qsizetype larghezzaNome = 31;
+
+QStringView daCampo(QStringView condizione, int campo)
+{
+    return condizione.sliced(posizioneCampo(condizione, campo));
+}
+
+double numero(QStringView condizione, int campo)
+{
+    return Numeri::Valore(daCampo(condizione, campo));
+}
+
+bool sensoreVisto(QStringView campo, QStringView visti)
+{
+    const qsizetype quanti = qMin(sensori, qMin(campo.size(), visti.size()));
+    for (qsizetype k = 0; k < quanti; ++k) {
+        if (campo[k] == u'1' && visti[k] == u'1')
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+qsizetype posizioneCampo(QStringView condizione, int campo)
+{
+    qsizetype posizione = 0;
+    for (int i = 1; i < campo; ++i) {
+        const qsizetype virgola = condizione.indexOf(u',', posizione);
+        if (virgola < 0)
+            return condizione.size();
+        posizione = virgola + 1;
+    }
+    return posizione;
+}
+
+QStringView testoCampo(QStringView condizione, int campo)
+{
+    const QStringView resto = daCampo(condizione, campo);
+    const qsizetype virgola = resto.indexOf(u',');
+    return virgola < 0 ? resto : resto.first(virgola);
+}
+
+bool campoNo(QStringView condizione, int campo)
+{
+    return daCampo(condizione, campo).startsWith(nonImpostato);
+}
+
+QString componiCondizione(const std::array<QString, campiCondizione> &campi)
+{
+    return QStringList(campi.begin(), campi.end()).join(u',');
+}
+
+QString DescriviCondizione(QStringView condizione)
+{
+    QString descrizione;
+    int no = 0;
+    for (int campo = CampoOrario; campo <= CampoMotori; ++campo) {
+        if (campoNo(condizione, campo)) {
+            ++no;
+            continue;
+        }
+        switch (campo) {
+        case CampoOrario:
+            descrizione = condizione.left(lunghezzaOrario).toString();
+            break;
+        case CampoUltrasuoni:
+            descrizione = u"Ultrasuoni"_s;
+            break;
+        case CampoTemperatura:
+            descrizione = u"Temperatura"_s;
+            break;
+        case CampoLogica:
+            descrizione = u"Batt.Logica"_s;
+            break;
+        default:
+            descrizione = descrizione == u"Batt.Logica" ? u"Batterie"_s : u"Batt.Motori"_s;
+        }
+    }
+    if (descrizione == u"Batterie" && no == campiCondizione - 2)
+        return descrizione;
+    return no < campiCondizione - 1 ? u"Varie"_s : descrizione;
+}
+
+QString NomeLista(const QString &nome)
+{
+    if (nome.size() < larghezzaNome)
+        return nome.leftJustified(larghezzaNome);
+    return nome.left(larghezzaNome - 4) + u"... "_s;
+}
+
+CondizioneLetta::CondizioneLetta(QStringView condizione)
+    : m_orario(condizione.left(lunghezzaOrario).toString()),
+      m_ultrasuoni(daCampo(condizione, CampoUltrasuoni).left(sensori).toString())
+{
+    for (int campo = CampoOrario; campo <= CampoMotori; ++campo)
+        m_no[static_cast<size_t>(campo - CampoOrario)] = campoNo(condizione, campo);
+    for (size_t i = 0; i < cifre.size(); ++i) {
+        const int campo = CampoTemperatura + static_cast<int>(i);
+        m_numeri[i] = Numeri::Valore(daCampo(condizione, campo).left(cifre[i]));
+    }
+}
+
+bool CondizioneLetta::uguale(const CondizioneLetta &altra, int campo) const
+{
+    switch (campo) {
+    case CampoOrario:
+        return m_orario == altra.m_orario;
+    case CampoUltrasuoni:
+        return m_ultrasuoni == altra.m_ultrasuoni;
+    default: {
+        const auto i = static_cast<size_t>(campo - CampoTemperatura);
+        return m_numeri[i] == altra.m_numeri[i];
+    }
+    }
+}
+
+std::optional<QString> CondizioneLetta::contrasto(const CondizioneLetta &altra) const
+{
+    static const std::array<QString, campiCondizione> testi = {
+        u"hanno gli stessi orari di attivazione!"_s,
+        u"si attivano entrambe con gli stessi sensori a ultrasuoni"_s,
+        u"si attivano entrambe con la stessa temperatura"_s,
+        u"si attivano entrambe con lo stesso stato delle batterie logica"_s,
+        u"si attivano entrambe con lo stesso stato delle batterie dei motori"_s};
+    for (int campo = CampoOrario; campo <= CampoMotori; ++campo) {
+        const auto i = static_cast<size_t>(campo - CampoOrario);
+        if (!m_no[i] && uguale(altra, campo))
+            return testi[i];
+    }
+    return {};
+}
+
+std::optional<QString> Contrasto(QStringView condizione, QStringView altra)
+{
+    return CondizioneLetta(condizione).contrasto(CondizioneLetta(altra));
+}
+
+bool condizioneVera(QStringView condizione, QStringView telemetria)
+{
+    constexpr QStringView ultrasuoni = u"Ultrasuoni:";
+    constexpr QStringView temperatura = u"Temperatura:";
+    constexpr QStringView batterie = u"Batterie:";
+    if (telemetria.startsWith(ultrasuoni))
+        return !campoNo(condizione, CampoUltrasuoni) &&
+               sensoreVisto(daCampo(condizione, CampoUltrasuoni),
+                            telemetria.sliced(ultrasuoni.size()));
+    if (telemetria.startsWith(temperatura))
+        return !campoNo(condizione, CampoTemperatura) &&
+               Numeri::Valore(telemetria.sliced(temperatura.size())) ==
+                   numero(condizione, CampoTemperatura);
+    if (!telemetria.startsWith(batterie))
+        return false;
+    const QStringView livelli = telemetria.sliced(batterie.size());
+    return (!campoNo(condizione, CampoLogica) &&
+            Numeri::Valore(livelli) == numero(condizione, CampoLogica)) ||
+           (!campoNo(condizione, CampoMotori) &&
+            Numeri::Valore(livelli.mid(1)) == numero(condizione, CampoMotori));
+}

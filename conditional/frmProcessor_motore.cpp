@@ -1,0 +1,96 @@
+// The engine: start and stop, and what telemetry starts. The clock's part is the editor's.
+#include "frmProcessor.h"
+
+#include "Condizione.h"
+#include "Messaggi.h"
+#include "frmEditor.h"
+
+#include <vector>
+
+namespace {
+
+const QString statoAvviato = u"AVVIATO"_s;
+const QString scrittaAvvia = u"AVVIA"_s;
+const QString titolo = u"Vigilio"_s;
+
+enum Stato { VigilioSpento = 1, VigilioInAttesa };
+
+} // namespace
+
+bool frmProcessor::avviato() const
+{
+    return Tag() == statoAvviato;
+}
+
+void frmProcessor::pulAvvia_Click()
+{
+    if (pulAvvia.Caption() != scrittaAvvia) {
+        Stoppa();
+        return;
+    }
+    if (!m_console.PortOpen()) {
+        if (messaggio(
+                u"Per avviare il Vigilio è necessario essere connessi ad Tessaro, connettersi "
+                "ora?"_s,
+                Icona::Domanda, Pulsanti::SiNo, titolo) != Risposta::Si)
+            return;
+        m_console.Collega();
+        if (!m_console.PortOpen())
+            return;
+    }
+    // Connecting takes its time, and the user may have been quicker.
+    if (!Caricata() || inContrasto())
+        return;
+    if (mnuOpzRiduci.Checked())
+        Nascondi();
+    m_editor.imgVigilio.setPicture(VigilioInAttesa);
+    m_editor.Mostra();
+    m_editor.tmrAttivaAut.setEnabled(true);
+    mostraAvvia(u"STOP"_s, false);
+    setTag(statoAvviato);
+}
+
+// Whether two lists cannot go together, which is told.
+bool frmProcessor::inContrasto() const
+{
+    struct Scelta
+    {
+        int riga;
+        CondizioneLetta condizione;
+    };
+    // Only lists that are both selected can clash.
+    std::vector<Scelta> scelte;
+    for (int i = 0; i < lstFile.ListCount(); ++i) {
+        if (lstFile.Selected(i))
+            scelte.push_back({i, CondizioneLetta(lstCondizioni.List(i))});
+    }
+    for (const Scelta &i : scelte) {
+        for (const Scelta &j : scelte) {
+            if (i.riga == j.riga)
+                continue;
+            if (const auto perche = i.condizione.contrasto(j.condizione)) {
+                messaggio(
+                    u"\"%1\" e \"%2\"\n%3"_s.arg(File.List(i.riga), File.List(j.riga), *perche),
+                    Icona::Informazione, Pulsanti::OK, titolo);
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+void frmProcessor::VerificaCondizioni(const QString &testo)
+{
+    for (int i = 0; i < lstCondizioni.ListCount(); ++i) {
+        if (lstFile.Selected(i) && condizioneVera(lstCondizioni.List(i), testo))
+            m_editor.EseguiLista(static_cast<qint16>(i));
+    }
+}
+
+void frmProcessor::Stoppa()
+{
+    m_editor.imgVigilio.setPicture(VigilioSpento);
+    m_editor.tmrAttivaAut.setEnabled(false);
+    mostraAvvia(scrittaAvvia, true);
+    setTag({});
+}

@@ -1,0 +1,54 @@
+// The runner on a bench, with the real editor beneath it; the console is stood in for.
+#pragma once
+
+#include "Banco.h"
+#include "VigilioVicino.h"
+#include "frmProcessor.h"
+
+class CollegamentoFinto : public ConsoleVigilio
+{
+public:
+    explicit CollegamentoFinto(SerialeFinto &seriale) : m_seriale(seriale) {}
+
+    bool PortOpen() override { return m_seriale.COM.PortOpen(); }
+    void Collega() override;
+
+    // Whether connecting succeeds, how often it was tried, what happens meanwhile.
+    bool riesce = true;
+    int tentativi = 0;
+    std::function<void()> intanto;
+
+private:
+    SerialeFinto &m_seriale;
+};
+
+class BancoVigilio : protected Banco
+{
+protected:
+    // The folder has a "prog.dat" with the factory default condition.
+    BancoVigilio();
+    ~BancoVigilio();
+
+    // Lists of one long pause each, so that whoever runs goes on running.
+    void creaListe(const QStringList &nomi) const;
+    // Makes the lists and shows the window, active.
+    void mostraVigilio(const QStringList &nomi);
+    // The same, connected and started, with the lists of these conditions selected.
+    void avvia(const QList<std::pair<QString, QString>> &liste);
+    void imposta(int riga, const QString &condizione, bool selezionata = true);
+    void scegli(int riga, bool selezionata = true);
+    void cliccaVigilio(QWidget &controllo, std::optional<QPoint> dove = {});
+
+    QStringList righeVigilio() const;
+    QStringList condizioni() const;
+    QList<bool> scelte() const;
+    // The list that runs, empty where none does.
+    QString inCorso() const;
+
+    // The runner's own, not the stand-in of the editor's bench.
+    CollegamentoFinto collegamento{seriale};
+    frmProcessor processor{collegamento, editor, orologio, cartella.percorso()};
+    VigilioVicino vicino{processor};
+};
+
+inline const QString fabbrica = u"00:00:00,no,no,no,no"_s;
