@@ -66,6 +66,33 @@ TEST_F(CercaImmagini, TheActivePictureIsFramedAndNamed)
     EXPECT_TRUE(camera.Schermo.rect().contains(nome.geometry()));
 }
 
+TEST_F(CercaImmagini, FrameAndNameAreSeenOnALightPictureAsOnADarkOne)
+{
+    for (const QRgb sfondo : {0xFFFFFFU, 0x000000U, 0xFFD020U}) {
+        QImage immagine = immaginePiena(sfondo);
+        for (int y = 0; y < 15; ++y)
+            for (int x = 0; x < 20; ++x)
+                immagine.setPixel(29 + x, 19 + y, scena.pixel(29 + x, 19 + y));
+        banco.manda(immagine);
+        ASSERT_TRUE(camera.shpImgRilevata.isVisible());
+        const QImage visto = camera.Schermo.grab().toImage();
+        const auto grigio = [&](int x, int y) { return qGray(visto.pixel(x, y)); };
+        // Across the upper edge, and across the beginning of the name.
+        int chiaro = 0;
+        int scuro = 255;
+        for (int y = 197; y < 204; ++y) {
+            chiaro = qMax(chiaro, grigio(400, y));
+            scuro = qMin(scuro, grigio(400, y));
+        }
+        EXPECT_GT(chiaro - scuro, 120) << sfondo;
+        const QRect nome = camera.lblNomeImmagine.geometry();
+        chiaro = 0;
+        for (int x = nome.left(); x < nome.left() + 60; ++x)
+            chiaro = qMax(chiaro, grigio(x, nome.center().y()));
+        EXPECT_GT(chiaro - grigio(nome.left() + 1, nome.bottom() - 1), 120) << sfondo;
+    }
+}
+
 TEST_F(CercaImmagini, ItGoesAwayWithTheNextFrameThatLacksIt)
 {
     banco.manda(scena);

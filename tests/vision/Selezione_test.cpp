@@ -87,6 +87,18 @@ TEST_F(Selezione, APressShowsAPointAndADragOpensIt)
     EXPECT_EQ(shpSelezione.Tag(), u"True"_s);
 }
 
+TEST_F(Selezione, ItIsSeenOnAWhitePictureToo)
+{
+    banco.manda(immaginePiena(0xFFFFFF));
+    QTest::mousePress(&Schermo, Qt::LeftButton, {}, {100, 200});
+    muovi({160, 290});
+    const QImage visto = Schermo.grab().toImage();
+    int scuro = 255;
+    for (int y = 200; y < 204; ++y)
+        scuro = qMin(scuro, qGray(visto.pixel(130, y)));
+    EXPECT_LT(scuro, 120);
+}
+
 TEST_F(Selezione, ADragUpOrLeftKeepsTheLastSizeThatWasOne)
 {
     QTest::mousePress(&Schermo, Qt::LeftButton, {}, {100, 200});
