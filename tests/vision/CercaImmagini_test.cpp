@@ -167,6 +167,37 @@ TEST_F(CercaImmagini, TheZoomOfTheMomentCounts)
     EXPECT_EQ(camera.lblNomeImmagine.font().pointSize(), 12);
 }
 
+TEST_F(CercaImmagini, APictureAsWideOrAsHighAsTheFrameIsNeverFoundAndNothingIsTold)
+{
+    for (const QSize misura : {QSize(80, 1), QSize(1, 60), QSize(80, 60)}) {
+        const QByteArray voce = record("Tutto", scena, QRect(QPoint(1, 1), misura));
+        lstImgCamera.setList(1, QString::fromLatin1(voce));
+        banco.cartella.scrivi(u"Immagini.dat"_s, "\"a\",1,1,5\r" + voce);
+        banco.console.BarraStato.setPanels(3, u"niente"_s);
+        banco.manda(scena);
+        EXPECT_FALSE(camera.shpImgRilevata.Visible()) << misura.width();
+        EXPECT_EQ(banco.pannello3(), u"niente"_s) << misura.width();
+    }
+}
+
+TEST_F(CercaImmagini, AnEmptyFileIsToldAndTheVideoGoesOn)
+{
+    banco.cartella.scrivi(u"Immagini.dat"_s, {});
+    banco.manda(scena);
+    EXPECT_EQ(banco.pannello3(), erroreRicerca);
+    EXPECT_EQ(camera.fotogramma().Riga, 0);
+}
+
+TEST_F(CercaImmagini, WhereTheFailureIsInALaterPictureAnEarlierOneIsFoundAllTheSame)
+{
+    banco.cartella.scrivi(u"Immagini.dat"_s,
+                          "\"a\",1,1,5\r" + record("Pallone", scena, {30, 20, 20, 15}));
+    lstImgCamera.setItemData(2, -1);
+    banco.manda(scena);
+    EXPECT_EQ(camera.lblNomeImmagine.Caption(), u"Pallone"_s);
+    EXPECT_NE(banco.pannello3(), erroreRicerca);
+}
+
 class VociGuaste : public testing::TestWithParam<QByteArray>
 {
 };

@@ -272,6 +272,27 @@ TEST_F(Selezione, ADisconnectionDuringTheCopyLeavesTheDialogToFinish)
     nome.tmrAcquisizione.setInterval(1);
     finisci();
     EXPECT_EQ(nome.Tag(), record(40, 40, 11, 11, 40, 40));
+    nome.txtNomeImmagine.setText(u"Palla"_s);
+    QTest::keyClick(&nome.txtNomeImmagine, Qt::Key_Return);
+    EXPECT_FALSE(nome.Visible());
+    EXPECT_EQ(banco.cartella.leggi(u"Immagini.dat"_s),
+              "\"Palla\"," + record(40, 40, 11, 11, 40, 40).toLatin1());
+}
+
+TEST_F(Selezione, CancelledInTheMiddleOfTheCopyTheNextOneIsWhole)
+{
+    trascina({100, 100}, {500, 500});
+    nome.tmrAcquisizione.setInterval(0);
+    banco.manda(immagine);
+    QTest::mouseClick(&nome.pulAnnulla, Qt::LeftButton);
+    ASSERT_FALSE(nome.Visible());
+    nome.tmrAcquisizione.setInterval(1);
+    gira(20);
+    EXPECT_EQ(nome.Tag(), QString());
+    trascina({100, 200}, {160, 290});
+    banco.manda(immagine);
+    finisci();
+    EXPECT_EQ(nome.Tag(), record(6, 9, 11, 21, 6, 9));
 }
 
 TEST_F(Selezione, ADisconnectionWhileADuplicateNameIsToldIsSurvived)

@@ -166,6 +166,8 @@ TEST_F(Strada, AnAreaIsStoredAndFoundAfterTheNextStart)
     banco.camera.close();
     banco.scollega();
     BancoSuPortaFinta dopo(record + '\r' + record);
+    dopo.premi(8);
+    EXPECT_EQ(dopo.acquisite.lstImgAcquisite.List(1), u"Primo"_s);
     dopo.apriCamera();
     dopo.manda(scena);
     EXPECT_TRUE(dopo.camera.shpImgRilevata.Visible());
