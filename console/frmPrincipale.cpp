@@ -14,6 +14,13 @@
 #include <QScreen>
 #include <QTimer>
 
+namespace {
+
+// As many as an index of 16 bits counts: a spoilt file must not fill the memory.
+constexpr int immaginiMassime = 32768;
+
+} // namespace
+
 frmPrincipale::frmPrincipale(AmbienteConsole ambiente)
     : Finestra(u"frmPrincipale"_s, u"Lumbra Tessaro"_s),
       COM(u"COM"_s, this, std::move(ambiente.porta), ambiente.cartella),
@@ -103,7 +110,7 @@ void frmPrincipale::Load()
 void frmPrincipale::leggiImmagini()
 {
     if (passaErrori([] { Archivio::apri(1, u"Immagini.dat"_s, Archivio::Modo::Lettura); })) {
-        while (!Archivio::fine(1))
+        while (!Archivio::fine(1) && lstImgCamera.ListCount() < immaginiMassime)
             lstImgCamera.AddItem(Codifica::daByte(Archivio::leggiRiga(1)));
     } else {
         // The loop's test fails with the file, and what follows the reading is done once.

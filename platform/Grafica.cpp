@@ -123,7 +123,9 @@ void Forma::paintEvent(QPaintEvent *)
     QPainter pittore(this);
     pittore.setRenderHint(QPainter::Antialiasing, m_raggio > 0);
     pittore.setBrush(m_fondo);
-    pittore.setPen(m_spessore > 0 ? QPen(m_bordo, m_spessore) : QPen(Qt::NoPen));
+    pittore.setPen(m_spessore > 0
+                       ? QPen(m_bordo, m_spessore, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin)
+                       : QPen(Qt::NoPen));
     const double mezzo = m_spessore / 2.0;
     pittore.drawRoundedRect(QRectF(rect()).adjusted(mezzo, mezzo, -mezzo, -mezzo), m_raggio,
                             m_raggio);
@@ -177,9 +179,13 @@ void Superficie::Pulisci()
 void Superficie::adatta()
 {
     // Grows only, so that what is drawn survives a window made smaller and larger again.
-    const QSize dovuta = size().expandedTo(m_disegno.size());
-    if (dovuta != m_disegno.size()) {
-        QImage nuovo(dovuta, QImage::Format_ARGB32_Premultiplied);
+    const QSize dovuta = size().expandedTo(m_disegno.deviceIndependentSize().toSize());
+    // As fine as the screen that the surface is on now.
+    const double finezza = devicePixelRatioF();
+    if (dovuta != m_disegno.deviceIndependentSize().toSize() ||
+        finezza != m_disegno.devicePixelRatio()) {
+        QImage nuovo((QSizeF(dovuta) * finezza).toSize(), QImage::Format_ARGB32_Premultiplied);
+        nuovo.setDevicePixelRatio(finezza);
         nuovo.fill(Qt::transparent);
         if (!m_disegno.isNull())
             QPainter(&nuovo).drawImage(0, 0, m_disegno);
@@ -199,5 +205,8 @@ void Superficie::paintEvent(QPaintEvent *evento)
     pittore.setRenderHint(QPainter::SmoothPixmapTransform);
     if (!m_sfondo.isNull())
         m_sfondo.paint(&pittore, rect());
-    pittore.drawImage(evento->rect(), m_disegno, evento->rect());
+    // Boxes keep their edges.
+    pittore.setRenderHint(QPainter::SmoothPixmapTransform, false);
+    pittore.setClipRect(evento->rect());
+    pittore.drawImage(0, 0, m_disegno);
 }

@@ -141,6 +141,7 @@ public:
     void Dipingi(QPoint angolo, const QImage &immagine);
     void Stampa(const QString &testo);
     void Pulisci();
+    // What was drawn, in the pixels of the screen; it may be larger than the surface is now.
     const QImage &disegno() const { return m_disegno; }
 
     Evento<> Resize;

@@ -118,10 +118,16 @@ void Robot::saluta()
 void Robot::chiudiSessione()
 {
     stato_.sessioneAperta = false;
-    stato_.videoAttivo = false;
+    fermaVideo();
     stato_.base = MotoBase::Fermo;
     memoria_->chiudiTutti();
     diario_.aggiungi(VoceDiario::Tipo::Sessione, u"Sessione chiusa"_s);
+}
+
+void Robot::fermaVideo()
+{
+    stato_.videoAttivo = false;
+    Q_EMIT videoFermato();
 }
 
 void Robot::eseguiRichiesta(const Comando &comando)
@@ -149,7 +155,7 @@ void Robot::eseguiRichiesta(const Comando &comando)
         stato_.videoAttivo = true;
         break;
     default:
-        stato_.videoAttivo = false;
+        fermaVideo();
         reagisci();
         break;
     }

@@ -51,6 +51,8 @@ public:
 Q_SIGNALS:
     /// One whole telegram for the console.
     void telegramma(const QByteArray &byte);
+    /// The video was stopped; the camera sends nothing more, not even the rest of a row.
+    void videoFermato();
     /// Something of stato() changed.
     void cambiato();
     /// A phrase, a sound or a message begins; the text is stato().detto.
@@ -62,6 +64,7 @@ private:
     void sollecito();
     void saluta();
     void chiudiSessione();
+    void fermaVideo();
     void eseguiCorpo(const Comando &comando);
     void eseguiVoce(const Comando &comando);
     void eseguiRichiesta(const Comando &comando);

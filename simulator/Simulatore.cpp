@@ -38,6 +38,7 @@ public:
         riproduttore.suFine = [this] { Q_EMIT q.riproduzioneFinita(); };
         connect(&robot, &Robot::telegramma, &robot,
                 [this](const QByteArray &byte) { spedisci(byte); });
+        connect(&robot, &Robot::videoFermato, &robot, [this] { uscita.interrompi(); });
         connect(&battito, &QTimer::timeout, &battito, [this] { batti(); });
         battito.start(passo);
     }
@@ -64,15 +65,28 @@ public:
         if (riproduttore.attivo())
             return;
         const QByteArray byte = filtro.telegramma(telegramma, robot.guasti());
-        const int ritardo = robot.guasti().ritardo;
-        if (ritardo <= 0 && inAttesa.isEmpty()) {
+        if (!differisci(byte))
             accoda(byte);
-            return;
-        }
+    }
+
+    void spedisciRiga(const QByteArray &riga)
+    {
+        const QByteArray byte = filtro.telegramma(riga, robot.guasti());
+        if (!differisci(byte))
+            uscita.accodaRiga(byte);
+    }
+
+    // False where nothing delays what is sent now.
+    bool differisci(const QByteArray &byte)
+    {
+        const int ritardo = robot.guasti().ritardo;
+        if (ritardo <= 0 && inAttesa.isEmpty())
+            return false;
         const qint64 quando = orologio.elapsed() + qMax(ritardo, 0);
         inAttesa.append(
             {inAttesa.isEmpty() ? quando : qMax(quando, inAttesa.constLast().first), byte});
         QTimer::singleShot(qMax(ritardo, 0), Qt::PreciseTimer, &battito, [this] { rilascia(); });
+        return true;
     }
 
     void rilascia()
@@ -100,12 +114,12 @@ public:
             inizioVideo = orologio.elapsed();
             righeVideo = 0;
         }
-        while (stato.videoAttivo && uscita.inCoda() < 161 && rigaDovuta()) {
+        while (stato.videoAttivo && uscita.inCoda() == 0 && rigaDovuta()) {
             const QByteArray riga = robot.prossimaRiga();
             if (riga.isEmpty())
                 break;
             ++righeVideo;
-            spedisci(riga);
+            spedisciRiga(riga);
             if (!inAttesa.isEmpty())
                 break;
         }

@@ -23,6 +23,10 @@ public:
 
     /// How many of the bytes found no room.
     qsizetype accoda(const QByteArray &byte);
+    /// The same for a row of the video: where nothing waits before it, interrompi() can stop it.
+    qsizetype accodaRiga(const QByteArray &byte);
+    /// What has not gone out yet of the row of the video is dropped; all else stays.
+    void interrompi();
     qsizetype inCoda() const { return coda_.size(); }
     void svuota();
     /// True: what goes out is lost on the way.
@@ -39,6 +43,8 @@ private:
     Linea &linea_;
     Ritmo ritmo_;
     QByteArray coda_;
+    qsizetype riga_ = 0;     // how many bytes at the queue's head belong to a row
+    qsizetype scartati_ = 0; // how many were dropped from the head since the last writing began
     bool perduta_ = false;
     QElapsedTimer orologio_;
     QTimer timer_;

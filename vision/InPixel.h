@@ -33,6 +33,7 @@ private:
     }
 };
 
+// A light border with a dark line on its inner side, so that it is seen on every picture.
 class FormaInPixel : public InPixel<Forma>
 {
     Q_OBJECT
@@ -40,6 +41,17 @@ class FormaInPixel : public InPixel<Forma>
 
 public:
     using InPixel::InPixel;
+
+    void setColori(const QColor &fondo, const QColor &colore)
+    {
+        InPixel::setColori(fondo, colore, 0, bordo);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *evento) override;
+
+private:
+    static constexpr int bordo = 2;
 };
 
 class EtichettaInPixel : public InPixel<Etichetta>

@@ -40,8 +40,10 @@ frmCamera::frmCamera(const ControlliVideo &console, ::frmNomeImmagine &nomeImmag
 
 void frmCamera::disponi()
 {
+    const QColor scuro(0x20, 0x24, 0x28);
+    const QColor giallo(0xFF, 0xD4, 0x2A);
     QPalette tavolozza = Schermo.palette();
-    tavolozza.setColor(QPalette::Window, QColor(0x20, 0x24, 0x28));
+    tavolozza.setColor(QPalette::Window, scuro);
     tavolozza.setColor(QPalette::WindowText, QColor(0xE8, 0xEA, 0xEC));
     Schermo.setPalette(tavolozza);
     Schermo.setAutoFillBackground(true);
@@ -50,10 +52,16 @@ void frmCamera::disponi()
     Schermo.setAccessibleName(u"Immagine della videocamera"_s);
 
     shpSelezione.setColori(QColor(255, 255, 255, 40), Qt::white);
-    shpImgRilevata.setColori(Qt::transparent, QColor(0xFF, 0xD4, 0x2A), 0, 2);
+    shpImgRilevata.setColori(Qt::transparent, giallo);
     // The mouse goes through, as it does through the shapes.
     lblNomeImmagine.setAttribute(Qt::WA_TransparentForMouseEvents);
-    lblNomeImmagine.setForeColor(QColor(0xFF, 0xD4, 0x2A));
+    lblNomeImmagine.setForeColor(giallo);
+    // The picture shows through, the name is read on every picture.
+    QPalette targa = lblNomeImmagine.palette();
+    targa.setColor(QPalette::Window, QColor(scuro.red(), scuro.green(), scuro.blue(), 215));
+    lblNomeImmagine.setPalette(targa);
+    lblNomeImmagine.setAutoFillBackground(true);
+    lblNomeImmagine.setContentsMargins(4, 0, 4, 0);
 
     // Narrower, no zoom is left.
     setMinimumSize(Fotogramma::Colonne, Fotogramma::Righe);

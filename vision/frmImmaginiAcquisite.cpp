@@ -38,6 +38,8 @@ void frmImmaginiAcquisite::disponi()
 {
     lstImgAcquisite.setAccessibleName(windowTitle());
     lstImgAcquisite.setMinimumWidth(180);
+    // The marks of neighbouring rows do not touch.
+    lstImgAcquisite.setSpacing(1);
     imgSelezionata.setFixedSize(larghezzaArea, altezzaArea);
     imgSelezionata.setAccessibleName(u"Immagine selezionata"_s);
 

@@ -212,6 +212,23 @@ TEST(AvvioConsole, AnEmptyFileOfPicturesLeavesTheListEmpty)
     EXPECT_EQ(c.finestra.lstImgCamera.ListCount(), 0);
 }
 
+TEST(AvvioConsole, OneStoredPictureIsNotActive)
+{
+    ConsoleInProva c;
+    c.cartella.scrivi(u"Immagini.dat"_s, "\"uno\",1,1,5");
+    c.mostra();
+    ASSERT_EQ(c.finestra.lstImgCamera.ListCount(), 1);
+    EXPECT_EQ(c.finestra.lstImgCamera.ItemData(0), 0);
+}
+
+TEST(AvvioConsole, AFileOfNothingButLineEndsDoesNotFillTheMemory)
+{
+    ConsoleInProva c;
+    c.cartella.scrivi(u"Immagini.dat"_s, QByteArray(200'000, '\r'));
+    c.mostra();
+    EXPECT_EQ(c.finestra.lstImgCamera.ListCount(), 32768);
+}
+
 TEST(AvvioConsole, StandsWhereTheScreenAsksItTo)
 {
     ConsoleInProva c;

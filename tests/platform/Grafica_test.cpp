@@ -2,6 +2,8 @@
 
 #include "Aiuti.h"
 
+#include <QPainter>
+
 namespace {
 
 QIcon tinta(const QColor &colore)
@@ -185,4 +187,97 @@ TEST_F(GraficaTest, a_surface_in_pixels_tells_the_mouse_in_pixels)
     superficie.MouseDown.collega([&](int, int, double x, double y) { visti = {x, y}; });
     QTest::mouseClick(&superficie, Qt::LeftButton, {}, {7, 9});
     EXPECT_EQ(visti, (QList<double>{7, 9}));
+}
+
+// On a screen with two pixels for each one of the design.
+template <class Base>
+class Fine : public Base
+{
+public:
+    using Base::Base;
+
+protected:
+    int metric(QPaintDevice::PaintDeviceMetric misura) const override
+    {
+        if (misura == QPaintDevice::PdmDevicePixelRatio)
+            return 2;
+        if (misura == QPaintDevice::PdmDevicePixelRatioScaled)
+            return static_cast<int>(2 * QPaintDevice::devicePixelRatioFScale());
+        return Base::metric(misura);
+    }
+};
+
+TEST_F(GraficaTest, pictures_keep_sharp_edges_on_a_screen_with_more_pixels)
+{
+    Fine<Superficie> superficie(u"imgCam"_s, &finestra);
+    superficie.resize(40, 30);
+    QImage immagine(20, 30, QImage::Format_RGB32);
+    immagine.fill(Qt::red);
+    superficie.Dipingi({0, 0}, immagine);
+    superficie.Riempi({20, 0, 20, 30}, Qt::blue);
+    const QImage visto = superficie.grab().toImage();
+    ASSERT_EQ(visto.size(), QSize(80, 60));
+    for (int x = 0; x < 80; ++x)
+        EXPECT_EQ(visto.pixelColor(x, 30), QColor(x < 40 ? Qt::red : Qt::blue)) << x;
+}
+
+TEST_F(GraficaTest, text_is_as_fine_as_the_screen)
+{
+    Fine<Superficie> superficie(u"imgCam"_s, &finestra);
+    superficie.resize(200, 50);
+    QImage atteso = superficie.grab().toImage();
+    ASSERT_EQ(atteso.size(), QSize(400, 100));
+    superficie.Stampa(u"Fallito"_s);
+    const QImage visto = superficie.grab().toImage();
+    EXPECT_NE(visto, atteso);
+    QPainter pittore(&atteso);
+    pittore.setPen(superficie.palette().color(QPalette::WindowText));
+    pittore.setFont(superficie.font());
+    pittore.drawText(QRect(4, 4, 200, 50), Qt::AlignLeft | Qt::AlignTop, u"Fallito"_s);
+    pittore.end();
+    // Blending twice rounds twice.
+    for (int y = 0; y < 100; ++y)
+        for (int x = 0; x < 400; ++x)
+            ASSERT_NEAR(qGreen(visto.pixel(x, y)), qGreen(atteso.pixel(x, y)), 3) << x << ',' << y;
+}
+
+TEST_F(GraficaTest, what_is_drawn_moves_along_to_a_screen_with_more_pixels)
+{
+    struct Mobile : Superficie
+    {
+        using Superficie::Superficie;
+        int scala = 1;
+        int metric(PaintDeviceMetric misura) const override
+        {
+            if (misura == PdmDevicePixelRatio)
+                return scala;
+            if (misura == PdmDevicePixelRatioScaled)
+                return static_cast<int>(scala * devicePixelRatioFScale());
+            return Superficie::metric(misura);
+        }
+    };
+    Mobile superficie(u"imgCam"_s, &finestra);
+    superficie.resize(40, 30);
+    superficie.Riempi({10, 10, 5, 5}, Qt::blue);
+    superficie.scala = 2;
+    superficie.Riempi({30, 10, 5, 5}, Qt::red);
+    const QImage visto = superficie.grab().toImage();
+    EXPECT_EQ(visto.pixelColor(20, 20), QColor(Qt::blue));
+    EXPECT_EQ(visto.pixelColor(29, 29), QColor(Qt::blue));
+    EXPECT_NE(visto.pixelColor(30, 29), QColor(Qt::blue));
+    EXPECT_EQ(visto.pixelColor(60, 20), QColor(Qt::red));
+    EXPECT_EQ(visto.pixelColor(69, 29), QColor(Qt::red));
+}
+
+TEST_F(GraficaTest, the_corners_of_a_shape_are_whole)
+{
+    Fine<Forma> forma(u"shp"_s, &finestra);
+    forma.setColori(Qt::transparent, Qt::blue, 0, 2);
+    forma.resize(30, 20);
+    QImage visto(60, 40, QImage::Format_ARGB32_Premultiplied);
+    visto.setDevicePixelRatio(2);
+    visto.fill(Qt::white);
+    forma.render(&visto);
+    for (const QPoint angolo : {QPoint(0, 0), QPoint(59, 0), QPoint(0, 39), QPoint(59, 39)})
+        EXPECT_EQ(visto.pixelColor(angolo), QColor(Qt::blue));
 }

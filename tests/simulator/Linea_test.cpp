@@ -289,23 +289,43 @@ TEST_F(Filo, VideoFlowsInWholeRowsWithTelemetryBetween)
     const auto prima = porta->letti().size();
     porta->scrivi(b({10, 10, 128, 0, 11, 160, 0}));
     ASSERT_TRUE(attendi([&] { return porta->letti().size() > prima + 4 + 61 * 161; }));
-    porta->scrivi(b({27, 70, 12}));
-    ASSERT_TRUE(attendi([&] { return !sim.robot().stato().videoAttivo && sim.inCoda() == 0; }));
-    // Cut as the console would: nothing is left over and nothing is unknown.
+    porta->scrivi(b({27, 70}));
+    ASSERT_TRUE(attendi([&] { return porta->letti().size() > prima + 4 + 63 * 161; }));
+    // Cut as the console would: nothing is left over but the row that is on its way, and nothing is
+    // unknown.
     QByteArray resto = porta->letti().mid(prima);
     int righe = 0;
     bool sensori = false;
     while (!resto.isEmpty()) {
         const int tipo = resto.at(0);
         ASSERT_TRUE(tipo == 13 || tipo == 33 || tipo == 31) << tipo;
+        const int lungo = tipo == 13 ? 161 : tipo == 33 ? 4 : 2;
+        if (lungo > resto.size())
+            break;
         righe += tipo == 13;
         sensori = sensori || tipo == 31;
-        const int lungo = tipo == 13 ? 161 : tipo == 33 ? 4 : 2;
-        ASSERT_LE(lungo, resto.size());
         resto.remove(0, lungo);
     }
     EXPECT_GE(righe, 61);
     EXPECT_TRUE(sensori);
+}
+
+TEST_F(Filo, VideoStopsAtOnceInTheMiddleOfARowAndWhatWaitsBehindItStillComes)
+{
+    ASSERT_TRUE(apriSessione());
+    sim.robot().impostaTemperatura(44);
+    ASSERT_TRUE(attendi([&] { return sim.inCoda() == 0; }));
+    sim.impostaBaud(1200);
+    const auto prima = porta->letti().size();
+    porta->scrivi(b({11, 160, 0}));
+    ASSERT_TRUE(attendi([&] { return porta->letti().size() > prima + 8; }));
+    porta->scrivi(b({28, 103, 12}));
+    ASSERT_TRUE(attendi([&] { return !sim.robot().stato().videoAttivo; }));
+    sim.impostaBaud(0);
+    ASSERT_TRUE(attendi([&] { return sim.inCoda() == 0; }));
+    // The answer that was asked for before, and the one to the stop.
+    ASSERT_TRUE(attendi([&] { return porta->letti().endsWith(b({31, 44, 33, 0, 0, 0})); }));
+    EXPECT_LT(porta->letti().size(), prima + 161);
 }
 
 TEST_F(Filo, TheLinkIsMadeFollowsTheLineAndGoesAway)

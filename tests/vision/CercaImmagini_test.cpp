@@ -66,6 +66,33 @@ TEST_F(CercaImmagini, TheActivePictureIsFramedAndNamed)
     EXPECT_TRUE(camera.Schermo.rect().contains(nome.geometry()));
 }
 
+TEST_F(CercaImmagini, FrameAndNameAreSeenOnALightPictureAsOnADarkOne)
+{
+    for (const QRgb sfondo : {0xFFFFFFU, 0x000000U, 0xFFD020U}) {
+        QImage immagine = immaginePiena(sfondo);
+        for (int y = 0; y < 15; ++y)
+            for (int x = 0; x < 20; ++x)
+                immagine.setPixel(29 + x, 19 + y, scena.pixel(29 + x, 19 + y));
+        banco.manda(immagine);
+        ASSERT_TRUE(camera.shpImgRilevata.isVisible());
+        const QImage visto = camera.Schermo.grab().toImage();
+        const auto grigio = [&](int x, int y) { return qGray(visto.pixel(x, y)); };
+        // Across the upper edge, and across the beginning of the name.
+        int chiaro = 0;
+        int scuro = 255;
+        for (int y = 197; y < 204; ++y) {
+            chiaro = qMax(chiaro, grigio(400, y));
+            scuro = qMin(scuro, grigio(400, y));
+        }
+        EXPECT_GT(chiaro - scuro, 120) << sfondo;
+        const QRect nome = camera.lblNomeImmagine.geometry();
+        chiaro = 0;
+        for (int x = nome.left(); x < nome.left() + 60; ++x)
+            chiaro = qMax(chiaro, grigio(x, nome.center().y()));
+        EXPECT_GT(chiaro - grigio(nome.left() + 1, nome.bottom() - 1), 120) << sfondo;
+    }
+}
+
 TEST_F(CercaImmagini, ItGoesAwayWithTheNextFrameThatLacksIt)
 {
     banco.manda(scena);
@@ -138,6 +165,37 @@ TEST_F(CercaImmagini, TheZoomOfTheMomentCounts)
     banco.manda(scena);
     EXPECT_EQ(trovata(), QRectF(120, 80, 80, 60));
     EXPECT_EQ(camera.lblNomeImmagine.font().pointSize(), 12);
+}
+
+TEST_F(CercaImmagini, APictureAsWideOrAsHighAsTheFrameIsNeverFoundAndNothingIsTold)
+{
+    for (const QSize misura : {QSize(80, 1), QSize(1, 60), QSize(80, 60)}) {
+        const QByteArray voce = record("Tutto", scena, QRect(QPoint(1, 1), misura));
+        lstImgCamera.setList(1, QString::fromLatin1(voce));
+        banco.cartella.scrivi(u"Immagini.dat"_s, "\"a\",1,1,5\r" + voce);
+        banco.console.BarraStato.setPanels(3, u"niente"_s);
+        banco.manda(scena);
+        EXPECT_FALSE(camera.shpImgRilevata.Visible()) << misura.width();
+        EXPECT_EQ(banco.pannello3(), u"niente"_s) << misura.width();
+    }
+}
+
+TEST_F(CercaImmagini, AnEmptyFileIsToldAndTheVideoGoesOn)
+{
+    banco.cartella.scrivi(u"Immagini.dat"_s, {});
+    banco.manda(scena);
+    EXPECT_EQ(banco.pannello3(), erroreRicerca);
+    EXPECT_EQ(camera.fotogramma().Riga, 0);
+}
+
+TEST_F(CercaImmagini, WhereTheFailureIsInALaterPictureAnEarlierOneIsFoundAllTheSame)
+{
+    banco.cartella.scrivi(u"Immagini.dat"_s,
+                          "\"a\",1,1,5\r" + record("Pallone", scena, {30, 20, 20, 15}));
+    lstImgCamera.setItemData(2, -1);
+    banco.manda(scena);
+    EXPECT_EQ(camera.lblNomeImmagine.Caption(), u"Pallone"_s);
+    EXPECT_NE(banco.pannello3(), erroreRicerca);
 }
 
 class VociGuaste : public testing::TestWithParam<QByteArray>

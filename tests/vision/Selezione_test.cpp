@@ -87,6 +87,18 @@ TEST_F(Selezione, APressShowsAPointAndADragOpensIt)
     EXPECT_EQ(shpSelezione.Tag(), u"True"_s);
 }
 
+TEST_F(Selezione, ItIsSeenOnAWhitePictureToo)
+{
+    banco.manda(immaginePiena(0xFFFFFF));
+    QTest::mousePress(&Schermo, Qt::LeftButton, {}, {100, 200});
+    muovi({160, 290});
+    const QImage visto = Schermo.grab().toImage();
+    int scuro = 255;
+    for (int y = 200; y < 204; ++y)
+        scuro = qMin(scuro, qGray(visto.pixel(130, y)));
+    EXPECT_LT(scuro, 120);
+}
+
 TEST_F(Selezione, ADragUpOrLeftKeepsTheLastSizeThatWasOne)
 {
     QTest::mousePress(&Schermo, Qt::LeftButton, {}, {100, 200});
@@ -260,6 +272,27 @@ TEST_F(Selezione, ADisconnectionDuringTheCopyLeavesTheDialogToFinish)
     nome.tmrAcquisizione.setInterval(1);
     finisci();
     EXPECT_EQ(nome.Tag(), record(40, 40, 11, 11, 40, 40));
+    nome.txtNomeImmagine.setText(u"Palla"_s);
+    QTest::keyClick(&nome.txtNomeImmagine, Qt::Key_Return);
+    EXPECT_FALSE(nome.Visible());
+    EXPECT_EQ(banco.cartella.leggi(u"Immagini.dat"_s),
+              "\"Palla\"," + record(40, 40, 11, 11, 40, 40).toLatin1());
+}
+
+TEST_F(Selezione, CancelledInTheMiddleOfTheCopyTheNextOneIsWhole)
+{
+    trascina({100, 100}, {500, 500});
+    nome.tmrAcquisizione.setInterval(0);
+    banco.manda(immagine);
+    QTest::mouseClick(&nome.pulAnnulla, Qt::LeftButton);
+    ASSERT_FALSE(nome.Visible());
+    nome.tmrAcquisizione.setInterval(1);
+    gira(20);
+    EXPECT_EQ(nome.Tag(), QString());
+    trascina({100, 200}, {160, 290});
+    banco.manda(immagine);
+    finisci();
+    EXPECT_EQ(nome.Tag(), record(6, 9, 11, 21, 6, 9));
 }
 
 TEST_F(Selezione, ADisconnectionWhileADuplicateNameIsToldIsSurvived)

@@ -94,6 +94,42 @@ TEST_F(Strada, ADoubleClickInTheMiddleOfTheStreamBringsThePictureBack)
     }
 }
 
+TEST_F(Strada, AtALinesPaceTheFirstFrameIsInStepAndADoubleClickMendsItAtOnce)
+{
+    // A picture of its own, without a byte that begins a telegram: what was on its way when the
+    // robot stopped is passed over, whatever there is of it.
+    QImage righe(80, 60, QImage::Format_RGB32);
+    for (int y = 0; y < 60; ++y)
+        for (int x = 0; x < 80; ++x)
+            righe.setPixel(x, y, qRgb(128 + (y & 15) * 8, 0xFC, 0xE0 - (y >> 4) * 8));
+    for (const char byte : telegrammiVideo(righe))
+        ASSERT_TRUE(byte == 13 || static_cast<quint8>(byte) > 47);
+    CartellaDiProva altre;
+    righe.save(altre.percorso(u"righe.png"_s));
+    QDir::setCurrent(banco.cartella.percorso());
+    ASSERT_TRUE(robot.robot().telecamera().impostaCartella(altre.percorso()));
+    robot.impostaBaud(115200);
+
+    banco.collega();
+    banco.premi(3);
+    const auto inPasso = [&] {
+        return vista() ==
+               quadri(righe, banco.camera.Schermo.Tag().toInt(), banco.camera.Schermo.size());
+    };
+    const auto unFotogramma = [&] {
+        banco.camera.Schermo.Pulisci();
+        const qint64 da = robot.quantiInviati();
+        return aspetta([&] { return inPasso() || robot.quantiInviati() > da + 3 * 60 * 161; }) &&
+               inPasso();
+    };
+    ASSERT_TRUE(unFotogramma());
+    for (int volta = 0; volta < 3; ++volta) {
+        ASSERT_TRUE(aspetta([&] { return banco.camera.fotogramma().Riga == 15 + volta; }));
+        QTest::mouseDClick(&banco.camera.Schermo, Qt::LeftButton, {}, {300, 200});
+        ASSERT_TRUE(unFotogramma()) << volta;
+    }
+}
+
 TEST_F(Strada, ClosingTheWindowStopsTheRobotsVideo)
 {
     banco.collega();
@@ -130,6 +166,8 @@ TEST_F(Strada, AnAreaIsStoredAndFoundAfterTheNextStart)
     banco.camera.close();
     banco.scollega();
     BancoSuPortaFinta dopo(record + '\r' + record);
+    dopo.premi(8);
+    EXPECT_EQ(dopo.acquisite.lstImgAcquisite.List(1), u"Primo"_s);
     dopo.apriCamera();
     dopo.manda(scena);
     EXPECT_TRUE(dopo.camera.shpImgRilevata.Visible());

@@ -147,6 +147,21 @@ TEST_F(ImmaginiAcquisite, TheSpaceBarSetsTheMarkToo)
     EXPECT_EQ(lstImgCamera.ItemData(2), -1);
 }
 
+TEST_F(ImmaginiAcquisite, TheKeyboardAloneShowsAndActivates)
+{
+    banco.premi(8);
+    // Where the first Tab leads.
+    QTest::keyClick(&finestra, Qt::Key_Tab);
+    ASSERT_EQ(finestra.focusWidget(), &lista);
+    EXPECT_EQ(lista.ListIndex(), -1);
+    QTest::keyClick(&lista, Qt::Key_Down);
+    QTest::keyClick(&lista, Qt::Key_Home);
+    EXPECT_EQ(lista.ListIndex(), 0);
+    EXPECT_EQ(punto(2, 2), QColor(255, 0, 0));
+    QTest::keyClick(&lista, Qt::Key_Space);
+    EXPECT_EQ(lstImgCamera.ItemData(0), -1);
+}
+
 TEST_F(ImmaginiAcquisite, OpenedAgainTheMarksAreGoneAndTheFlagsAreNot)
 {
     banco.premi(8);

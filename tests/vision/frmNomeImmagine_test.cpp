@@ -106,6 +106,21 @@ TEST_F(NomeImmagine, CommasAndBlanksPass)
     EXPECT_EQ(battuto(u"palla, rossa 1"_s), u"Palla, rossa 1"_s);
 }
 
+TEST_F(NomeImmagine, BlanksAroundTheNameAreKept)
+{
+    ok(u" palla "_s);
+    EXPECT_EQ(file(), "\" palla \",2,1,5,6");
+}
+
+TEST_F(NomeImmagine, EnterStoresNothingBeforeTheCopyIsFinished)
+{
+    nome.Mostra();
+    nome.txtNomeImmagine.setText(u"Palla"_s);
+    QTest::keyClick(&nome.txtNomeImmagine, Qt::Key_Return);
+    EXPECT_TRUE(nome.Visible());
+    EXPECT_FALSE(banco.cartella.contiene(u"Immagini.dat"_s));
+}
+
 TEST_F(NomeImmagine, TheFirstPictureIsARecordWithoutALineEnd)
 {
     ok(u"Pallone"_s);
