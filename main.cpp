@@ -58,6 +58,7 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     installaItaliano(app);
     QApplication::setApplicationName(u"Lumbra"_s);
+    QApplication::setDesktopFileName(u"lumbra"_s);
     QApplication::setStyle(u"Fusion"_s);
     QApplication::setWindowIcon(Disegni::icona(u"lumbra"));
     const QString cartella = trovaCartellaProgramma();
