@@ -71,18 +71,22 @@ QString spiegaPermessi(const PermessiPorta &permessi)
     const QString rifiuto =
         u"Il tuo utente \"%1\" non ha il permesso di usare la porta seriale %2"_s.arg(
             permessi.utente, permessi.dispositivo);
-    const QString numero = u"\n\nAccesso alla porta negato"_s;
+    // Last, as the error's number comes behind it.
+    const QString errore = u"\n\nAccesso alla porta negato"_s;
     if (permessi.gruppo.isEmpty())
-        return rifiuto + u".\n\nChiedi a chi amministra il computer di dartelo."_s + numero;
+        return rifiuto + u".\n\nChiedi a chi amministra il computer di dartelo."_s + errore;
     if (permessi.daRientrare)
         return rifiuto +
                u".\n\nFa già parte del gruppo \"%1\", ma solo da dopo l'inizio di questa "
                "sessione: esci dalla sessione, rientra e collegati di nuovo."_s.arg(
                    permessi.gruppo) +
-               numero;
+               errore;
     return rifiuto +
-           u": deve far parte del gruppo \"%1\".\n\nPer aggiungerlo, scrivi in un terminale:\n\n"
-           "sudo usermod -aG %1 %2\n\nPoi esci dalla sessione, rientra e collegati di nuovo."_s.arg(
-               permessi.gruppo, permessi.utente) +
-           numero;
+           u": deve far parte del gruppo \"%1\".\n\n"
+           "Per aggiungerlo, scrivi in un terminale (serve la password di chi amministra il "
+           "computer):\n\n"
+           "sudo usermod -aG %1 %2\n\n"
+           "Poi esci dalla sessione, rientra e collegati di nuovo."_s.arg(permessi.gruppo,
+                                                                          permessi.utente) +
+           errore;
 }

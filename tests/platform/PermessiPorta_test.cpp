@@ -75,7 +75,8 @@ TEST(PermessiPorta, the_text_names_the_group_and_says_what_to_do)
     EXPECT_EQ(spiegaPermessi({u"/dev/ttyUSB0"_s, u"maria"_s, u"dialout"_s, false}),
               u"Il tuo utente \"maria\" non ha il permesso di usare la porta seriale "
               "/dev/ttyUSB0: deve far parte del gruppo \"dialout\".\n\n"
-              "Per aggiungerlo, scrivi in un terminale:\n\n"
+              "Per aggiungerlo, scrivi in un terminale (serve la password di chi amministra il "
+              "computer):\n\n"
               "sudo usermod -aG dialout maria\n\n"
               "Poi esci dalla sessione, rientra e collegati di nuovo.\n\n"
               "Accesso alla porta negato"_s);
