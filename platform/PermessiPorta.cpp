@@ -68,25 +68,26 @@ PermessiPorta permessiPorta(const QString &percorso)
 
 QString spiegaPermessi(const PermessiPorta &permessi)
 {
-    const QString rifiuto =
-        u"Il tuo utente \"%1\" non ha il permesso di usare la porta seriale %2"_s.arg(
-            permessi.utente, permessi.dispositivo);
+    const auto [dispositivo, utente, gruppo, daRientrare] = permessi;
     // Last, as the error's number comes behind it.
     const QString errore = u"\n\nAccesso alla porta negato"_s;
-    if (permessi.gruppo.isEmpty())
-        return rifiuto + u".\n\nChiedi a chi amministra il computer di dartelo."_s + errore;
-    if (permessi.daRientrare)
-        return rifiuto +
-               u".\n\nFa già parte del gruppo \"%1\", ma solo da dopo l'inizio di questa "
-               "sessione: esci dalla sessione, rientra e collegati di nuovo."_s.arg(
-                   permessi.gruppo) +
+    if (gruppo.isEmpty())
+        return u"La porta seriale %1 non è permessa al tuo utente \"%2\".\n\n"
+               "Chiedi a chi amministra il computer di permettergliela."_s.arg(dispositivo,
+                                                                               utente) +
                errore;
-    return rifiuto +
-           u": deve far parte del gruppo \"%1\".\n\n"
+    if (daRientrare)
+        return u"La porta seriale %1 è riservata al gruppo \"%3\".\n\n"
+               "Il tuo utente \"%2\" ne fa già parte, ma solo da dopo l'inizio di questa "
+               "sessione: esci dalla sessione, rientra e collegati di nuovo."_s.arg(
+                   dispositivo, utente, gruppo) +
+               errore;
+    return u"La porta seriale %1 è riservata al gruppo \"%3\", di cui il tuo utente \"%2\" non fa "
+           "parte.\n\n"
            "Per aggiungerlo, scrivi in un terminale (serve la password di chi amministra il "
            "computer):\n\n"
-           "sudo usermod -aG %1 %2\n\n"
-           "Poi esci dalla sessione, rientra e collegati di nuovo."_s.arg(permessi.gruppo,
-                                                                          permessi.utente) +
+           "sudo usermod -aG %3 %2\n\n"
+           "Poi esci dalla sessione, rientra e collegati di nuovo."_s.arg(dispositivo, utente,
+                                                                          gruppo) +
            errore;
 }

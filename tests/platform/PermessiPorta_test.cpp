@@ -73,8 +73,8 @@ protected:
 TEST(PermessiPorta, the_text_names_the_group_and_says_what_to_do)
 {
     EXPECT_EQ(spiegaPermessi({u"/dev/ttyUSB0"_s, u"maria"_s, u"dialout"_s, false}),
-              u"Il tuo utente \"maria\" non ha il permesso di usare la porta seriale "
-              "/dev/ttyUSB0: deve far parte del gruppo \"dialout\".\n\n"
+              u"La porta seriale /dev/ttyUSB0 è riservata al gruppo \"dialout\", di cui il tuo "
+              "utente \"maria\" non fa parte.\n\n"
               "Per aggiungerlo, scrivi in un terminale (serve la password di chi amministra il "
               "computer):\n\n"
               "sudo usermod -aG dialout maria\n\n"
@@ -85,19 +85,17 @@ TEST(PermessiPorta, the_text_names_the_group_and_says_what_to_do)
 TEST(PermessiPorta, who_has_joined_the_group_already_is_told_to_log_in_anew)
 {
     EXPECT_EQ(spiegaPermessi({u"/dev/ttyUSB0"_s, u"maria"_s, u"dialout"_s, true}),
-              u"Il tuo utente \"maria\" non ha il permesso di usare la porta seriale "
-              "/dev/ttyUSB0.\n\n"
-              "Fa già parte del gruppo \"dialout\", ma solo da dopo l'inizio di questa sessione: "
-              "esci dalla sessione, rientra e collegati di nuovo.\n\n"
+              u"La porta seriale /dev/ttyUSB0 è riservata al gruppo \"dialout\".\n\n"
+              "Il tuo utente \"maria\" ne fa già parte, ma solo da dopo l'inizio di questa "
+              "sessione: esci dalla sessione, rientra e collegati di nuovo.\n\n"
               "Accesso alla porta negato"_s);
 }
 
 TEST(PermessiPorta, where_no_group_helps_the_text_names_none)
 {
     EXPECT_EQ(spiegaPermessi({u"/dev/ttyUSB0"_s, u"maria"_s, {}, false}),
-              u"Il tuo utente \"maria\" non ha il permesso di usare la porta seriale "
-              "/dev/ttyUSB0.\n\n"
-              "Chiedi a chi amministra il computer di dartelo.\n\n"
+              u"La porta seriale /dev/ttyUSB0 non è permessa al tuo utente \"maria\".\n\n"
+              "Chiedi a chi amministra il computer di permettergliela.\n\n"
               "Accesso alla porta negato"_s);
 }
 
