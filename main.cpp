@@ -75,6 +75,7 @@ int main(int argc, char **argv)
     installaItaliano(app);
     QApplication::setApplicationName(u"Lumbra"_s);
     impostaAspetto();
+    QApplication::setDesktopFileName(u"lumbra"_s);
     QApplication::setWindowIcon(Disegni::icona(u"lumbra"));
     const QString cartella = trovaCartellaProgramma();
 

@@ -70,8 +70,13 @@ void frmImpCondizioni::collegaEventi()
 QString frmImpCondizioni::condizioneCorrente() const
 {
     QString condizione;
-    passaErrori([&] { condizione = m_lstCondizioni.List(m_lstFile.ListIndex()); });
+    passaErrori([&] { condizione = m_lstCondizioni.List(m_riga); });
     return condizione;
+}
+
+void frmImpCondizioni::Load()
+{
+    m_riga = m_lstFile.ListIndex();
 }
 
 void frmImpCondizioni::Activate()
@@ -268,7 +273,7 @@ void frmImpCondizioni::pulOK_Click()
         if (Tag() == u"Predefinita")
             ProgDat::scriviCondizione(condizione);
         else
-            m_lstCondizioni.setList(m_lstFile.ListIndex(), condizione);
+            m_lstCondizioni.setList(m_riga, condizione);
         setTag(u"OK"_s);
         Nascondi();
     } catch (const Errore &) {

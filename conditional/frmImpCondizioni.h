@@ -60,6 +60,7 @@ public:
 
 protected:
     void Disegno() override;
+    void Load() override;
     void Activate() override;
     void QueryUnload(bool &Cancel, Chiusura UnloadMode) override;
 
@@ -108,6 +109,8 @@ private:
     QString componi();
 
     Elenco &m_lstFile;
+    // The row that was current when the dialog was opened: a list that starts meanwhile moves it.
+    int m_riga = -1;
     Elenco &m_lstCondizioni;
     const Orologio &m_orologio;
     const std::array<Ora, 3> m_ore{

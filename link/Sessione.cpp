@@ -22,6 +22,12 @@ constexpr int giriMassimi = 100000;
 constexpr int intervalloIniziale = 1000;
 constexpr int intervalloSeguente = 5000;
 
+void mostraErroreDiCollegamento(const Errore &errore)
+{
+    MostraErrore(errore.descrizione() + u" ("_s + QString::number(errore.numero()) + u')',
+                 u"Collegamento"_s);
+}
+
 } // namespace
 
 Sessione::Sessione(ControlloSeriale &com, const ControlliSessione &controlli,
@@ -135,14 +141,21 @@ void Sessione::ApriPortaSalvata()
     } catch (const Errore &errore) {
         Archivio::abbandona();
         if (errore.numero() != Errore::FileNonTrovato) {
-            MostraErrore(errore.descrizione() + u" ("_s + QString::number(errore.numero()) + u')',
-                         u"Collegamento"_s);
+            mostraErroreDiCollegamento(errore);
             return;
         }
         ChiediPorta();
         COM.setCommPort(Numeri::Intero(m_impostaPorta.txtPorta.Text()));
-        if (!COM.PortOpen())
-            COM.setPortOpen(true);
+        try {
+            if (!COM.PortOpen())
+                COM.setPortOpen(true);
+        } catch (const Errore &apertura) {
+            // Any other failure ends the attempt unseen; but it is at the first start of all that
+            // a user without rights has to be told what to do.
+            if (apertura.numero() == Errore::AccessoNegato)
+                mostraErroreDiCollegamento(apertura);
+            throw;
+        }
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QTemporaryFile>
@@ -19,12 +20,41 @@ static bool scrivibile(const QString &cartella)
 
 QString trovaCartellaProgramma()
 {
-    const QString accanto = QCoreApplication::applicationDirPath();
-    if (scrivibile(accanto))
+    return trovaCartellaProgramma(
+        QCoreApplication::applicationDirPath(),
+        QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation));
+}
+
+QString trovaCartellaProgramma(const QString &accanto, const QString &utente)
+{
+    const QString esempi = QDir::cleanPath(accanto + u"/../share/lumbra/liste"_s);
+    // The administrator may write beside an installed program, too, but nothing of his belongs
+    // there.
+    if (!QFileInfo::exists(esempi) && scrivibile(accanto))
         return accanto;
-    const QString utente = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
     QDir().mkpath(utente);
+    portaEsempi(esempi, utente);
     return utente;
+}
+
+void portaEsempi(const QString &esempi, const QString &cartella)
+{
+    QFile portati(conSeparatore(cartella) + u".esempi"_s);
+    const QStringList nomi = QDir(esempi).entryList({u"*.sqm"_s}, QDir::Files);
+    if (portati.exists() || nomi.isEmpty())
+        return;
+    bool tutti = true;
+    for (const QString &nome : nomi) {
+        const QString copia = conSeparatore(cartella) + nome;
+        if (QFileInfo::exists(copia))
+            continue;
+        if (QFile::copy(conSeparatore(esempi) + nome, copia))
+            QFile::setPermissions(copia, QFile::permissions(copia) | QFile::WriteOwner);
+        else
+            tutti = false;
+    }
+    if (tutti)
+        portati.open(QIODevice::WriteOnly);
 }
 
 QString nomeDelFile(const QString &percorso)

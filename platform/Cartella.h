@@ -4,8 +4,17 @@
 #include <QString>
 
 // The folder of the executable where it can be written to, else the user's data folder for the
-// program, which is made where it is missing. Asked once, at the start.
+// program, which is made where it is missing and gets the sample lists. An installed program, with
+// its share/lumbra beside its bin, always takes the user's folder. Asked once, at the start.
 QString trovaCartellaProgramma();
+
+// The same for an executable in the folder accanto and a user with the data folder utente.
+QString trovaCartellaProgramma(const QString &accanto, const QString &utente);
+
+// Copies the lists of the folder esempi into the program's folder, once: what the user has of the
+// same name stays, and what he deletes later does not come back. Failures are passed over; what
+// failed is tried again at the next call.
+void portaEsempi(const QString &esempi, const QString &cartella);
 
 // The name behind the last backslash or "/" of a path, or the whole text.
 QString nomeDelFile(const QString &percorso);

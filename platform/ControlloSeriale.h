@@ -25,7 +25,7 @@ public:
     // Comes into use at the next opening; a number below 1 is Errore::PortaInesistente.
     void setCommPort(int numero);
     bool PortOpen() const { return m_porta->aperta(); }
-    // Opening fails with Errore::PortaInesistente or Errore::PortaInUso.
+    // Opening fails with Errore::PortaInesistente, PortaInUso or AccessoNegato.
     void setPortOpen(bool aperta);
 
     // One write, with the operating system when this returns. Errore::PORT_NOT_OPEN where the port

@@ -12,7 +12,8 @@ class Porta
 public:
     virtual ~Porta() = default;
 
-    // Errore::PortaInesistente where there is no such line, PortaInUso where somebody has it.
+    // Errore::PortaInesistente where there is no such line, PortaInUso where somebody has it,
+    // AccessoNegato, saying what to do, where the user has no right to it.
     virtual void apri(const QString &percorso) = 0;
     // Any number of times.
     virtual void chiudi() = 0;

@@ -1,9 +1,9 @@
 #include "PortaAsio.h"
 
 #include "Errore.h"
+#include "PermessiPorta.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QSocketNotifier>
 #include <asio/io_context.hpp>
 #include <asio/serial_port.hpp>
@@ -52,9 +52,7 @@ static Errore erroreDiApertura(const asio::error_code &errore, const QString &pe
         return Errore(Errore::PortaInUso);
     case EACCES:
     case EPERM:
-        return Errore(Errore::AccessoNegato,
-                      u"Non hai i permessi per usare la porta seriale %1: il tuo utente deve far "
-                      "parte del gruppo \"%2\""_s.arg(percorso, QFileInfo(percorso).group()));
+        return Errore(Errore::AccessoNegato, spiegaPermessi(permessiPorta(percorso)));
     default:
         return Errore(Errore::PortaInesistente);
     }

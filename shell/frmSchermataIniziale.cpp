@@ -6,6 +6,7 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QScreen>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -35,6 +36,9 @@ void frmSchermataIniziale::disponi()
 {
     setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
     setFixedSize(520, 300);
+    // Boxes of the start stand over this window: its place must be known before the system tells
+    // it.
+    move(screen()->availableGeometry().center() - rect().center());
     Frame1.setGeometry(rect());
     Frame1.setColori(palette().color(QPalette::Base), QColor(0x1F, 0x5F, 0x8B), 0, 2);
     const auto grande = [](QLabel &etichetta, double punti, bool grassetto) {

@@ -19,7 +19,7 @@ void PortaFinta::apri(const QString &percorso)
     ++aperture;
     percorsoAperto = percorso;
     if (apertura != 0)
-        throw Errore(apertura);
+        throw Errore(apertura, motivo);
     m_aperta = true;
     aggiorna();
 }

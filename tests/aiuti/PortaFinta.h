@@ -33,8 +33,10 @@ public:
     void fallisciAlla(int numero);
     // While true every write fails with Errore::LineaPersa.
     bool persa = false;
-    // The error number of the next openings; 0 lets them pass.
+    // The error number of the next openings, 0 lets them pass; and its text, where it is not the
+    // usual one.
     int apertura = 0;
+    QString motivo;
     QString percorsoAperto;
     int aperture = 0;
     int chiusure = 0;

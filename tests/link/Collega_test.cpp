@@ -277,6 +277,50 @@ TEST(Collega, AFailedOpeningAfterThePortDialogIsNotTold)
 
 namespace {
 
+// What was told of the port, in order.
+QStringList dettoDellaPorta(const BancoSessioneFinta &p)
+{
+    QStringList testi;
+    for (const MessaggioVisto &visto : p.messaggi.visti())
+        if (visto.titolo == u"Errore - Collegamento"_s)
+            testi << visto.testo;
+    return testi;
+}
+
+} // namespace
+
+TEST(Collega, AUserWithoutRightsIsToldWhatToDoEvenAfterThePortDialog)
+{
+    BancoSessioneFinta p;
+    QFile::remove(p.cartella.percorso(u"Porta COM"_s));
+    p.porta.apertura = Errore::AccessoNegato;
+    p.porta.motivo = u"Entra nel gruppo"_s;
+    const ConModale dialogo(u"frmImpostaPorta"_s, [&] { p.impostaPorta.pulOK.click(); });
+    p.banco.tmrSensori.setInterval(0);
+    p.sessione.Collega();
+    EXPECT_EQ(dettoDellaPorta(p), QStringList{u"Entra nel gruppo (75)"_s});
+    // The attempt goes on as after any other failure.
+    EXPECT_EQ(p.cartella.leggi(u"Porta COM"_s), "1\r\n");
+    EXPECT_EQ(p.pannello(1), u"Connesso"_s);
+    EXPECT_FALSE(p.banco.COM.PortOpen());
+}
+
+TEST(Collega, AUserWithoutRightsIsToldOnceAnAttempt)
+{
+    BancoSessioneFinta p;
+    p.porta.apertura = Errore::AccessoNegato;
+    p.porta.motivo = u"Entra nel gruppo"_s;
+    p.banco.tmrSensori.setInterval(0);
+    p.banco.tmrControllaConn.setInterval(0);
+    for (int tentativo = 1; tentativo <= 2; ++tentativo) {
+        p.sessione.Collega();
+        p.sessione.Scollega();
+        EXPECT_EQ(dettoDellaPorta(p), QStringList(tentativo, u"Entra nel gruppo (75)"_s));
+    }
+}
+
+namespace {
+
 struct CasoPorta
 {
     const char *nome;
@@ -314,16 +358,17 @@ TEST_P(PortaSbagliata, IsToldWithItsNumberAndTheAttemptGoesOnToTheEnd)
 
 INSTANTIATE_TEST_SUITE_P(
     Collega, PortaSbagliata,
-    ::testing::Values(CasoPorta{"Vuota", "", 0, Errore::FineDelFile},
-                      CasoPorta{"SoloRigaVuota", "\r\n", 0, Errore::FineDelFile},
-                      CasoPorta{"NonUnNumero", "ciao\r\n", 0, Errore::PortaInesistente},
-                      CasoPorta{"Zero", "0\r\n", 0, Errore::PortaInesistente},
-                      CasoPorta{"Negativa", "-1\r\n", 0, Errore::Overflow},
-                      CasoPorta{"Enorme", "256\r\n", 0, Errore::Overflow},
-                      CasoPorta{"MilleCifre", QByteArray(1000, '9'), 0, Errore::Overflow},
-                      CasoPorta{"InUso", "3\r\n", Errore::PortaInUso, Errore::PortaInUso},
-                      CasoPorta{"Inesistente", "3\r\n", Errore::PortaInesistente,
-                                Errore::PortaInesistente}),
+    ::testing::Values(
+        CasoPorta{"Vuota", "", 0, Errore::FineDelFile},
+        CasoPorta{"SoloRigaVuota", "\r\n", 0, Errore::FineDelFile},
+        CasoPorta{"NonUnNumero", "ciao\r\n", 0, Errore::PortaInesistente},
+        CasoPorta{"Zero", "0\r\n", 0, Errore::PortaInesistente},
+        CasoPorta{"Negativa", "-1\r\n", 0, Errore::Overflow},
+        CasoPorta{"Enorme", "256\r\n", 0, Errore::Overflow},
+        CasoPorta{"MilleCifre", QByteArray(1000, '9'), 0, Errore::Overflow},
+        CasoPorta{"InUso", "3\r\n", Errore::PortaInUso, Errore::PortaInUso},
+        CasoPorta{"SenzaPermessi", "3\r\n", Errore::AccessoNegato, Errore::AccessoNegato},
+        CasoPorta{"Inesistente", "3\r\n", Errore::PortaInesistente, Errore::PortaInesistente}),
     [](const auto &caso) { return caso.param.nome; });
 
 TEST(Collega, ADirectoryInPlaceOfThePortFileIsTold)

@@ -35,6 +35,107 @@ TEST(Cartella, the_programs_folder_is_the_users_where_the_executables_cannot_be_
     qunsetenv("XDG_DATA_HOME");
 }
 
+namespace {
+
+// A tree with the folders of an installed program, and a user's data folder that is not made yet.
+struct Albero
+{
+    QTemporaryDir radice;
+    QString bin = radice.filePath(u"usr/bin"_s);
+    QString liste = radice.filePath(u"usr/share/lumbra/liste"_s);
+    QString utente = radice.filePath(u"casa/dati/Lumbra"_s);
+
+    Albero() { QDir().mkpath(bin); }
+    void esempio(const QString &nome, const QByteArray &contenuto) const
+    {
+        QDir().mkpath(liste);
+        scrivi(liste + u'/' + nome, contenuto);
+    }
+    static void scrivi(const QString &percorso, const QByteArray &contenuto)
+    {
+        QFile file(percorso);
+        if (!file.open(QIODevice::WriteOnly) || file.write(contenuto) != contenuto.size())
+            qFatal("no file");
+    }
+    static QByteArray leggi(const QString &percorso)
+    {
+        QFile file(percorso);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : "none";
+    }
+    QStringList dati() const { return QDir(utente).entryList({u"*.sqm"_s}, QDir::Files); }
+};
+
+} // namespace
+
+TEST(Cartella, an_installed_program_takes_the_users_folder_though_it_could_write_beside_itself)
+{
+    const Albero albero;
+    albero.esempio(u"saluto.sqm"_s, "Pausa 1\r\n");
+    EXPECT_EQ(trovaCartellaProgramma(albero.bin, albero.utente), albero.utente);
+    EXPECT_TRUE(QFileInfo(albero.utente).isWritable());
+    EXPECT_TRUE(QDir(albero.bin).isEmpty());
+}
+
+TEST(Cartella, without_what_an_installed_program_has_it_is_the_one_beside)
+{
+    const Albero albero;
+    EXPECT_EQ(trovaCartellaProgramma(albero.bin, albero.utente), albero.bin);
+    EXPECT_FALSE(QFileInfo::exists(albero.utente));
+}
+
+TEST(Cartella, the_first_start_brings_the_sample_lists)
+{
+    const Albero albero;
+    albero.esempio(u"saluto.sqm"_s, "Pausa 1\r\n");
+    albero.esempio(u"ballo.sqm"_s, "Pausa 2\r\n");
+    albero.esempio(u"leggimi.txt"_s, "no list");
+    ASSERT_TRUE(QFile::setPermissions(albero.liste + u"/ballo.sqm"_s, QFile::ReadOwner));
+    trovaCartellaProgramma(albero.bin, albero.utente);
+    EXPECT_EQ(albero.dati(), (QStringList{u"ballo.sqm"_s, u"saluto.sqm"_s}));
+    EXPECT_EQ(Albero::leggi(albero.utente + u"/saluto.sqm"_s), "Pausa 1\r\n");
+    EXPECT_TRUE(QFile::permissions(albero.utente + u"/ballo.sqm"_s) & QFile::WriteOwner);
+    EXPECT_FALSE(QFileInfo::exists(albero.utente + u"/leggimi.txt"_s));
+}
+
+TEST(Cartella, a_sample_list_never_takes_the_place_of_the_users)
+{
+    const Albero albero;
+    albero.esempio(u"saluto.sqm"_s, "Pausa 1\r\n");
+    albero.esempio(u"ballo.sqm"_s, "Pausa 2\r\n");
+    ASSERT_TRUE(QDir().mkpath(albero.utente));
+    Albero::scrivi(albero.utente + u"/saluto.sqm"_s, "mine");
+    trovaCartellaProgramma(albero.bin, albero.utente);
+    EXPECT_EQ(Albero::leggi(albero.utente + u"/saluto.sqm"_s), "mine");
+    EXPECT_EQ(Albero::leggi(albero.utente + u"/ballo.sqm"_s), "Pausa 2\r\n");
+}
+
+TEST(Cartella, a_sample_list_that_the_user_deleted_or_changed_stays_so)
+{
+    const Albero albero;
+    albero.esempio(u"saluto.sqm"_s, "Pausa 1\r\n");
+    albero.esempio(u"ballo.sqm"_s, "Pausa 2\r\n");
+    trovaCartellaProgramma(albero.bin, albero.utente);
+    ASSERT_TRUE(QFile::remove(albero.utente + u"/saluto.sqm"_s));
+    Albero::scrivi(albero.utente + u"/ballo.sqm"_s, "mine");
+    trovaCartellaProgramma(albero.bin, albero.utente);
+    EXPECT_EQ(albero.dati(), QStringList{u"ballo.sqm"_s});
+    EXPECT_EQ(Albero::leggi(albero.utente + u"/ballo.sqm"_s), "mine");
+}
+
+TEST(Cartella, sample_lists_that_could_not_be_copied_come_at_the_next_start)
+{
+    const Albero albero;
+    albero.esempio(u"saluto.sqm"_s, "Pausa 1\r\n");
+    // A file in the folder's place: nothing can be written there, not even by root.
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(albero.utente).path()));
+    Albero::scrivi(albero.utente, "");
+    portaEsempi(albero.liste, albero.utente);
+    ASSERT_TRUE(QFile::remove(albero.utente));
+    ASSERT_TRUE(QDir().mkpath(albero.utente));
+    portaEsempi(albero.liste, albero.utente);
+    EXPECT_EQ(albero.dati(), QStringList{u"saluto.sqm"_s});
+}
+
 TEST(Cartella, a_name_is_cut_behind_the_last_backslash_or_slash)
 {
     const struct

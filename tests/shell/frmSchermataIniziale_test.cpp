@@ -3,6 +3,7 @@
 #include "Attesa.h"
 #include "Scritte.h"
 
+#include <QScreen>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -33,6 +34,13 @@ TEST(SchermataIniziale, StartsWithTheAnimationOffAndTheFlagAtZero)
     EXPECT_FALSE(splash.tmrAnimazione.Enabled());
     EXPECT_EQ(splash.pulNonCollegare.Tag(), u"0"_s);
     EXPECT_EQ(splash.imgAttesa.Picture(), 0);
+}
+
+TEST(SchermataIniziale, StandsInTheMiddleOfTheScreen)
+{
+    frmSchermataIniziale splash;
+    splash.Mostra();
+    EXPECT_EQ(splash.geometry().center(), splash.screen()->availableGeometry().center());
 }
 
 TEST(SchermataIniziale, NonCollegareSetsItsTagAndNothingElse)

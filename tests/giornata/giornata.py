@@ -1,0 +1,272 @@
+"""A user's day with the program, through the real window system: drive, build a list by doing, save
+it, run it, let a condition start it, watch the camera, acquire two pictures, find one of them,
+fetch a photo, close with unsaved work. The robot's diary is the judge.
+
+giornata.py PROGRAM FOLDER DIARY PICTURES: the program's file, its folder, what the simulated robot
+writes, and where the pictures go."""
+
+import hashlib
+import os
+import subprocess
+import sys
+
+from schermo import Schermo, attendi, raccogli, xdotool
+
+CONSOLE = "Lumbra Tessaro"
+SEQUOR = "Sequor"
+VIGILIO = "Vigilio"
+CONDIZIONE = "Imposta condizione di avvio"
+CAMERA = "Videocamera"
+RISORSE = "Esplora Risorse"
+NOME = "Dai un nome all'immagine"
+
+programma, cartella, diario, foto = sys.argv[1:]
+s = Schermo("Lumbra", diario, foto)
+
+
+def avvia():
+    processo = subprocess.Popen([programma], cwd=cartella)
+    attendi("the console", lambda: s.finestra(CONSOLE))
+    attendi("the session", lambda: s.testo(CONSOLE, "label", "Connesso"))
+    davanti(CONSOLE)
+    return processo
+
+
+def davanti(titolo):
+    numero = xdotool("search", "--onlyvisible", "--name", f"^{titolo}").splitlines()[-1]
+    xdotool("windowactivate", "--sync", numero)
+    s.in_primo_piano(titolo)
+
+
+def apri(strumento, titolo):
+    """Opens a window by the console's toolbar."""
+    davanti(CONSOLE)
+    s.premi(CONSOLE, strumento)
+    attendi(titolo, lambda: s.finestra(titolo))
+    s.in_primo_piano(titolo)
+
+
+def righe():
+    trovate = []
+    raccogli(s.finestra(SEQUOR), "list item", None, trovate)
+    return [riga.name for riga in trovate]
+
+
+def aggiunta(riga):
+    attendi(f"line {riga!r}", lambda: riga in righe())
+
+
+def guida():
+    """By hand: a key held until the robot goes, the space bar, an arrow on the screen."""
+    xdotool("keydown", "Up")
+    s.attendi_robot("BaseAvanti v=1")
+    s.foto("guida")
+    xdotool("keyup", "Up")
+    s.tasti("space")
+    s.attendi_robot("BaseStop")
+
+
+def costruisci():
+    """A list by doing: what is done on the console becomes lines."""
+    apri("Accedi all'editor delle mosse Sequor", SEQUOR)
+    davanti(CONSOLE)
+    s.premi(CONSOLE, "Pronuncia frase")
+    aggiunta("Frase 1")
+    s.premi(CONSOLE, "Scatta una foto")
+    aggiunta("Foto")
+    s.premi(CONSOLE, "Controlla la testa")
+    s.tasti("Left")
+    aggiunta("Testa sinistra 2")
+
+    davanti(SEQUOR)
+    s.menu(SEQUOR, "Inserisci", "Pausa")
+    dialogo = "Inserisci la durata della pausa"
+    attendi(dialogo, lambda: s.finestra(dialogo))
+    s.in_primo_piano(dialogo)
+    s.tasti("ctrl+a")
+    s.scrivi("700")
+    s.foto("valore")
+    s.tasti("Return")
+    aggiunta("Pausa 700")
+    s.menu(SEQUOR, "Inserisci", "Testa", "Destra (2 st)")
+    aggiunta("Testa destra 2")
+    assert righe() == ["Frase 1", "Foto", "Testa sinistra 2", "Pausa 700", "Testa destra 2"], righe()
+
+    s.menu(SEQUOR, "File", "Salva")
+    s.file("Salva con nome", os.path.join(cartella, "giornata.sqm"))
+    attendi("the file's name", lambda: s.testo(SEQUOR, "label", "giornata.sqm"))
+    s.foto("lista")
+    with open(os.path.join(cartella, "giornata.sqm"), "rb") as file:
+        assert file.read() == (b" 4 \r\nFrase 1\r\nFoto\r\nTesta sinistra 2\r\nPausa 700\r\n"
+                               b"Testa destra 2\r\n")
+
+
+def lista_fatta(volte):
+    """The robot has done the list's lines this many times, in their order."""
+    for cosa in ("Riproduci n=67", "ScattaFoto", "TestaSinistra n=2", "TestaDestra n=2"):
+        s.attendi_robot(cosa, volte)
+    ordine = [riga for riga in s.diario()
+              if any(cosa in riga for cosa in ("Riproduci", "ScattaFoto", "TestaS", "TestaD"))]
+    attese = ["Riproduci", "ScattaFoto", "TestaSinistra", "TestaDestra"] * volte
+    assert len(ordine) == len(attese), ordine
+    assert all(cosa in riga for cosa, riga in zip(attese, ordine)), ordine
+
+
+def esegui():
+    davanti(SEQUOR)
+    s.premi(SEQUOR, "ESEGUI")
+    s.controllo(SEQUOR, "push button", "STOP")
+    s.attendi_robot("ScattaFoto")
+    s.foto("corsa")
+    lista_fatta(1)
+    s.controllo(SEQUOR, "push button", "ESEGUI")
+
+
+def vigila():
+    """A condition on the temperature, which the robot has: the list starts by itself."""
+    apri("Accedi al Vigilio", VIGILIO)
+    s.menu(VIGILIO, "Opzioni", "Deseleziona le liste una volta eseguite")
+    trovate = []
+    raccogli(s.finestra(VIGILIO), "list item", None, trovate)
+    raccogli(s.finestra(VIGILIO), "check box", None, trovate)
+    riga = next(riga for riga in trovate if riga.name.startswith("giornata.sqm"))
+    s.clic(riga, dx=0.3, volte=2)
+    attendi(CONDIZIONE, lambda: s.finestra(CONDIZIONE))
+    s.in_primo_piano(CONDIZIONE)
+    gradi(24)
+    s.foto("condizione")
+    s.premi(CONDIZIONE, "OK")
+    attendi("the dialog gone", lambda: not s.finestra(CONDIZIONE))
+    s.foto("vigilio")
+    s.menu(VIGILIO, "File", "Salva con nome")
+    s.file("Salva con nome", os.path.join(cartella, "giornata.vgp"))
+    with open(os.path.join(cartella, "giornata.vgp"), encoding="cp1252") as file:
+        assert '"giornata.sqm",#TRUE#,"no,no,24,no,no"\n' in file.read()
+
+    s.premi(VIGILIO, "AVVIA")
+    s.attendi_robot("Riproduci n=67", 2)
+    s.foto("avviata")
+    lista_fatta(2)
+    s.controllo(VIGILIO, "push button", "AVVIA")  # nothing is left to wait for
+    s.premi(VIGILIO, "Salva")
+    davanti(VIGILIO)
+    s.tasti("alt+F4")
+    attendi("the runner gone", lambda: not s.finestra(VIGILIO))
+
+
+def gradi(quanti):
+    """Chooses in the one combo box that holds degrees."""
+    trovate = []
+    raccogli(s.finestra(CONDIZIONE), "combo box", None, trovate)
+    temperatura = next(casella for casella in trovate if casella.name == "25")
+    s.clic(temperatura)
+    s.controllo(CONDIZIONE, "list item", str(quanti))
+    s.scrivi(str(quanti))
+    s.tasti("Return")
+
+
+def guarda():
+    """The camera, and two pictures cut out of what it shows."""
+    apri("Accedi alla visione della Videocamera di Tessaro", CAMERA)
+    s.attendi_robot("AvviaVideo partenza")
+    for nome, da, a in (("quadro", (0.24, 0.05), (0.5, 0.3)), ("palla", (0.5, 0.72), (0.74, 0.96))):
+        schermo = s.controllo(CAMERA, "filler", "Immagine della videocamera")
+        davanti(CAMERA)
+        s.vai(schermo, *da)
+        xdotool("mousedown", 1)
+        s.vai(schermo, *((x + y) / 2 for x, y in zip(da, a)))
+        s.vai(schermo, *a)
+        s.foto("selezione")
+        xdotool("mouseup", 1)
+        attendi(NOME, lambda: s.finestra(NOME))
+        s.in_primo_piano(NOME)
+        s.scrivi(nome)
+        s.foto("nome")
+        s.premi(NOME, "OK")
+        attendi("the dialog gone", lambda: not s.finestra(NOME))
+    with open(os.path.join(cartella, "Immagini.dat"), "rb") as file:
+        immagini = file.read().split(b"\r")
+    assert [riga.split(b",")[0] for riga in immagini] == [b'"Quadro"', b'"Palla"'], immagini
+    davanti(CAMERA)
+    s.tasti("alt+F4")
+    attendi("the camera gone", lambda: not s.finestra(CAMERA))
+    s.attendi_robot("FermaVideo")
+
+
+def ritrova():
+    """The second picture is looked for from the next start on."""
+    apri("Accedi alla visione della Videocamera di Tessaro", CAMERA)
+    attendi("the picture found", lambda: s.testo(CAMERA, "label", "Palla"))
+    s.foto("ritrovata")
+    davanti(CAMERA)
+    s.tasti("alt+F4")
+    attendi("the camera gone", lambda: not s.finestra(CAMERA))
+
+
+def preleva():
+    """A photo from the robot's storage, the same byte for byte."""
+    apri("Esplora i file all'interno di Tessaro", RISORSE)
+    s.clic(s.controllo(RISORSE, "list item", "salotto.jpg"), dx=0.05, volte=2)
+    presa = os.path.join(cartella, "salotto.jpg")
+    attendi("the photo", lambda: os.path.exists(presa))
+    attendi("the photo's window", lambda: s.finestra("salotto.jpg") or s.finestra(RISORSE))
+    s.foto("prelevata")
+    assert impronta(presa) == impronta(os.path.join(cartella, "memoria", "disk", "salotto.jpg"))
+    davanti(RISORSE)
+    s.tasti("alt+F4")
+    attendi("the file window gone", lambda: not s.finestra(RISORSE))
+
+
+def impronta(percorso):
+    with open(percorso, "rb") as file:
+        return hashlib.sha256(file.read()).hexdigest()
+
+
+def chiudi(processo):
+    """Work that is not saved: the question comes, Cancel keeps all, No lets it go."""
+    apri("Accedi all'editor delle mosse Sequor", SEQUOR)
+    s.menu(SEQUOR, "Inserisci", "Base", "Stop")
+    aggiunta("Stop")
+    for risposta in ("Annulla", "No"):
+        davanti(CONSOLE)
+        s.tasti("alt+F4")
+        domanda = attendi("the question", lambda: s.finestra(SEQUOR) and dialogo_sequor())
+        s.foto("domanda")
+        premi_dialogo(domanda, risposta)
+        if risposta == "Annulla":
+            attendi("the question gone", lambda: not dialogo_sequor())
+            assert righe() == ["Stop"], righe()
+    processo.wait(timeout=60)
+    assert processo.returncode == 0, processo.returncode
+
+
+def dialogo_sequor():
+    for finestra in s.applicazione():
+        if finestra.getRoleName() in ("alert", "dialog") and finestra.name == SEQUOR:
+            return finestra
+    return None
+
+
+def premi_dialogo(dialogo, risposta):
+    trovati = []
+    raccogli(dialogo, "push button", None, trovati)
+    s.clic(next(p for p in trovati if p.name.replace("&", "") == risposta))
+
+
+processo = avvia()
+s.foto("console")
+guida()
+costruisci()
+esegui()
+vigila()
+guarda()
+davanti(CONSOLE)
+s.tasti("alt+F4")
+processo.wait(timeout=60)
+s.attendi_robot("ChiudiSessione", 1)
+
+processo = avvia()
+ritrova()
+preleva()
+chiudi(processo)
+s.attendi_robot("ChiudiSessione", 2)
