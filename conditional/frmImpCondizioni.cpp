@@ -82,12 +82,14 @@ void frmImpCondizioni::Load()
 void frmImpCondizioni::Activate()
 {
     const QString condizione = condizioneCorrente();
+    QString lista;
+    passaErrori([&] { lista = m_lstFile.List(m_riga); });
     // From the start text, as the window may be activated more than once.
     lblSpiegazione.setCaption(
         Tag() == u"Predefinita"
             ? u"Imposta la condizione predefinita per l'avvio automatico delle liste"_s
             : spiegazione.toString() + u'"' +
-                  senzaBianchiInFondo(m_lstFile.Text().left(lunghezzaNome)) + u'"');
+                  senzaBianchiInFondo(lista.left(lunghezzaNome)) + u'"');
     for (int i = frame.prima(); i <= frame.ultima(); ++i) {
         if (campoNo(condizione, i))
             continue;
