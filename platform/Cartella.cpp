@@ -40,7 +40,7 @@ QString trovaCartellaProgramma(const QString &accanto, const QString &utente)
 void portaEsempi(const QString &esempi, const QString &cartella)
 {
     QFile portati(conSeparatore(cartella) + u".esempi"_s);
-    const QStringList nomi = QDir(esempi).entryList({u"*.sqm"_s}, QDir::Files);
+    const QStringList nomi = QDir(esempi).entryList({u"*.sqm"_s, u"prog.dat"_s}, QDir::Files);
     if (portati.exists() || nomi.isEmpty())
         return;
     bool tutti = true;
