@@ -12,7 +12,9 @@ import sys
 
 from schermo import Schermo, attendi, raccogli, xdotool
 
+SPLASH = "Lumbra"
 CONSOLE = "Lumbra Tessaro"
+OPZIONI = "Opzioni"
 SEQUOR = "Sequor"
 VIGILIO = "Vigilio"
 CONDIZIONE = "Imposta condizione di avvio"
@@ -26,6 +28,8 @@ s = Schermo("Lumbra", diario, foto)
 
 def avvia():
     processo = subprocess.Popen([programma], cwd=cartella)
+    attendi("the splash", lambda: s.finestra(SPLASH))
+    s.foto("avvio", SPLASH)
     attendi("the console", lambda: s.finestra(CONSOLE))
     attendi("the session", lambda: s.testo(CONSOLE, "label", "Connesso"))
     davanti(CONSOLE)
@@ -60,10 +64,34 @@ def guida():
     """By hand: a key held until the robot goes, the space bar, an arrow on the screen."""
     xdotool("keydown", "Up")
     s.attendi_robot("BaseAvanti v=1")
-    s.foto("guida")
+    s.foto("guida", CONSOLE)
     xdotool("keyup", "Up")
     s.tasti("space")
     s.attendi_robot("BaseStop")
+
+
+def imposta():
+    """The options, stored once: the file that they lie in holds the runner's default, too."""
+    davanti(CONSOLE)
+    s.premi(CONSOLE, "Accedi alle opzioni")
+    attendi(OPZIONI, lambda: s.finestra(OPZIONI))
+    s.in_primo_piano(OPZIONI)
+    s.foto("opzioni", OPZIONI)
+    s.premi(OPZIONI, "OK")
+    attendi("the options gone", lambda: not s.finestra(OPZIONI))
+    assert os.path.exists(os.path.join(cartella, "prog.dat"))
+
+
+def numero(voce, titolo, cosa):
+    """A number asked for by the value dialog."""
+    s.menu(SEQUOR, "Inserisci", voce)
+    attendi(titolo, lambda: s.finestra(titolo))
+    s.in_primo_piano(titolo)
+    s.tasti("ctrl+a")
+    s.scrivi(cosa)
+    s.foto("valore", titolo)
+    s.tasti("Return")
+    aggiunta(f"{voce} {cosa}")
 
 
 def costruisci():
@@ -79,35 +107,30 @@ def costruisci():
     aggiunta("Testa sinistra 2")
 
     davanti(SEQUOR)
-    s.menu(SEQUOR, "Inserisci", "Pausa")
-    dialogo = "Inserisci la durata della pausa"
-    attendi(dialogo, lambda: s.finestra(dialogo))
-    s.in_primo_piano(dialogo)
-    s.tasti("ctrl+a")
-    s.scrivi("700")
-    s.foto("valore")
-    s.tasti("Return")
-    aggiunta("Pausa 700")
+    numero("Pausa", "Inserisci la durata della pausa", "700")
+    numero("Frase", "Inserisci il numero della frase desiderata", "12")
     s.menu(SEQUOR, "Inserisci", "Testa", "Destra (2 st)")
     aggiunta("Testa destra 2")
-    assert righe() == ["Frase 1", "Foto", "Testa sinistra 2", "Pausa 700", "Testa destra 2"], righe()
+    assert righe() == ["Frase 1", "Foto", "Testa sinistra 2", "Pausa 700", "Frase 12", "Testa destra 2"], righe()
 
     s.menu(SEQUOR, "File", "Salva")
     s.file("Salva con nome", os.path.join(cartella, "giornata.sqm"))
     attendi("the file's name", lambda: s.testo(SEQUOR, "label", "giornata.sqm"))
-    s.foto("lista")
+    s.foto("sequor", SEQUOR, CONSOLE)
     with open(os.path.join(cartella, "giornata.sqm"), "rb") as file:
-        assert file.read() == (b" 4 \r\nFrase 1\r\nFoto\r\nTesta sinistra 2\r\nPausa 700\r\n"
-                               b"Testa destra 2\r\n")
+        assert file.read() == (b" 5 \r\nFrase 1\r\nFoto\r\nTesta sinistra 2\r\nPausa 700\r\n"
+                               b"Frase 12\r\nTesta destra 2\r\n")
 
 
 def lista_fatta(volte):
     """The robot has done the list's lines this many times, in their order."""
-    for cosa in ("Riproduci n=67", "ScattaFoto", "TestaSinistra n=2", "TestaDestra n=2"):
+    fatte = ["Riproduci n=67", "ScattaFoto", "TestaSinistra n=2", "Riproduci n=78",
+             "TestaDestra n=2"]
+    for cosa in fatte:
         s.attendi_robot(cosa, volte)
     ordine = [riga for riga in s.diario()
               if any(cosa in riga for cosa in ("Riproduci", "ScattaFoto", "TestaS", "TestaD"))]
-    attese = ["Riproduci", "ScattaFoto", "TestaSinistra", "TestaDestra"] * volte
+    attese = fatte * volte
     assert len(ordine) == len(attese), ordine
     assert all(cosa in riga for cosa, riga in zip(attese, ordine)), ordine
 
@@ -117,7 +140,7 @@ def esegui():
     s.premi(SEQUOR, "ESEGUI")
     s.controllo(SEQUOR, "push button", "STOP")
     s.attendi_robot("ScattaFoto")
-    s.foto("corsa")
+    s.foto("corsa", SEQUOR)
     lista_fatta(1)
     s.controllo(SEQUOR, "push button", "ESEGUI")
 
@@ -134,10 +157,10 @@ def vigila():
     attendi(CONDIZIONE, lambda: s.finestra(CONDIZIONE))
     s.in_primo_piano(CONDIZIONE)
     gradi(24)
-    s.foto("condizione")
+    s.foto("condizione", CONDIZIONE)
     s.premi(CONDIZIONE, "OK")
     attendi("the dialog gone", lambda: not s.finestra(CONDIZIONE))
-    s.foto("vigilio")
+    s.foto("vigilio", VIGILIO)
     s.menu(VIGILIO, "File", "Salva con nome")
     s.file("Salva con nome", os.path.join(cartella, "giornata.vgp"))
     with open(os.path.join(cartella, "giornata.vgp"), encoding="cp1252") as file:
@@ -176,12 +199,12 @@ def guarda():
         xdotool("mousedown", 1)
         s.vai(schermo, *((x + y) / 2 for x, y in zip(da, a)))
         s.vai(schermo, *a)
-        s.foto("selezione")
+        s.foto("camera", CAMERA)
         xdotool("mouseup", 1)
         attendi(NOME, lambda: s.finestra(NOME))
         s.in_primo_piano(NOME)
         s.scrivi(nome)
-        s.foto("nome")
+        s.foto("nome", NOME)
         s.premi(NOME, "OK")
         attendi("the dialog gone", lambda: not s.finestra(NOME))
     with open(os.path.join(cartella, "Immagini.dat"), "rb") as file:
@@ -197,7 +220,7 @@ def ritrova():
     """The second picture is looked for from the next start on."""
     apri("Accedi alla visione della Videocamera di Tessaro", CAMERA)
     attendi("the picture found", lambda: s.testo(CAMERA, "label", "Palla"))
-    s.foto("ritrovata")
+    s.foto("ritrovata", CAMERA)
     davanti(CAMERA)
     s.tasti("alt+F4")
     attendi("the camera gone", lambda: not s.finestra(CAMERA))
@@ -210,7 +233,7 @@ def preleva():
     presa = os.path.join(cartella, "salotto.jpg")
     attendi("the photo", lambda: os.path.exists(presa))
     attendi("the photo's window", lambda: s.finestra("salotto.jpg") or s.finestra(RISORSE))
-    s.foto("prelevata")
+    s.foto("risorse", RISORSE)
     assert impronta(presa) == impronta(os.path.join(cartella, "memoria", "disk", "salotto.jpg"))
     davanti(RISORSE)
     s.tasti("alt+F4")
@@ -231,7 +254,7 @@ def chiudi(processo):
         davanti(CONSOLE)
         s.tasti("alt+F4")
         domanda = attendi("the question", lambda: s.finestra(SEQUOR) and dialogo_sequor())
-        s.foto("domanda")
+        s.foto("domanda", domanda)
         premi_dialogo(domanda, risposta)
         if risposta == "Annulla":
             attendi("the question gone", lambda: not dialogo_sequor())
@@ -254,8 +277,9 @@ def premi_dialogo(dialogo, risposta):
 
 
 processo = avvia()
-s.foto("console")
+s.foto("console", CONSOLE)
 guida()
+imposta()
 costruisci()
 esegui()
 vigila()

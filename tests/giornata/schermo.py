@@ -6,6 +6,7 @@ import time
 
 import pyatspi
 
+BARRA_TITOLO, CORNICE = 21, 1  # pixels around a window, for its picture
 PAZIENZA = 60.0  # seconds that a condition may take before the day is given up
 
 
@@ -111,10 +112,26 @@ class Schermo:
         self.tasti("Return")
         attendi(f"dialog {titolo!r} gone", lambda: not self.finestra(titolo))
 
-    def foto(self, nome):
+    def foto(self, nome, *finestre):
+        """A picture of the screen, and one of these windows (or titles), their frames included,
+        for the manual."""
         self.stazione += 1
-        subprocess.run(["import", "-window", "root",
-                        f"{self.cartella_foto}/{self.stazione:02}-{nome}.png"], check=True)
+        intera = f"{self.cartella_foto}/{self.stazione:02}-{nome}.png"
+        subprocess.run(["import", "-window", "root", intera], check=True)
+        if finestre:
+            self.ritaglia(intera, nome,
+                          [self.finestra(f) if isinstance(f, str) else f for f in finestre])
+
+    def ritaglia(self, intera, nome, finestre):
+        aree = [f.queryComponent().getExtents(pyatspi.DESKTOP_COORDS) for f in finestre]
+        senza_cornice = finestre[0].name == self.programma
+        lato, sopra = (0, 0) if senza_cornice else (CORNICE, BARRA_TITOLO)
+        sinistra = min(a.x for a in aree) - lato
+        alto = min(a.y for a in aree) - sopra
+        larghezza = max(a.x + a.width for a in aree) + lato - sinistra
+        altezza = max(a.y + a.height for a in aree) + lato - alto
+        subprocess.run(["convert", intera, "-crop", f"{larghezza}x{altezza}+{sinistra}+{alto}",
+                        "+repage", f"{self.cartella_foto}/manuale/{nome}.png"], check=True)
 
     # What the robot did.
 
