@@ -67,22 +67,30 @@ void frmImpCondizioni::collegaEventi()
     pulAnnulla.Click.collega(this, &frmImpCondizioni::pulAnnulla_Click);
 }
 
+void frmImpCondizioni::Load()
+{
+    // A list that starts meanwhile becomes the current one.
+    m_riga = m_lstFile.ListIndex();
+}
+
 QString frmImpCondizioni::condizioneCorrente() const
 {
     QString condizione;
-    passaErrori([&] { condizione = m_lstCondizioni.List(m_lstFile.ListIndex()); });
+    passaErrori([&] { condizione = m_lstCondizioni.List(m_riga); });
     return condizione;
 }
 
 void frmImpCondizioni::Activate()
 {
     const QString condizione = condizioneCorrente();
+    QString lista;
+    passaErrori([&] { lista = m_lstFile.List(m_riga); });
     // From the start text, as the window may be activated more than once.
     lblSpiegazione.setCaption(
         Tag() == u"Predefinita"
             ? u"Imposta la condizione predefinita per l'avvio automatico delle liste"_s
-            : spiegazione.toString() + u'"' +
-                  senzaBianchiInFondo(m_lstFile.Text().left(lunghezzaNome)) + u'"');
+            : spiegazione.toString() + u'"' + senzaBianchiInFondo(lista.left(lunghezzaNome)) +
+                  u'"');
     for (int i = frame.prima(); i <= frame.ultima(); ++i) {
         if (campoNo(condizione, i))
             continue;
@@ -268,7 +276,7 @@ void frmImpCondizioni::pulOK_Click()
         if (Tag() == u"Predefinita")
             ProgDat::scriviCondizione(condizione);
         else
-            m_lstCondizioni.setList(m_lstFile.ListIndex(), condizione);
+            m_lstCondizioni.setList(m_riga, condizione);
         setTag(u"OK"_s);
         Nascondi();
     } catch (const Errore &) {

@@ -22,8 +22,9 @@ class frmImpCondizioni : public Finestra
 
 public:
     // The runner's lists: what stands in a row, and the row's condition. The dialog shows and
-    // changes the row that is current in lstFile. With the Tag "Predefinita" it changes the default
-    // condition instead. On leaving, its Tag is "OK", or empty where nothing was changed.
+    // changes the row that is current in lstFile when it is loaded. With the Tag "Predefinita" it
+    // changes the default condition instead. On leaving, its Tag is "OK", or empty where nothing
+    // was changed.
     frmImpCondizioni(Elenco &lstFile, Elenco &lstCondizioni, const Orologio &orologio);
 
     Etichetta lblSpiegazione{u"lblSpiegazione"_s, this};
@@ -60,6 +61,7 @@ public:
 
 protected:
     void Disegno() override;
+    void Load() override;
     void Activate() override;
     void QueryUnload(bool &Cancel, Chiusura UnloadMode) override;
 
@@ -107,6 +109,7 @@ private:
     QString campo(int pannello);
     QString componi();
 
+    int m_riga = -1;
     Elenco &m_lstFile;
     Elenco &m_lstCondizioni;
     const Orologio &m_orologio;
