@@ -67,16 +67,17 @@ void frmImpCondizioni::collegaEventi()
     pulAnnulla.Click.collega(this, &frmImpCondizioni::pulAnnulla_Click);
 }
 
+void frmImpCondizioni::Load()
+{
+    // A list that starts meanwhile becomes the current one.
+    m_riga = m_lstFile.ListIndex();
+}
+
 QString frmImpCondizioni::condizioneCorrente() const
 {
     QString condizione;
     passaErrori([&] { condizione = m_lstCondizioni.List(m_riga); });
     return condizione;
-}
-
-void frmImpCondizioni::Load()
-{
-    m_riga = m_lstFile.ListIndex();
 }
 
 void frmImpCondizioni::Activate()
@@ -88,8 +89,8 @@ void frmImpCondizioni::Activate()
     lblSpiegazione.setCaption(
         Tag() == u"Predefinita"
             ? u"Imposta la condizione predefinita per l'avvio automatico delle liste"_s
-            : spiegazione.toString() + u'"' +
-                  senzaBianchiInFondo(lista.left(lunghezzaNome)) + u'"');
+            : spiegazione.toString() + u'"' + senzaBianchiInFondo(lista.left(lunghezzaNome)) +
+                  u'"');
     for (int i = frame.prima(); i <= frame.ultima(); ++i) {
         if (campoNo(condizione, i))
             continue;

@@ -22,8 +22,9 @@ class frmImpCondizioni : public Finestra
 
 public:
     // The runner's lists: what stands in a row, and the row's condition. The dialog shows and
-    // changes the row that is current in lstFile. With the Tag "Predefinita" it changes the default
-    // condition instead. On leaving, its Tag is "OK", or empty where nothing was changed.
+    // changes the row that is current in lstFile when it is loaded. With the Tag "Predefinita" it
+    // changes the default condition instead. On leaving, its Tag is "OK", or empty where nothing
+    // was changed.
     frmImpCondizioni(Elenco &lstFile, Elenco &lstCondizioni, const Orologio &orologio);
 
     Etichetta lblSpiegazione{u"lblSpiegazione"_s, this};
@@ -109,9 +110,9 @@ private:
     QString componi();
 
     Elenco &m_lstFile;
+    Elenco &m_lstCondizioni;
     // The row that was current when the dialog was opened: a list that starts meanwhile moves it.
     int m_riga = -1;
-    Elenco &m_lstCondizioni;
     const Orologio &m_orologio;
     const std::array<Ora, 3> m_ore{
         {{txtOre, SuGiuOre, 24}, {txtMinuti, SuGiuMinuti, 60}, {txtSecondi, SuGiuSecondi, 60}}};

@@ -86,8 +86,7 @@ void frmImpCondizioni::disponiPannelli()
         casella.setGeometry(bordo, (primaRiga(frame(i)) - latoCasella) / 2, latoCasella,
                             latoCasella);
         casella.setAccessibleName(frame(i).Caption());
-        // Not by the mouse: a box in which a time was typed must not lose the focus to it.
-        casella.setFocusPolicy(Qt::TabFocus);
+        casella.conTastiera();
     }
     disponiOrario();
 

@@ -75,9 +75,16 @@ void Immagine::setBorderStyle(int bordo)
     update();
 }
 
+void Immagine::conTastiera()
+{
+    m_conTastiera = true;
+    // Not by the mouse: a box in which the user types does not lose the focus to a picture.
+    setFocusPolicy(Qt::TabFocus);
+}
+
 void Immagine::keyPressEvent(QKeyEvent *evento)
 {
-    if (evento->key() == Qt::Key_Space && focusPolicy() != Qt::NoFocus) {
+    if (m_conTastiera && evento->key() == Qt::Key_Space) {
         // Held down it stays one click.
         if (!evento->isAutoRepeat())
             Click();
@@ -96,7 +103,7 @@ void Immagine::paintEvent(QPaintEvent *)
         pittore.setPen(palette().color(QPalette::WindowText));
         pittore.drawRect(rect().adjusted(0, 0, -1, -1));
     }
-    if (hasFocus()) {
+    if (m_conTastiera && hasFocus()) {
         pittore.setRenderHint(QPainter::Antialiasing);
         pittore.setBrush(Qt::NoBrush);
         pittore.setPen(QPen(palette().color(QPalette::Highlight), 2));

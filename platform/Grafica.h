@@ -68,8 +68,7 @@ public:
     Evento<> Change;
 };
 
-// A picture, by number from a list or given as such, scaled to the control. One that can have the
-// focus shows it, and is clicked with the space bar, too.
+// A picture, by number from a list or given as such, scaled to the control.
 class Immagine : public Cliccabile<QWidget>
 {
     Q_OBJECT
@@ -91,6 +90,9 @@ public:
     int BorderStyle() const { return m_bordo; }
     void setBorderStyle(int bordo);
 
+    // From now on the Tab key reaches it, it shows the focus, and the space bar clicks it.
+    void conTastiera();
+
 protected:
     void keyPressEvent(QKeyEvent *evento) override;
     void paintEvent(QPaintEvent *) override;
@@ -100,6 +102,7 @@ private:
     QIcon m_disegno;
     int m_numero = 0;
     int m_bordo = 0;
+    bool m_conTastiera = false;
 };
 
 // A rectangle for looks; the mouse goes through it.

@@ -77,17 +77,21 @@ TEST_F(GraficaTest, a_border_is_there_or_not)
     EXPECT_EQ(immagine.BorderStyle(), 1);
 }
 
-TEST_F(GraficaTest, an_image_that_can_have_the_focus_is_clicked_with_the_space_bar)
+TEST_F(GraficaTest, an_image_for_the_keyboard_is_clicked_with_the_space_bar)
 {
     Immagine immagine(u"imgCasella"_s, &finestra, &lista, 1);
     immagine.resize(20, 20);
     int volte = 0;
     immagine.Click.collega([&] { ++volte; });
     finestra.mostraAttiva();
+    immagine.setFocusPolicy(Qt::StrongFocus);
+    immagine.setFocus();
+    ASSERT_TRUE(immagine.hasFocus());
     QTest::keyClick(&immagine, Qt::Key_Space);
-    EXPECT_EQ(volte, 0) << "it cannot have the focus";
+    EXPECT_EQ(volte, 0) << "the focus alone does not make it one";
     const QImage senza = immagine.grab().toImage();
-    immagine.setFocusPolicy(Qt::TabFocus);
+    immagine.clearFocus();
+    immagine.conTastiera();
     QTest::keyClick(&finestra, Qt::Key_Tab);
     ASSERT_TRUE(immagine.hasFocus());
     EXPECT_NE(immagine.grab().toImage(), senza) << "the focus can be seen";
