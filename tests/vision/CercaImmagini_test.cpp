@@ -3,6 +3,8 @@
 
 #include "Attesa.h"
 
+#include <QTest>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -91,6 +93,14 @@ TEST_F(CercaImmagini, FrameAndNameAreSeenOnALightPictureAsOnADarkOne)
             chiaro = qMax(chiaro, grigio(x, nome.center().y()));
         EXPECT_GT(chiaro - grigio(nome.left() + 1, nome.bottom() - 1), 120) << sfondo;
     }
+}
+
+TEST_F(CercaImmagini, AFrameThatGaveASelectionIsSearchedToo)
+{
+    QTest::mouseClick(&camera.Schermo, Qt::LeftButton, {}, {100, 100});
+    banco.manda(scena);
+    EXPECT_TRUE(banco.nome.Visible());
+    EXPECT_TRUE(camera.shpImgRilevata.Visible());
 }
 
 TEST_F(CercaImmagini, ItGoesAwayWithTheNextFrameThatLacksIt)

@@ -169,6 +169,11 @@ TEST(NomeDoppio, ClosingQuotationMarksCountToo)
     EXPECT_TRUE(nomeDoppio("\"Tazzona\",1,1,5", ",1"));
 }
 
+TEST(NomeDoppio, TheClosingMarkOfANameOfTheSameLengthIsPassedOver)
+{
+    EXPECT_FALSE(nomeDoppio("\"Tazza\",1,1,5", ",1,1,"));
+}
+
 TEST(NomeDoppio, AJumpTooFarMissesAName)
 {
     // Behind "Re" the jump of a name of eleven passes over the next opening mark and goes on from

@@ -213,6 +213,16 @@ TEST_F(FileGuasto, SizesThatAreNoBytesOrLargerThanAFrameAreAFailure)
     EXPECT_EXIT(clickFatale(lista, 2), testing::ExitedWithCode(1), "\\(6\\)");
 }
 
+TEST_F(ImmaginiAcquisite, TheFractionOfASizeIsCutOff)
+{
+    banco.premi(8);
+    lstImgCamera.setList(0, u"\"Pallone\",1.9,1.9,"_s);
+    clicca(0);
+    EXPECT_EQ(punto(2, 2), QColor(255, 0, 0));
+    EXPECT_EQ(punto(4, 2).alpha(), 0);
+    EXPECT_EQ(punto(2, 4).alpha(), 0);
+}
+
 TEST_F(FileGuasto, ARecordWithoutCommasIsAnEmptyPicture)
 {
     banco.premi(8);

@@ -11,6 +11,9 @@
 #include <csignal>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 namespace {
 
@@ -229,6 +232,18 @@ TEST_F(NomeImmagine, AFileThatCannotBeReadIsNotWrittenOver)
     Archivio::abbandona();
     EXPECT_FALSE(nome.Visible());
     EXPECT_EQ(file(), "\"Pallone\",2,1,5,6");
+}
+
+TEST_F(NomeImmagine, WhatCannotBeOpenedForReadingIsNotReplaced)
+{
+    // A socket can be seen and replaced, but not read as a file.
+    sockaddr_un indirizzo{AF_UNIX, "Immagini.dat"};
+    const int presa = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    ASSERT_EQ(::bind(presa, reinterpret_cast<sockaddr *>(&indirizzo), sizeof indirizzo), 0);
+    ok(u"Pallone"_s);
+    ::close(presa);
+    EXPECT_FALSE(nome.Visible());
+    EXPECT_FALSE(QFileInfo(u"Immagini.dat"_s).isFile());
 }
 
 TEST_F(NomeImmagine, AFolderOfThatNameIsLeftAlone)
