@@ -47,12 +47,13 @@ void CasellaSpunta::setValue(int valore)
 
 void CasellaSpunta::setForeColor(const QColor &colore, const QColor &fondo)
 {
-    QPalette tavolozza = palette();
-    tavolozza.setColor(QPalette::WindowText, colore);
-    setPalette(tavolozza);
     // The same room with a ground and without: the text stays where it is.
     const QString aspetto = u"QCheckBox { padding: 4px 7px; border-radius: 5px; "_s;
     setStyleSheet(aspetto + (fondo.isValid() ? u"background: %1; }"_s.arg(fondo.name()) : u"}"_s));
+    // The style sheet puts the palette back.
+    QPalette tavolozza = palette();
+    tavolozza.setColor(QPalette::WindowText, colore);
+    setPalette(tavolozza);
 }
 
 CasellaOpzione::CasellaOpzione(const QString &nome, QWidget *dentro, const QString &testo)
