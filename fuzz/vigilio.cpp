@@ -1,48 +1,72 @@
-// Any bytes as a project file: reading it never does more than fail, and every condition in it can
-// be described, held against the others and asked about telemetry. What was read is written and
-// read back: texts without a quote survive.
+// Any bytes as a project file, as "prog.dat" and as conditions: reading them, comparing them, and
+// testing them against telemetry never does more than fail; what was read without quotes in its
+// texts is read again from what is written of it.
+#include "CampiProgDat.h"
+#include "Codifica.h"
 #include "Condizione.h"
 #include "Errore.h"
+#include "OraDiLista.h"
 #include "Progetto.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// A quote is not marked inside a text, and a "?" may stand for what the code page lacks.
-bool sopravvive(const Progetto::Lista &lista)
+void esigi(bool vero)
 {
-    return !lista.nome.contains(u'"') && !lista.condizione.contains(u'"');
+    if (!vero)
+        std::abort();
+}
+
+QList<Progetto::Lista> letto(const QByteArray &file)
+{
+    QList<Progetto::Lista> liste;
+    passaErrori(
+        [&] { Progetto::leggi(file, [&](const Progetto::Lista &lista) { liste += lista; }); });
+    return liste;
+}
+
+void provaCondizione(const QString &condizione, const QString &altra)
+{
+    // The longest word for a condition, "Temperatura".
+    esigi(DescriviCondizione(condizione).size() <= 11);
+    std::array<QString, campiCondizione> campi;
+    for (int campo = 1; campo <= campiCondizione; ++campo)
+        campi[static_cast<size_t>(campo - 1)] = testoCampo(condizione, campo).toString();
+    const QString composta = componiCondizione(campi);
+    if (condizione.count(u',') == campiCondizione - 1)
+        esigi(composta == condizione);
+    Contrasto(condizione, altra);
+    for (const QString &telemetria :
+         {u"Ultrasuoni:101"_s, u"Temperatura:25"_s, u"Batterie:03"_s, altra})
+        condizioneVera(condizione, telemetria);
+    oraDiLista(condizione, u"07:05:09");
 }
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *byte, size_t quanti)
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *dati, size_t quanti)
 {
-    const QByteArray file(reinterpret_cast<const char *>(byte), static_cast<qsizetype>(quanti));
-    QList<Progetto::Lista> liste;
-    passaErrori([&] { Progetto::leggi(file, [&](const auto &lista) { liste += lista; }); });
-
+    const QByteArray file(reinterpret_cast<const char *>(dati), static_cast<qsizetype>(quanti));
+    const QList<Progetto::Lista> liste = letto(file);
+    bool virgolette = false;
+    QString prima = condizionePredefinita.toString();
     for (const Progetto::Lista &lista : liste) {
-        if (NomeLista(lista.nome).size() != 31)
-            std::abort();
-        DescriviCondizione(lista.condizione);
-        for (const QStringView testo :
-             {u"Ultrasuoni:101", u"Temperatura:25", u"Batterie:03", u"Batterie:", u"Temperatura:"})
-            condizioneVera(lista.condizione, testo);
-        Contrasto(lista.condizione, liste.first().condizione);
+        esigi(NomeLista(lista.nome).size() == 31);
+        provaCondizione(lista.condizione, prima);
+        prima = lista.condizione;
+        virgolette = virgolette || lista.nome.contains(u'"') || lista.condizione.contains(u'"');
     }
+    if (!virgolette)
+        esigi(letto(Progetto::scritto(liste)) == liste);
 
-    QList<Progetto::Lista> buone;
-    for (const Progetto::Lista &lista : liste) {
-        if (sopravvive(lista))
-            buone += lista;
-    }
-    QList<Progetto::Lista> rilette;
-    Progetto::leggi(Progetto::scritto(buone), [&](const auto &lista) { rilette += lista; });
-    if (rilette != buone)
-        std::abort();
+    const QByteArray condizione = CampiProgDat::condizione(file);
+    if (file.contains(';'))
+        esigi(CampiProgDat::uniti(CampiProgDat::impostazione(file), condizione) == file);
+    provaCondizione(Codifica::daByte(condizione), prima);
     return 0;
 }
