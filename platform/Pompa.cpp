@@ -1,6 +1,6 @@
 #include "Pompa.h"
 
-#include "Pausa.h"
+#include "Sonno.h"
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
@@ -46,5 +46,5 @@ void pompa()
     giriAVuoto = 0;
     const auto dovuto = durataGiro * giriPerPausa - (adesso - inizioVuoto);
     if (dovuto.count() > 0)
-        pausa(dovuto);
+        dormi(dovuto);
 }

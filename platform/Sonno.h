@@ -4,4 +4,4 @@
 #include <chrono>
 
 // Sleeps that long, or some tens of microseconds longer.
-void pausa(std::chrono::steady_clock::duration tempo);
+void dormi(std::chrono::steady_clock::duration tempo);

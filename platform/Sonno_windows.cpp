@@ -1,4 +1,4 @@
-#include "Pausa.h"
+#include "Sonno.h"
 
 #include <qt_windows.h>
 #include <ratio>
@@ -8,7 +8,7 @@
 #define CREATE_WAITABLE_TIMER_HIGH_RESOLUTION 0x00000002
 #endif
 
-void pausa(std::chrono::steady_clock::duration tempo)
+void dormi(std::chrono::steady_clock::duration tempo)
 {
     // A plain sleep ends with a tick of the system's clock, up to 16 milliseconds late.
     static const HANDLE sveglia = ::CreateWaitableTimerExW(
