@@ -1,7 +1,5 @@
 #include "Cartella.h"
 
-#include "Porta.h"
-
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -68,16 +66,4 @@ QString conSeparatore(const QString &cartella)
     if (cartella.endsWith(u'/') || cartella.endsWith(u":\\"_s))
         return cartella;
     return cartella + u'/';
-}
-
-QString percorsoPorta(int numero, const QString &cartella)
-{
-#ifdef Q_OS_WIN
-    return u"\\\\.\\COM%1"_s.arg(numero);
-#else
-    const QFileInfo collegamento(conSeparatore(cartella) + u"COM%1"_s.arg(numero));
-    if (collegamento.exists() || collegamento.isSymLink())
-        return collegamento.filePath();
-    return u"/dev/ttyS%1"_s.arg(numero - 1);
-#endif
 }

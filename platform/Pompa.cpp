@@ -1,15 +1,12 @@
 #include "Pompa.h"
 
+#include "Sonno.h"
+
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QThread>
 #include <chrono>
-#include <thread>
-
-#ifdef Q_OS_LINUX
-#include <sys/prctl.h>
-#endif
 
 using namespace std::chrono_literals;
 
@@ -22,16 +19,6 @@ constexpr auto durataGiro = 40us;
 constexpr int giriPerPausa = 25;
 // A round ends though there is still something to do, lest a flood of events holds it for ever.
 constexpr int passateMassime = 100;
-
-void dormi(std::chrono::steady_clock::duration tempo)
-{
-#ifdef Q_OS_LINUX
-    // The kernel may add 50 microseconds to a sleep unless it is told that this matters.
-    static const int preciso = prctl(PR_SET_TIMERSLACK, 1000UL, 0UL, 0UL, 0UL);
-    static_cast<void>(preciso);
-#endif
-    std::this_thread::sleep_for(tempo);
-}
 
 } // namespace
 

@@ -3,25 +3,12 @@
 
 #include "Attesa.h"
 #include "CartellaDiProva.h"
+#include "ProgrammaDiProva.h"
 #include "Scritte.h"
 
-#include <QFile>
 #include <gmock/gmock.h>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// A program that writes its arguments, one a line, into a file beside it.
-QString programmaDiProva(const CartellaDiProva &cartella, const QString &nome)
-{
-    cartella.scrivi(nome, "#!/bin/sh\nfor a in \"$@\"; do echo \"$a\"; done > esito.parte\n"
-                          "mv esito.parte esito.txt\n");
-    QFile::setPermissions(cartella.percorso(nome), QFile::ReadOwner | QFile::ExeOwner);
-    return cartella.percorso(nome);
-}
-
-} // namespace
 
 TEST(AvvioProgramma, AFileThatIsThereIsTheProgramWhole)
 {
@@ -72,7 +59,7 @@ TEST(AvvioProgramma, AFileThatIsNoProgramCannotBeStarted)
 TEST(AvvioProgramma, AProgramWithABlankInItsPathIsStarted)
 {
     const CartellaDiProva cartella;
-    ASSERT_TRUE(avviaProgramma(programmaDiProva(cartella, u"il mio programma"_s)));
+    ASSERT_TRUE(avviaProgramma(programmaDiProva(cartella, u"il mio programma.exe"_s)));
     EXPECT_TRUE(aspetta([&] { return cartella.contiene(u"esito.txt"_s); }));
     EXPECT_EQ(cartella.leggi(u"esito.txt"_s), "");
 }
@@ -80,7 +67,7 @@ TEST(AvvioProgramma, AProgramWithABlankInItsPathIsStarted)
 TEST(AvvioProgramma, ArgumentsReachTheProgramUntouchedByAShell)
 {
     const CartellaDiProva cartella;
-    const QString programma = programmaDiProva(cartella, u"prova"_s);
+    const QString programma = programmaDiProva(cartella, u"prova.exe"_s);
     ASSERT_TRUE(avviaProgramma(programma + u" \"a b\" $HOME ; * `ls` | x"_s));
     EXPECT_TRUE(aspetta([&] { return cartella.contiene(u"esito.txt"_s); }));
     EXPECT_EQ(cartella.leggi(u"esito.txt"_s), "a b\n$HOME\n;\n*\n`ls`\n|\nx\n");

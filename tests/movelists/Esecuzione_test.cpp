@@ -1,10 +1,8 @@
 // The run of a list: order, waits, loops, stops, and what the user does meanwhile.
 #include "Banco.h"
+#include "ProgrammaDiProva.h"
 
-#include <fcntl.h>
 #include <gmock/gmock.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
@@ -224,20 +222,14 @@ TEST_F(EsecuzioneTest, TheVideoWindowIsShown)
 
 TEST_F(EsecuzioneTest, AProgramIsStartedAndNotWaitedFor)
 {
-    const QString programma = cartella.percorso(u"il mio programma"_s);
-    cartella.scrivi(u"il mio programma"_s,
-                    "#!/bin/sh\nread x < attendi\necho $x > parte\nmv parte esito\n");
-    QFile::setPermissions(programma, QFile::ReadOwner | QFile::ExeOwner);
-    ASSERT_EQ(::mkfifo("attendi", 0600), 0);
+    const QString programma = programmaDiProva(cartella, u"il mio programma.exe"_s);
+    cartella.scrivi(u"attendi"_s, "");
     corsa({u"Programma "_s + programma});
     EXPECT_EQ(console.pannello, QStringList{u"Comando 1 ricevuto!"_s});
-    EXPECT_FALSE(cartella.contiene(u"esito"_s));
+    EXPECT_FALSE(cartella.contiene(u"esito.txt"_s));
     // Now it may go on.
-    const int via = ::open("attendi", O_RDWR);
-    ASSERT_EQ(::write(via, "via\n", 4), 4);
-    EXPECT_TRUE(aspetta([this] { return cartella.contiene(u"esito"_s); }));
-    ::close(via);
-    EXPECT_EQ(cartella.leggi(u"esito"_s), "via\n");
+    QFile::remove(u"attendi"_s);
+    EXPECT_TRUE(aspetta([this] { return cartella.contiene(u"esito.txt"_s); }));
 }
 
 TEST_F(EsecuzioneTest, AProgramThatCannotBeStartedSaysNothing)

@@ -1,12 +1,11 @@
 #include "Archivio.h"
 
 #include "Aiuti.h"
+#include "Sistema.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <csignal>
-#include <sys/resource.h>
 
 using Archivio::Modo;
 
@@ -291,37 +290,35 @@ TEST_F(ArchivioTest, the_old_file_survives_a_program_that_drops_what_it_wrote)
 
 TEST_F(ArchivioTest, the_old_file_survives_a_failed_write)
 {
+    if (!DiscoPieno::possibile())
+        GTEST_SKIP() << "no full disk here";
     contenuto(u"prova.dat"_s, "old");
-    const auto vecchio = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit limite{};
-    ::getrlimit(RLIMIT_FSIZE, &limite);
-    const rlimit stretto{1000, limite.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &stretto);
-    const int errore = erroreDi([] {
-        Archivio::apri(1, u"prova.dat"_s, Modo::Scrittura);
-        Archivio::stampa(1, QByteArray(500000, 'x'));
-        Archivio::chiudi();
-    });
-    Archivio::abbandona();
-    ::setrlimit(RLIMIT_FSIZE, &limite);
-    std::signal(SIGXFSZ, vecchio);
+    int errore = 0;
+    {
+        const DiscoPieno pieno(1000);
+        errore = erroreDi([] {
+            Archivio::apri(1, u"prova.dat"_s, Modo::Scrittura);
+            Archivio::stampa(1, QByteArray(500000, 'x'));
+            Archivio::chiudi();
+        });
+        Archivio::abbandona();
+    }
     EXPECT_EQ(errore, Errore::DiscoPieno);
     EXPECT_EQ(contenuto(u"prova.dat"_s), "old");
 }
 
 TEST_F(ArchivioTest, a_failed_close_closes_all_the_same_and_keeps_the_old_file)
 {
+    if (!DiscoPieno::possibile())
+        GTEST_SKIP() << "no full disk here";
     contenuto(u"prova.dat"_s, "old");
-    const auto vecchio = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit limite{};
-    ::getrlimit(RLIMIT_FSIZE, &limite);
-    const rlimit stretto{10, limite.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &stretto);
-    Archivio::apri(1, u"prova.dat"_s, Modo::Scrittura);
-    Archivio::stampa(1, QByteArray(100, 'x'));
-    const int errore = erroreDi([] { Archivio::chiudi(); });
-    ::setrlimit(RLIMIT_FSIZE, &limite);
-    std::signal(SIGXFSZ, vecchio);
+    int errore = 0;
+    {
+        const DiscoPieno pieno(10);
+        Archivio::apri(1, u"prova.dat"_s, Modo::Scrittura);
+        Archivio::stampa(1, QByteArray(100, 'x'));
+        errore = erroreDi([] { Archivio::chiudi(); });
+    }
     EXPECT_EQ(errore, Errore::DiscoPieno);
     EXPECT_EQ(contenuto(u"prova.dat"_s), "old");
     EXPECT_EQ(erroreDi([] { Archivio::apri(1, u"prova.dat"_s, Modo::Scrittura); }), 0);

@@ -1,6 +1,6 @@
 #include "PermessiPorta.h"
 
-#include "Aiuti.h"
+#include "PseudoTerminale.h"
 #include "PortaAsio.h"
 
 #include <QFile>
@@ -9,6 +9,7 @@
 #include <pwd.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 

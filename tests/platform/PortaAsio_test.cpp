@@ -1,7 +1,7 @@
 #include "PortaAsio.h"
 
-#include "Aiuti.h"
 #include "Pompa.h"
+#include "PseudoTerminale.h"
 
 #include <QElapsedTimer>
 #include <QFile>

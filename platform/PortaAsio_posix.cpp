@@ -1,12 +1,15 @@
+// The serial line of Linux.
 #include "PortaAsio.h"
 
+#include "Cartella.h"
 #include "Errore.h"
+#include "LineaSeriale.h"
 #include "PermessiPorta.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSocketNotifier>
 #include <asio/io_context.hpp>
-#include <asio/serial_port.hpp>
 #include <cerrno>
 #include <fcntl.h>
 #include <poll.h>
@@ -77,7 +80,6 @@ static bool riserva(int linea)
 
 void PortaAsio::apri(const QString &percorso)
 {
-    using opzione = asio::serial_port_base;
     chiudi();
     asio::error_code errore;
     asio::serial_port &porta = m_linea->porta;
@@ -90,15 +92,7 @@ void PortaAsio::apri(const QString &percorso)
         porta.close(errore);
         throw Errore(Errore::PortaInUso);
     }
-    const auto imposta = [&](const auto &valore) {
-        if (!errore)
-            porta.set_option(valore, errore);
-    };
-    imposta(opzione::baud_rate(9600));
-    imposta(opzione::character_size(8));
-    imposta(opzione::parity(opzione::parity::none));
-    imposta(opzione::stop_bits(opzione::stop_bits::one));
-    imposta(opzione::flow_control(opzione::flow_control::none));
+    errore = impostaParametri(porta);
     if (errore) {
         chiudi();
         throw Errore(Errore::PortaInesistente);
@@ -175,4 +169,12 @@ void PortaAsio::sorveglia(bool attiva)
     m_linea->sorvegliata = attiva;
     if (aperta())
         m_linea->aggiornaAvvisatore();
+}
+
+QString percorsoPorta(int numero, const QString &cartella)
+{
+    const QFileInfo collegamento(conSeparatore(cartella) + u"COM%1"_s.arg(numero));
+    if (collegamento.exists() || collegamento.isSymLink())
+        return collegamento.filePath();
+    return u"/dev/ttyS%1"_s.arg(numero - 1);
 }

@@ -1,0 +1,15 @@
+#include "ProgrammaDiProva.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+QString programmaDiProva(const CartellaDiProva &cartella, const QString &nome)
+{
+    const QString copia = cartella.percorso(nome);
+    EXPECT_TRUE(
+        QFile::copy(QCoreApplication::applicationDirPath() + u"/" PROGRAMMA_DI_PROVA ""_s, copia));
+    return copia;
+}

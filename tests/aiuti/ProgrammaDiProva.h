@@ -1,0 +1,8 @@
+// A program for lists to start.
+#pragma once
+
+#include "CartellaDiProva.h"
+
+// A copy of it under that name in the folder: its path. It waits as long as there is a file
+// "attendi" in the current folder, and then writes its arguments, one a line, into "esito.txt".
+QString programmaDiProva(const CartellaDiProva &cartella, const QString &nome);

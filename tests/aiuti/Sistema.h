@@ -1,0 +1,40 @@
+// What tests ask of the operating system, and not every system gives.
+#pragma once
+
+#include <QString>
+#include <memory>
+
+// While it lives no file of this process grows beyond so many bytes, as on a full disk.
+class DiscoPieno
+{
+public:
+    // Where not, the test is to be skipped.
+    static bool possibile();
+
+    explicit DiscoPieno(qsizetype byte);
+    ~DiscoPieno();
+    Q_DISABLE_COPY_MOVE(DiscoPieno)
+
+private:
+    struct Prima;
+    std::unique_ptr<Prima> m_prima;
+};
+
+// While it lives the folder cannot be written to, even by a test that runs as root.
+class SenzaDiritti
+{
+public:
+    // Where not, the test is to be skipped.
+    static bool possibile();
+
+    explicit SenzaDiritti(const QString &cartella);
+    ~SenzaDiritti();
+    Q_DISABLE_COPY_MOVE(SenzaDiritti)
+
+private:
+    QString m_cartella;
+    bool m_eraRoot = false;
+};
+
+// Whether a file whose permissions are taken away is closed to this user.
+bool permessiContano();
