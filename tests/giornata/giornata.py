@@ -61,13 +61,9 @@ def aggiunta(riga):
 
 
 def guida():
-    """By hand: a key held until the robot goes, the space bar, an arrow on the screen."""
-    xdotool("keydown", "Up")
-    s.attendi_robot("BaseAvanti v=1")
-    s.foto("guida", CONSOLE)
-    xdotool("keyup", "Up")
-    s.tasti("space")
-    s.attendi_robot("BaseStop")
+    """By hand: a key held until the robot goes, and the space bar."""
+    s.tieni("Up", lambda: s.fatto("BaseAvanti v=1"), lambda: s.foto("guida", CONSOLE))
+    s.tieni("space", lambda: s.fatto("BaseStop"))
 
 
 def imposta():
@@ -103,8 +99,7 @@ def costruisci():
     s.premi(CONSOLE, "Scatta una foto")
     aggiunta("Foto")
     s.premi(CONSOLE, "Controlla la testa")
-    s.tasti("Left")
-    aggiunta("Testa sinistra 2")
+    s.tieni("Left", lambda: "Testa sinistra 2" in righe())
 
     davanti(SEQUOR)
     numero("Pausa", "Inserisci la durata della pausa", "700")

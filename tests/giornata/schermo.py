@@ -12,7 +12,16 @@ PAZIENZA = 60.0  # seconds that a condition may take before the day is given up
 
 def attendi(cosa, condizione):
     """Waits until the condition gives something true, and gives that back."""
-    fine = time.monotonic() + PAZIENZA
+    esito = entro(PAZIENZA, condizione)
+    if not esito:
+        raise TimeoutError(f"Waited in vain: {cosa}")
+    return esito
+
+
+def entro(secondi, condizione):
+    """The same, for so many seconds at most: what came last."""
+    fine = time.monotonic() + secondi
+    esito = None
     while time.monotonic() < fine:
         try:
             esito = condizione()
@@ -25,7 +34,7 @@ def attendi(cosa, condizione):
         if esito:
             return esito
         time.sleep(0.05)
-    raise TimeoutError(f"Waited in vain: {cosa}")
+    return esito
 
 
 def xdotool(*argomenti):
@@ -96,6 +105,20 @@ class Schermo:
         """Takes an entry of a menu, through its submenus."""
         for voce in voci:
             self.clic(self.controllo(titolo, "menu item", voce))
+
+    def tieni(self, tasto, fatto, intanto=None):
+        """Holds a key until something is done. A release that comes while the console waits for
+        the robot leaves the key latched, and the next press only frees it: then the user presses
+        again."""
+        for _ in range(10):
+            xdotool("keydown", tasto)
+            esito = entro(2, fatto)
+            if esito and intanto:
+                intanto()
+            xdotool("keyup", tasto)
+            if esito:
+                return
+        raise TimeoutError(f"Key {tasto} did nothing")
 
     def tasti(self, *tasti):
         xdotool("key", *tasti)
