@@ -6,7 +6,7 @@ import time
 
 import pyatspi
 
-BARRA_TITOLO, CORNICE = 21, 1  # pixels around a window, for its picture
+BARRA_TITOLO, CORNICE = 19, 1  # pixels around a window, for its picture
 PAZIENZA = 60.0  # seconds that a condition may take before the day is given up
 
 
