@@ -19,18 +19,6 @@ namespace {
 const QString filtroProgetti = u"Vigilio|*.vgp"_s;
 const QString titolo = u"Vigilio"_s;
 
-// The one exit of the handlers with a file dialog: the user's cancelling is silent.
-template <class Gestore>
-void conUscita(Gestore gestore)
-{
-    try {
-        gestore();
-    } catch (const Errore &errore) {
-        if (errore.numero() != Errore::Annullato)
-            MostraErrore(errore.descrizione(), {});
-    }
-}
-
 } // namespace
 
 frmProcessor::frmProcessor(ConsoleVigilio &console, frmEditor &editor, const Orologio &orologio,

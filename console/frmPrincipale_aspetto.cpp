@@ -98,9 +98,8 @@ void frmPrincipale::disponiMovimenti()
     titolo(Label1, Qt::AlignLeft);
     metti(Label1, 20, 60, 150, 20);
 
-    CasellaOpzione *const opzioniModo[] = {&opzBase, &opzBraccia, &opzTesta};
     int y = 84;
-    for (CasellaOpzione *opzione : opzioniModo) {
+    for (CasellaOpzione *opzione : {&opzBase, &opzBraccia, &opzTesta}) {
         // The mark stands inside the coloured field, not on its edge.
         opzione->setStyleSheet(u"padding-left: 7px"_s);
         metti(*opzione, 18, y, 158, 28);

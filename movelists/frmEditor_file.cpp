@@ -15,18 +15,6 @@ namespace {
 const QString filtroMosse = u"Mosse|*.sqm"_s;
 const QString filtroProgrammi = u"Applicazioni|*.exe"_s;
 
-// The one exit of the handlers with a file dialog: the user's cancelling is silent.
-template <class Gestore>
-void conUscita(Gestore gestore)
-{
-    try {
-        gestore();
-    } catch (const Errore &errore) {
-        if (errore.numero() != Errore::Annullato)
-            MostraErrore(errore.descrizione(), {});
-    }
-}
-
 } // namespace
 
 // True where the user cancels.

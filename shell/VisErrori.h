@@ -1,6 +1,8 @@
 // Shows an error to the user.
 #pragma once
 
+#include "Errore.h"
+
 #include <QString>
 
 // A box with the stop icon, titled "Errore - " and titolo, or, where titolo is empty, the caption
@@ -8,3 +10,15 @@
 void MostraErrore(const QString &messaggioErrore, const QString &titolo);
 
 QString titoloFinestraAttiva();
+
+// The one exit of the handlers with a file dialog: the user's cancelling is silent.
+template <class Gestore>
+void conUscita(Gestore gestore)
+{
+    try {
+        gestore();
+    } catch (const Errore &errore) {
+        if (errore.numero() != Errore::Annullato)
+            MostraErrore(errore.descrizione(), {});
+    }
+}

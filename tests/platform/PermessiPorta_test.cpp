@@ -1,7 +1,7 @@
 #include "PermessiPorta.h"
 
-#include "PseudoTerminale.h"
 #include "PortaAsio.h"
+#include "PseudoTerminale.h"
 
 #include <QFile>
 #include <QTemporaryDir>
