@@ -12,7 +12,7 @@ constexpr QStringView nonImpostato = u"no";
 
 // How many characters of a field are compared.
 constexpr qsizetype lunghezzaOrario = 8;
-constexpr qsizetype sensori = 3;
+constexpr qsizetype lunghezzaSensori = 3;
 constexpr std::array<qsizetype, 3> cifre{2, 1, 1};
 
 constexpr qsizetype larghezzaNome = 31;
@@ -22,19 +22,16 @@ QStringView daCampo(QStringView condizione, int campo)
     return condizione.sliced(posizioneCampo(condizione, campo));
 }
 
-double numero(QStringView condizione, int campo)
+bool eUno(QStringView testo, qsizetype posto)
 {
-    return Numeri::Valore(daCampo(condizione, campo));
+    return posto < testo.size() && testo[posto] == u'1';
 }
 
-bool sensoreVisto(QStringView campo, QStringView visti)
+// Whether a field is set, and its number is this one.
+bool numeroUguale(QStringView condizione, int campo, double numero)
 {
-    const qsizetype quanti = qMin(sensori, qMin(campo.size(), visti.size()));
-    for (qsizetype k = 0; k < quanti; ++k) {
-        if (campo[k] == u'1' && visti[k] == u'1')
-            return true;
-    }
-    return false;
+    const QStringView daQui = daCampo(condizione, campo);
+    return !daQui.startsWith(nonImpostato) && Numeri::Valore(daQui) == numero;
 }
 
 } // namespace
@@ -108,7 +105,7 @@ QString NomeLista(const QString &nome)
 
 CondizioneLetta::CondizioneLetta(QStringView condizione)
     : m_orario(condizione.left(lunghezzaOrario).toString()),
-      m_ultrasuoni(daCampo(condizione, CampoUltrasuoni).left(sensori).toString())
+      m_ultrasuoni(daCampo(condizione, CampoUltrasuoni).left(lunghezzaSensori).toString())
 {
     for (int campo = CampoOrario; campo <= CampoMotori; ++campo)
         m_no[static_cast<size_t>(campo - CampoOrario)] = campoNo(condizione, campo);
@@ -153,24 +150,49 @@ std::optional<QString> Contrasto(QStringView condizione, QStringView altra)
     return CondizioneLetta(condizione).contrasto(CondizioneLetta(altra));
 }
 
-bool condizioneVera(QStringView condizione, QStringView telemetria)
+TelemetriaLetta::TelemetriaLetta(QStringView testo)
 {
     constexpr QStringView ultrasuoni = u"Ultrasuoni:";
     constexpr QStringView temperatura = u"Temperatura:";
     constexpr QStringView batterie = u"Batterie:";
-    if (telemetria.startsWith(ultrasuoni))
-        return !campoNo(condizione, CampoUltrasuoni) &&
-               sensoreVisto(daCampo(condizione, CampoUltrasuoni),
-                            telemetria.sliced(ultrasuoni.size()));
-    if (telemetria.startsWith(temperatura))
-        return !campoNo(condizione, CampoTemperatura) &&
-               Numeri::Valore(telemetria.sliced(temperatura.size())) ==
-                   numero(condizione, CampoTemperatura);
-    if (!telemetria.startsWith(batterie))
+    if (testo.startsWith(ultrasuoni)) {
+        m_campo = CampoUltrasuoni;
+        for (size_t k = 0; k < m_visti.size(); ++k)
+            m_visti[k] = eUno(testo, ultrasuoni.size() + static_cast<qsizetype>(k));
+    } else if (testo.startsWith(temperatura)) {
+        m_campo = CampoTemperatura;
+        m_numero = Numeri::Valore(testo.sliced(temperatura.size()));
+    } else if (testo.startsWith(batterie)) {
+        m_campo = CampoLogica;
+        m_numero = Numeri::Valore(testo.sliced(batterie.size()));
+        m_motori = Numeri::Valore(testo.mid(batterie.size() + 1));
+    }
+}
+
+bool TelemetriaLetta::avvera(QStringView condizione) const
+{
+    switch (m_campo) {
+    case CampoUltrasuoni: {
+        if (campoNo(condizione, CampoUltrasuoni))
+            return false;
+        const qsizetype posto = posizioneCampo(condizione, CampoUltrasuoni);
+        for (size_t k = 0; k < m_visti.size(); ++k) {
+            if (m_visti[k] && eUno(condizione, posto + static_cast<qsizetype>(k)))
+                return true;
+        }
         return false;
-    const QStringView livelli = telemetria.sliced(batterie.size());
-    return (!campoNo(condizione, CampoLogica) &&
-            Numeri::Valore(livelli) == numero(condizione, CampoLogica)) ||
-           (!campoNo(condizione, CampoMotori) &&
-            Numeri::Valore(livelli.mid(1)) == numero(condizione, CampoMotori));
+    }
+    case CampoTemperatura:
+        return numeroUguale(condizione, CampoTemperatura, m_numero);
+    case CampoLogica:
+        return numeroUguale(condizione, CampoLogica, m_numero) ||
+               numeroUguale(condizione, CampoMotori, m_motori);
+    default:
+        return false;
+    }
+}
+
+bool condizioneVera(QStringView condizione, QStringView telemetria)
+{
+    return TelemetriaLetta(telemetria).avvera(condizione);
 }

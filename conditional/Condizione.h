@@ -55,7 +55,22 @@ private:
 
 std::optional<QString> Contrasto(QStringView condizione, QStringView altra);
 
-// Whether a telemetry text ("Ultrasuoni:101", "Temperatura:25", "Batterie:34") meets the condition.
-// The time is not looked at. The number for the logic battery has both digits, so that its field is
-// met at level 0 only, by the motor battery's level.
+// A telemetry text ("Ultrasuoni:101", "Temperatura:25", "Batterie:34"), read once to be tested
+// against many conditions; any other text meets none.
+class TelemetriaLetta
+{
+public:
+    explicit TelemetriaLetta(QStringView testo);
+
+    // Whether it meets the condition. The time is not looked at. The number for the logic battery
+    // has both digits, so that its field is met at level 0 only, by the motor battery's level.
+    bool avvera(QStringView condizione) const;
+
+private:
+    int m_campo = 0; // the first one that the text is for, 0 for none
+    std::array<bool, 3> m_visti{};
+    double m_numero = 0;
+    double m_motori = 0;
+};
+
 bool condizioneVera(QStringView condizione, QStringView telemetria);

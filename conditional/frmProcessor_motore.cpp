@@ -81,8 +81,9 @@ bool frmProcessor::inContrasto() const
 
 void frmProcessor::VerificaCondizioni(const QString &testo)
 {
+    const TelemetriaLetta telemetria(testo);
     for (int i = 0; i < lstCondizioni.ListCount(); ++i) {
-        if (lstFile.Selected(i) && condizioneVera(lstCondizioni.List(i), testo))
+        if (lstFile.Selected(i) && telemetria.avvera(lstCondizioni.List(i)))
             m_editor.EseguiLista(static_cast<qint16>(i));
     }
 }
