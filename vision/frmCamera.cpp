@@ -89,7 +89,7 @@ void frmCamera::Load()
     }
     const QRect schermo = screen()->availableGeometry();
     Move(Unita::unita(schermo.x()) + (Unita::unita(schermo.width()) - Width()) / 2,
-         Unita::unita(schermo.y() + schermo.height() / 12));
+         Unita::unita(schermo.y() + schermo.height() / 12.0));
     AvviaRicezione();
 }
 

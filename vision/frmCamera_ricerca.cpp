@@ -18,7 +18,8 @@ quint8 inFotogramma(double pixel, int s)
 {
     if (s == 0)
         throw Errore(Errore::DivisionePerZero);
-    return Numeri::Byte(Numeri::Lungo(pixel) / s);
+    const qint32 intero = Numeri::Lungo(pixel) / s;
+    return Numeri::Byte(intero);
 }
 
 // The indices of the pictures that are to be looked for, as 16-bit numbers.
@@ -54,7 +55,9 @@ void frmCamera::PreparaAcquisizione()
         width = Numeri::Byte(Fotogramma::Colonne - left);
     if (top + height > Fotogramma::Righe)
         height = Numeri::Byte(Fotogramma::Righe - top);
-    frmNomeImmagine.imgAcquisita.Move(39 - width / 2, 29 - height / 2);
+    const int mezzaLarghezza = width / 2;
+    const int mezzaAltezza = height / 2;
+    frmNomeImmagine.imgAcquisita.Move(39 - mezzaLarghezza, 29 - mezzaAltezza);
     frmNomeImmagine.setTag(QString::number(width) + u',' + QString::number(height));
     frmNomeImmagine.imgAcquisita.hide();
     AcquisisciImmagine(m_fotogramma.Pixel, left, top, width, height);

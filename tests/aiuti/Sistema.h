@@ -36,5 +36,9 @@ private:
     bool m_eraRoot = false;
 };
 
+// Puts there, under a relative name, what can be seen and replaced but not read as a file. False
+// where the system knows no such thing: then the test is to be skipped.
+bool mettiIlleggibile(const QString &nome);
+
 // Whether a file whose permissions are taken away is closed to this user.
 bool permessiContano();

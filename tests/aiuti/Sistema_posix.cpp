@@ -1,9 +1,12 @@
 #include "Sistema.h"
 
 #include <QFile>
+#include <algorithm>
 #include <csignal>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 struct DiscoPieno::Prima
@@ -50,6 +53,22 @@ SenzaDiritti::~SenzaDiritti()
         EXPECT_EQ(::seteuid(0), 0);
     }
     QFile::setPermissions(m_cartella, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+bool mettiIlleggibile(const QString &nome)
+{
+    const QByteArray percorso = QFile::encodeName(nome);
+    sockaddr_un indirizzo{};
+    indirizzo.sun_family = AF_UNIX;
+    if (percorso.size() >= qsizetype(sizeof indirizzo.sun_path))
+        return false;
+    std::copy(percorso.begin(), percorso.end(), indirizzo.sun_path);
+    // The name outlives the socket.
+    const int presa = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    const bool legata =
+        ::bind(presa, reinterpret_cast<const sockaddr *>(&indirizzo), sizeof indirizzo) == 0;
+    ::close(presa);
+    return legata;
 }
 
 bool permessiContano()

@@ -23,6 +23,11 @@ SenzaDiritti::SenzaDiritti(const QString &cartella) : m_cartella(cartella) {}
 
 SenzaDiritti::~SenzaDiritti() = default;
 
+bool mettiIlleggibile(const QString &)
+{
+    return false;
+}
+
 bool permessiContano()
 {
     return false;
