@@ -104,6 +104,9 @@ void frmEditor::colloca()
     constexpr double distanza = 200;
     constexpr double piuInAlto = 1300;
     const ConsoleEditor::Posto console = m_console.posto();
+    // Wide letters widen the window when it is shown: what stands beside it is reckoned with that.
+    ensurePolished();
+    layout()->activate();
     Move(console.Left + console.Width + distanza, console.Top - piuInAlto);
     // A console at the right edge of the last screen leaves no place beside it, and the user could
     // never reach the window there.

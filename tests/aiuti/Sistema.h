@@ -40,5 +40,12 @@ private:
 // where the system knows no such thing: then the test is to be skipped.
 bool mettiIlleggibile(const QString &nome);
 
+// Makes a symbolic link of this name to a file; false where the system knows none: then the test is
+// to be skipped.
+bool collega(const QString &file, const QString &nome);
+
+// Whether a file's name may hold a quote; a test that needs one is to be skipped where not.
+bool virgoletteNeiNomi();
+
 // Whether a file whose permissions are taken away is closed to this user.
 bool permessiContano();

@@ -1,4 +1,5 @@
-// Windows knows no limit for a process' files, and Wine keeps no rights on folders.
+// Windows knows no limit for a process' files and asks for a right to make links; Wine keeps no
+// rights on folders.
 #include "Sistema.h"
 
 struct DiscoPieno::Prima
@@ -24,6 +25,16 @@ SenzaDiritti::SenzaDiritti(const QString &cartella) : m_cartella(cartella) {}
 SenzaDiritti::~SenzaDiritti() = default;
 
 bool mettiIlleggibile(const QString &)
+{
+    return false;
+}
+
+bool collega(const QString &, const QString &)
+{
+    return false; // Qt's links are shell shortcuts here
+}
+
+bool virgoletteNeiNomi()
 {
     return false;
 }

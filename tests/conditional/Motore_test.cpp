@@ -1,5 +1,6 @@
 // The engine: start, conflicts, telemetry, clock, stop.
 #include "BancoVigilio.h"
+#include "Sistema.h"
 
 #include <gmock/gmock.h>
 
@@ -224,15 +225,18 @@ TEST_F(MotoreTest, AListThatIsNotSelectedClashesWithNobody)
 TEST_F(MotoreTest, TheFirstPairInTheOrderOfTheLinesIsTold)
 {
     const RispondiMessaggi messaggi;
-    mostraVigilio({u"a.sqm"_s, u"b.sqm"_s, u"c.sqm"_s, u"d \"%1\".sqm"_s});
+    // Neither quotes nor marks of a text to be filled in change what is told.
+    const QString difficile = virgoletteNeiNomi() ? u"d \"%1\".sqm"_s : u"d %1.sqm"_s;
+    mostraVigilio({u"a.sqm"_s, u"b.sqm"_s, u"c.sqm"_s, difficile});
     imposta(0, u"07:00:00,no,no,no,no"_s);
     imposta(1, u"no,no,25,no,no"_s);
     imposta(2, u"no,no,no,no,3"_s);
     imposta(3, u"no,no,25,no,3"_s);
     seriale.apri();
     processor.pulAvvia.click();
-    EXPECT_EQ(messaggi.testi(), QStringList{u"\"b.sqm\" e \"d \"%1\".sqm\"\nsi attivano entrambe "
-                                            "con la stessa temperatura"_s});
+    EXPECT_EQ(messaggi.testi(),
+              QStringList{u"\"b.sqm\" e \""_s + difficile +
+                          u"\"\nsi attivano entrambe con la stessa temperatura"_s});
 }
 
 TEST_F(MotoreTest, ATemperatureStartsTheListThatAsksForIt)

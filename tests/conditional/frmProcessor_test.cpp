@@ -1,5 +1,6 @@
 // The runner's window: its lines, its check marks, its options, its end.
 #include "BancoVigilio.h"
+#include "Sistema.h"
 
 #include <QAccessible>
 #include <QMenu>
@@ -114,10 +115,18 @@ TEST_F(frmProcessorTest, AllListsOfTheFolderStandThereUnselectedWithTheDefaultCo
 TEST_F(frmProcessorTest, ALongNameIsCutAndKeepsTheColumn)
 {
     mostraVigilio({u"abcdefghijklmnopqrstuvwxyz.sqm"_s, u"abcdefghijklmnopqrstuvwxyza.sqm"_s,
-                   u"z\"z\" ciò che è lungo assai.sqm"_s});
+                   u"zuz ciò che è lungo assai.sqm"_s});
     EXPECT_EQ(righeVigilio(), (QStringList{u"abcdefghijklmnopqrstuvwxyz.sqm 00:00:00"_s,
                                            u"abcdefghijklmnopqrstuvwxyza... 00:00:00"_s,
-                                           u"z\"z\" ciò che è lungo assai.sqm 00:00:00"_s}));
+                                           u"zuz ciò che è lungo assai.sqm  00:00:00"_s}));
+}
+
+TEST_F(frmProcessorTest, QuotesInANameAreShown)
+{
+    if (!virgoletteNeiNomi())
+        GTEST_SKIP();
+    mostraVigilio({u"z\"z\" ciò che è lungo assai.sqm"_s});
+    EXPECT_EQ(righeVigilio(), QStringList{u"z\"z\" ciò che è lungo assai.sqm 00:00:00"_s});
 }
 
 TEST_F(frmProcessorTest, WithoutADefaultConditionTheFactorysIsTaken)

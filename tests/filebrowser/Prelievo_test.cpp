@@ -312,7 +312,8 @@ TEST_F(Prelievo, ALinkThatLeadsOutOfTheFolderIsNotFollowed)
 {
     const CartellaDiProva altrove;
     altrove.scrivi(u"vittima"_s, "intatta");
-    ASSERT_TRUE(QFile::link(altrove.percorso(u"vittima"_s), cartella.percorso(u"a.txt"_s)));
+    if (!collega(altrove.percorso(u"vittima"_s), cartella.percorso(u"a.txt"_s)))
+        GTEST_SKIP();
     preleva("a.txt", "nemico");
     finito(erroreLettura);
     EXPECT_EQ(altrove.leggi(u"vittima"_s), "intatta");

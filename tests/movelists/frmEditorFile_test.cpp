@@ -4,6 +4,7 @@
 #include "Archivio.h"
 #include "Sistema.h"
 
+#include <QDir>
 #include <QFile>
 #include <gmock/gmock.h>
 
@@ -279,7 +280,8 @@ TEST_F(EditorFileTest, AProgramsPathBecomesALineAndLeavesTheFileNameAlone)
     const RispondiFile utente(cartella.percorso(u"gioco.exe"_s));
     editor.mnuInsProg.trigger();
     EXPECT_EQ(utente.filtri, QStringList{u"Applicazioni (*.exe)"_s});
-    EXPECT_EQ(righe(), QStringList{u"Programma "_s + cartella.percorso(u"gioco.exe"_s)});
+    EXPECT_EQ(righe(), QStringList{u"Programma "_s +
+                                   QDir::toNativeSeparators(cartella.percorso(u"gioco.exe"_s))});
     EXPECT_EQ(editor.Finestre.FileName(), u"lista.sqm"_s);
 }
 

@@ -70,8 +70,8 @@ TEST_F(FrmEditorTest, ComesBackOntoTheScreenWhereTheConsoleLeavesNoPlace)
 TEST_F(FrmEditorTest, StandsOnTheOtherSideWhereTheConsoleIsFlushWithTheScreensEdge)
 {
     const QRect schermo = editor.screen()->geometry();
-    const int sinistra = schermo.width() - 300;
-    console.dove = {Unita::unita(sinistra), 3000, Unita::unita(300)};
+    const int sinistra = schermo.width() - 150;
+    console.dove = {Unita::unita(sinistra), 3000, Unita::unita(150)};
     mostra();
     EXPECT_TRUE(schermo.contains(editor.frameGeometry()));
     EXPECT_LT(editor.frameGeometry().right(), sinistra);
