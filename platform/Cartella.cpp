@@ -25,14 +25,14 @@ QString trovaCartellaProgramma()
 
 QString trovaCartellaProgramma(const QString &accanto, const QString &utente)
 {
-    const QString esempi = QDir::cleanPath(accanto + u"/../share/lumbra/liste"_s);
+    const QString installati = QDir::cleanPath(accanto + u"/../share/lumbra/liste"_s);
     // The administrator may write beside an installed program, too, but nothing of his belongs
     // there.
-    if (!QFileInfo::exists(esempi) && scrivibile(accanto))
-        return accanto;
-    QDir().mkpath(utente);
-    portaEsempi(esempi, utente);
-    return utente;
+    const bool installato = QFileInfo::exists(installati);
+    const QString cartella = !installato && scrivibile(accanto) ? accanto : utente;
+    QDir().mkpath(cartella);
+    portaEsempi(installato ? installati : conSeparatore(accanto) + u"liste"_s, cartella);
+    return cartella;
 }
 
 void portaEsempi(const QString &esempi, const QString &cartella)

@@ -4,8 +4,9 @@
 #include <QString>
 
 // The folder of the executable where it can be written to, else the user's data folder for the
-// program, which is made where it is missing and gets the sample lists. An installed program, with
-// its share/lumbra beside its bin, always takes the user's folder. Asked once, at the start.
+// program, which is made where it is missing. An installed program, with its share/lumbra beside
+// its bin, always takes the user's folder. The folder gets the sample lists: those of share/lumbra,
+// or of the folder liste beside the executable. Asked once, at the start.
 QString trovaCartellaProgramma();
 
 // The same for an executable in the folder accanto and a user with the data folder utente.

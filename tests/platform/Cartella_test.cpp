@@ -76,6 +76,23 @@ TEST(Cartella, the_first_start_brings_the_sample_lists)
     EXPECT_FALSE(QFileInfo::exists(albero.utente + u"/leggimi.txt"_s));
 }
 
+TEST(Cartella, a_program_that_runs_from_any_folder_brings_the_lists_that_came_with_it)
+{
+    const Albero albero;
+    ASSERT_TRUE(QDir().mkpath(albero.bin + u"/liste"_s));
+    Albero::scrivi(albero.bin + u"/liste/saluto.sqm"_s, "Pausa 1\r\n");
+    Albero::scrivi(albero.bin + u"/liste/prog.dat"_s, "1;");
+    EXPECT_EQ(trovaCartellaProgramma(albero.bin, albero.utente), albero.bin);
+    EXPECT_EQ(Albero::leggi(albero.bin + u"/saluto.sqm"_s), "Pausa 1\r\n");
+    EXPECT_EQ(Albero::leggi(albero.bin + u"/prog.dat"_s), "1;");
+    // A newer program unpacked over it leaves the user's own alone.
+    Albero::scrivi(albero.bin + u"/prog.dat"_s, "0;");
+    ASSERT_TRUE(QFile::remove(albero.bin + u"/saluto.sqm"_s));
+    trovaCartellaProgramma(albero.bin, albero.utente);
+    EXPECT_EQ(Albero::leggi(albero.bin + u"/prog.dat"_s), "0;");
+    EXPECT_EQ(Albero::leggi(albero.bin + u"/saluto.sqm"_s), "none");
+}
+
 TEST(Cartella, a_sample_list_never_takes_the_place_of_the_users)
 {
     const Albero albero;
