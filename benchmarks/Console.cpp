@@ -68,13 +68,3 @@ void PassoDelleFrecce(benchmark::State &stato)
 BENCHMARK(MossaSullaTesta)->Unit(benchmark::kMicrosecond);
 BENCHMARK(MossaSullaLista)->Unit(benchmark::kMicrosecond);
 BENCHMARK(PassoDelleFrecce)->Unit(benchmark::kMicrosecond);
-
-int main(int argc, char **argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

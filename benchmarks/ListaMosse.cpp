@@ -106,13 +106,3 @@ BENCHMARK(CaricaEMostra)->Unit(benchmark::kMillisecond);
 BENCHMARK(ScorriUnaPagina)->Unit(benchmark::kMillisecond);
 BENCHMARK(LeggiUnaRiga);
 BENCHMARK(CorsaDiMillePause)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(3);
-
-int main(int argc, char **argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

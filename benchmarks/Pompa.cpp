@@ -4,7 +4,6 @@
 #include "Barre.h"
 #include "Temporizzatore.h"
 
-#include <QApplication>
 #include <benchmark/benchmark.h>
 #include <ctime>
 #include <memory>
@@ -73,12 +72,3 @@ BENCHMARK(GiriConITimerDellaSessione)->UseManualTime()->Unit(benchmark::kSecond)
 BENCHMARK(GiriConLaBarra)->UseManualTime()->Unit(benchmark::kSecond)->Iterations(1);
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}

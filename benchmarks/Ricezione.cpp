@@ -5,7 +5,6 @@
 #include "Terminale.h"
 #include "frmPrincipale.h"
 
-#include <QApplication>
 #include <benchmark/benchmark.h>
 #include <thread>
 
@@ -98,12 +97,3 @@ void UnTelegramma(benchmark::State &stato)
 BENCHMARK(Linea)->Arg(1 << 20)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(LineaSoloSensori)->Arg(1 << 16)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(UnTelegramma)->Arg(1000)->Arg(1 << 20)->Arg(4 << 20);
-
-int main(int argc, char **argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -292,12 +292,3 @@ BENCHMARK(SommaDifferenze)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 BENCHMARK(UltimaRiga)->Arg(0)->Arg(20)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(PienaVelocita)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(VelocitaDellaLinea)->Unit(benchmark::kSecond)->UseRealTime()->Iterations(1);
-
-int main(int argc, char **argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -26,6 +26,7 @@ QStringView testoCampo(QStringView condizione, int campo);
 // Whether the field's first two characters say that it is not set.
 bool campoNo(QStringView condizione, int campo);
 
+// The fields with a comma between them, as they are.
 QString componiCondizione(const std::array<QString, campiCondizione> &campi);
 
 // One word for the fields that are set; empty where none is.
@@ -53,6 +54,7 @@ private:
     std::array<double, 3> m_numeri;
 };
 
+// The same of two texts.
 std::optional<QString> Contrasto(QStringView condizione, QStringView altra);
 
 // A telemetry text ("Ultrasuoni:101", "Temperatura:25", "Batterie:34"), read once to be tested
@@ -73,4 +75,5 @@ private:
     double m_motori = 0;
 };
 
+// The same of two texts.
 bool condizioneVera(QStringView condizione, QStringView telemetria);

@@ -12,7 +12,6 @@
 
 #include <QDir>
 #include <QScreen>
-#include <QTimer>
 
 namespace {
 

@@ -4,6 +4,7 @@
 #include "Temporizzatore.h"
 
 #include <QByteArray>
+#include <functional>
 
 // Grows at its end and shrinks from its beginning, both in time that does not depend on what lies
 // between.
@@ -12,7 +13,7 @@ class Accumulatore
 public:
     qsizetype lunghezza() const { return m_byte.size() - m_tagliati; }
     bool vuoto() const { return lunghezza() == 0; }
-    // From 1, as the telegrams count their bytes.
+    // From 1 to lunghezza(), as the telegrams count their bytes; not checked.
     quint8 byte(qsizetype posto) const
     {
         return static_cast<quint8>(m_byte.at(m_tagliati + posto - 1));
@@ -22,6 +23,7 @@ public:
     QByteArray tutto() const { return m_byte.sliced(m_tagliati); }
 
     void aggiungi(const QByteArray &byte);
+    // From the beginning; all of it where there are fewer.
     void taglia(qsizetype quanti);
     void svuota();
 

@@ -14,7 +14,7 @@ public:
     virtual void CalcolaRiga(const QByteArray &riga) = 0;
 };
 
-// Takes what the robot's storage sends.
+// Takes what the robot's storage sends. k is the number of the channel on the robot.
 class AscoltatoreFile
 {
 public:
@@ -25,7 +25,9 @@ public:
     virtual bool visibile() const = 0;
     virtual Attesa attesa() const = 0;
     virtual void finisciAttesa() = 0;
+    // One entry of a folder: x is 2 for a folder and anything else for a file, corpo the name.
     virtual void VisualizzaElenco(quint8 k, quint8 x, const QByteArray &corpo) = 0;
+    // Steps the wait animation, or hides it.
     virtual void ImmagineAttesa(bool attiva) = 0;
     // The name of the file that was asked for, without a path.
     virtual QString nomeFile() const = 0;
@@ -33,6 +35,7 @@ public:
     virtual void caricaFoto(const QString &percorso) = 0;
     virtual void togliFoto() = 0;
     virtual void intitolaFoto(const QString &nome) = 0;
+    // The fetch is over: the window may be used again.
     virtual void riabilita() = 0;
 };
 
@@ -42,5 +45,7 @@ class AscoltatoreTelemetria
 public:
     virtual ~AscoltatoreTelemetria() = default;
     virtual bool avviato() const = 0;
+    // "Ultrasuoni:101" (right, centre, left), "Temperatura:25" (degrees) or "Batterie:34" (levels
+    // of the logic and of the motor battery). Called only while avviato().
     virtual void VerificaCondizioni(const QString &testo) = 0;
 };

@@ -13,9 +13,11 @@ public:
     virtual void MostraInvio(const QString &testo) = 0;
 };
 
-// Numbers that do not fit a byte are sent as their low byte. Unless said otherwise a command stops
-// at the first piece that fails and tells the user where the port is closed, by a message box; no
-// error reaches the caller. Nothing waits for an answer.
+// The bytes of each command, and the pieces in which they are written, are those that the robot
+// takes (tests/link/TavolaComandi.cpp lists them all). Numbers are not checked: what does not fit a
+// byte is sent as its low byte. Unless said otherwise a command stops at the first piece that fails
+// and tells the user where the port is closed, by a message box; no error reaches the caller.
+// Nothing waits for an answer.
 namespace ComandiTessaro {
 
 // These three pass over every error: a piece that fails is skipped.
@@ -23,10 +25,11 @@ void ApriSessione(ControlloSeriale &COM);
 void ChiudiSessione(ControlloSeriale &COM);
 void FermaVideo(ControlloSeriale &COM);
 
-// Sets the video up (a is the scale) and starts it, telling about both; false on a failure.
+// Sets the video up and starts it, telling about both; false on a failure. a: the scale, a frame
+// being a times 8 pixels wide and a times 6 high; b goes out as it is, and is 0.
 bool AvviaVideo(ControlloSeriale &COM, quint8 a, quint8 b, EsitoVideo &esito);
 
-// n: steps.
+// n: steps, 1 to 4 up and down, 1 to 12 to the sides.
 void TestaSu(ControlloSeriale &COM, quint8 n);
 void TestaGiu(ControlloSeriale &COM, quint8 n);
 void TestaDestra(ControlloSeriale &COM, quint8 n);
@@ -59,24 +62,28 @@ void Bacino(ControlloSeriale &COM, quint8 v);
 void LedPosizione(ControlloSeriale &COM, qint16 v);
 void ScattaFoto(ControlloSeriale &COM);
 
-// n: phrase number plus 66, or sound number plus 206.
+// n: phrase number (1 to 140) plus 66, or sound number (1 to 16) plus 206; see FrasiSuoni.
 void Riproduci(ControlloSeriale &COM, qint16 n);
-// v: number of the message. The first two go out twice, back to back.
+// v: number of the recorded message, 1 to 10. The first two go out twice, back to back.
 void MexPlay(ControlloSeriale &COM, quint8 v);
 void MexRegistra(ControlloSeriale &COM, quint8 v);
 void MexCancella(ControlloSeriale &COM, quint8 v);
 void MexStop(ControlloSeriale &COM);
-// n: number of the program, 0 stops it.
+// n: number of the robot's own program, 1 to 10; 0 stops the one that runs.
 void ProgInterno(ControlloSeriale &COM, quint8 n);
 
+// The polls, for telemetry and for the keep-alive.
 void RichiediSensori(ControlloSeriale &COM);
 void RichiediStatoA(ControlloSeriale &COM);
 void RichiediStatoB(ControlloSeriale &COM);
 
-// n: 16 for a folder, 1 for a file.
+// The robot's storage. n: 16 for a folder, 1 for a file; percorso: up to 255 bytes, as its length
+// goes out in one. The robot answers with the number of a channel, which is c below.
 void ApriPercorso(ControlloSeriale &COM, quint8 n, const QByteArray &percorso);
 void ChiudiCanale(ControlloSeriale &COM, quint8 c);
+// Asks for so many bytes of an open file at most: a is the low byte of the number, b the high one.
 void LeggiBlocco(ControlloSeriale &COM, quint8 c, quint8 a, quint8 b);
+// Asks for the next entry of an open folder.
 void LeggiElenco(ControlloSeriale &COM, quint8 c);
 
 // What a command does with its failure: "Non sono collegato al robot" where the port is closed,

@@ -67,7 +67,7 @@ private:
     };
     Byte byte(qsizetype posto) { return {*this, posto}; }
 
-    // How a telegram's branch ends: with so many bytes to cut, or with the tick's end.
+    // Cuts off and handles telegrams until nothing is left, or the first is not complete.
     Scatto tmrElabInput_Timer();
     void videoRiga();
     void temperatura(quint8 t);

@@ -58,7 +58,7 @@ public:
     // The panels' widths in logical pixels; 0 takes what is left.
     BarraDiStato(const QString &nome, QWidget *dentro, const std::vector<int> &larghezze);
 
-    // From 1.
+    // From 1; a panel that is not there is Errore::ProprietaNonValida.
     QString Panels(int numero) const { return pannello(numero).text(); }
     void setPanels(int numero, const QString &testo) { pannello(numero).setText(testo); }
 

@@ -31,7 +31,9 @@ public:
     void RemoveItem(int riga);
     void Clear();
 
+    // When a row is chosen, by the user or by code.
     Evento<> Click;
+    // When the text is typed.
     Evento<> Change;
 
 protected:

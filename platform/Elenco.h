@@ -47,7 +47,9 @@ public:
     // The height of a row in layout units.
     double AltezzaRiga() const;
 
+    // When ListIndex or a check mark changes, by the user or by code, and at a press on a row.
     Evento<> Click;
+    // KeyCode and Shift, before the list; a handler that sets KeyCode to 0 keeps the key from it.
     Evento<int &, int> KeyDown;
 
 protected:

@@ -12,6 +12,7 @@ QByteArray impostazione(const QByteArray &testo);
 // What stands behind it.
 QByteArray condizione(const QByteArray &testo);
 
+// The file's text, made of both.
 QByteArray uniti(const QByteArray &impostazione, const QByteArray &condizione);
 
 } // namespace CampiProgDat

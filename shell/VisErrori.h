@@ -9,6 +9,7 @@
 // of the active window and " - Errore".
 void MostraErrore(const QString &messaggioErrore, const QString &titolo);
 
+// The caption of the window that is active, or was last; empty where there is none.
 QString titoloFinestraAttiva();
 
 // The one exit of the handlers with a file dialog: the user's cancelling is silent.

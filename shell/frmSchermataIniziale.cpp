@@ -4,7 +4,6 @@
 #include "Numeri.h"
 #include "Versione.h"
 
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QScreen>
 #include <QVBoxLayout>

@@ -21,33 +21,33 @@ bool CollegamentoPorta::crea(const QString &cartella, int n, const QString &meta
         return false;
     }
     rimuovi();
-    nome_ = QDir(cartella).absoluteFilePath(u"COM%1"_s.arg(n));
+    m_nome = QDir(cartella).absoluteFilePath(u"COM%1"_s.arg(n));
     return meta.isEmpty() || aggiorna(meta, errore);
 }
 
 bool CollegamentoPorta::aggiorna(const QString &meta, QString &errore)
 {
-    if (nome_.isEmpty())
+    if (m_nome.isEmpty())
         return true;
-    const QFileInfo info(nome_);
+    const QFileInfo info(m_nome);
     if (info.isSymLink())
-        QFile::remove(nome_);
+        QFile::remove(m_nome);
     QFile device(meta);
-    if ((!info.isSymLink() && info.exists()) || !device.link(nome_)) {
-        errore = u"%1: il collegamento non può essere creato"_s.arg(nome_);
-        nome_.clear();
+    if ((!info.isSymLink() && info.exists()) || !device.link(m_nome)) {
+        errore = u"%1: il collegamento non può essere creato"_s.arg(m_nome);
+        m_nome.clear();
         return false;
     }
-    meta_ = meta;
+    m_meta = meta;
     return true;
 }
 
 // Only if it is still ours: another robot may have taken the name.
 void CollegamentoPorta::rimuovi()
 {
-    const QFileInfo info(nome_);
-    if (!nome_.isEmpty() && info.isSymLink() && info.symLinkTarget() == meta_)
-        QFile::remove(nome_);
-    nome_.clear();
+    const QFileInfo info(m_nome);
+    if (!m_nome.isEmpty() && info.isSymLink() && info.symLinkTarget() == m_meta)
+        QFile::remove(m_nome);
+    m_nome.clear();
 }
 } // namespace tessaro_sim

@@ -33,14 +33,14 @@ QString VoceDiario::riga() const
 
 Diario::Diario(QObject *parent) : QObject(parent)
 {
-    orologio_.start();
+    m_orologio.start();
 }
 
 QStringList Diario::righe() const
 {
     QStringList righe;
-    righe.reserve(voci_.size());
-    for (const VoceDiario &voce : voci_)
+    righe.reserve(m_voci.size());
+    for (const VoceDiario &voce : m_voci)
         righe << voce.riga();
     return righe;
 }
@@ -48,7 +48,7 @@ QStringList Diario::righe() const
 QStringList Diario::comandi(bool conRichieste) const
 {
     QStringList testi;
-    for (const VoceDiario &voce : voci_) {
+    for (const VoceDiario &voce : m_voci) {
         if (voce.tipo == VoceDiario::Tipo::Comando && (conRichieste || !eRichiesta(voce.testo)))
             testi << voce.testo;
     }
@@ -57,14 +57,15 @@ QStringList Diario::comandi(bool conRichieste) const
 
 int Diario::conta(const QString &testo) const
 {
-    return static_cast<int>(std::count_if(
-        voci_.cbegin(), voci_.cend(), [&](const VoceDiario &voce) { return voce.testo == testo; }));
+    return static_cast<int>(
+        std::count_if(m_voci.cbegin(), m_voci.cend(),
+                      [&](const VoceDiario &voce) { return voce.testo == testo; }));
 }
 
 QByteArray Diario::nonCapiti() const
 {
     QByteArray byte;
-    for (const VoceDiario &voce : voci_) {
+    for (const VoceDiario &voce : m_voci) {
         if (voce.tipo == VoceDiario::Tipo::NonCapito)
             byte += voce.byte;
     }
@@ -74,17 +75,17 @@ QByteArray Diario::nonCapiti() const
 void Diario::aggiungi(VoceDiario::Tipo tipo, const QString &testo, const QByteArray &byte,
                       const QString &nota)
 {
-    if (voci_.size() >= massimo)
-        voci_.remove(0, massimo / 10);
-    voci_.append({tipo, orologio_.elapsed(), testo, byte, nota});
+    if (m_voci.size() >= massimo)
+        m_voci.remove(0, massimo / 10);
+    m_voci.append({tipo, m_orologio.elapsed(), testo, byte, nota});
     // A copy: whoever listens may empty the diary.
-    const VoceDiario voce = voci_.constLast();
+    const VoceDiario voce = m_voci.constLast();
     Q_EMIT aggiunta(voce);
 }
 
 void Diario::svuota()
 {
-    voci_.clear();
+    m_voci.clear();
     Q_EMIT svuotato();
 }
 } // namespace tessaro_sim

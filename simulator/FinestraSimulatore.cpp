@@ -69,7 +69,7 @@ QString messaggi(const StatoRobot &s)
 } // namespace
 
 FinestraSimulatore::FinestraSimulatore(Simulatore &simulatore, QWidget *parent)
-    : QWidget(parent), sim_(simulatore)
+    : QWidget(parent), m_sim(simulatore)
 {
     setObjectName(u"frmSimulatore"_s);
     setWindowTitle(u"Tessaro simulato"_s);
@@ -77,7 +77,7 @@ FinestraSimulatore::FinestraSimulatore(Simulatore &simulatore, QWidget *parent)
     setPalette(QPalette(QColor(0xf4, 0xf6, 0xf9), QColor(0xe9, 0xed, 0xf2)));
     setStyleSheet(stile);
 
-    Robot &robot = sim_.robot();
+    Robot &robot = m_sim.robot();
     auto *cornice = new QFrame;
     cornice->setObjectName(u"cornice"_s);
     auto *dentro = new QVBoxLayout(cornice);
@@ -90,7 +90,7 @@ FinestraSimulatore::FinestraSimulatore(Simulatore &simulatore, QWidget *parent)
     auto *sinistra = new QVBoxLayout;
     sinistra->setSpacing(10);
     sinistra->addWidget(cornice, 5);
-    sinistra->addWidget(new PannelloDiario(sim_.diario()), 2);
+    sinistra->addWidget(new PannelloDiario(m_sim.diario()), 2);
 
     auto *fronte = new QGroupBox(u"Robot"_s);
     auto *interno = new QVBoxLayout(fronte);
@@ -102,7 +102,7 @@ FinestraSimulatore::FinestraSimulatore(Simulatore &simulatore, QWidget *parent)
     destra->addWidget(fronte, 1);
     destra->addWidget(new PannelloSensori(robot));
     destra->addWidget(telecamera);
-    destra->addWidget(new PannelloLinea(sim_));
+    destra->addWidget(new PannelloLinea(m_sim));
 
     auto *tutto = new QHBoxLayout(this);
     tutto->setContentsMargins(12, 12, 12, 12);
@@ -124,11 +124,11 @@ QWidget *FinestraSimulatore::striscia()
     riga->setContentsMargins(2, 0, 2, 0);
     riga->setSpacing(18);
     for (const auto &[titolo, nome, testo] :
-         {std::tuple{u"Sessione"_s, u"lblSessione"_s, &sessione_},
-          {u"Programma"_s, u"lblProgramma"_s, &programma_},
-          {u"Foto"_s, u"lblFoto"_s, &foto_},
-          {u"Base"_s, u"lblBase"_s, &base_},
-          {u"Dice"_s, u"lblVoce"_s, &voce_}}) {
+         {std::tuple{u"Sessione"_s, u"lblSessione"_s, &m_sessione},
+          {u"Programma"_s, u"lblProgramma"_s, &m_programma},
+          {u"Foto"_s, u"lblFoto"_s, &m_foto},
+          {u"Base"_s, u"lblBase"_s, &m_base},
+          {u"Dice"_s, u"lblVoce"_s, &m_voce}}) {
         auto *coppia = new QVBoxLayout;
         coppia->setSpacing(1);
         auto *sopra = new QLabel(titolo);
@@ -137,15 +137,15 @@ QWidget *FinestraSimulatore::striscia()
         (*testo)->setObjectName(nome);
         coppia->addWidget(sopra);
         coppia->addWidget(*testo);
-        riga->addLayout(coppia, testo == &voce_ ? 1 : 0);
+        riga->addLayout(coppia, testo == &m_voce ? 1 : 0);
     }
     const QFontMetrics misura = fontMetrics();
-    sessione_->setFixedWidth(misura.horizontalAdvance(u"aperta"_s) + 12);
-    base_->setFixedWidth(misura.horizontalAdvance(u"ferma contro un ostacolo"_s) + 12);
-    programma_->setFixedWidth(misura.horizontalAdvance(u"nessuno"_s) + 12);
+    m_sessione->setFixedWidth(misura.horizontalAdvance(u"aperta"_s) + 12);
+    m_base->setFixedWidth(misura.horizontalAdvance(u"ferma contro un ostacolo"_s) + 12);
+    m_programma->setFixedWidth(misura.horizontalAdvance(u"nessuno"_s) + 12);
     // A long phrase must not widen the window: it is cut, and whole in its tool tip.
-    voce_->setMinimumWidth(120);
-    voce_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_voce->setMinimumWidth(120);
+    m_voce->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     return striscia;
 }
 
@@ -158,13 +158,13 @@ void FinestraSimulatore::resizeEvent(QResizeEvent *evento)
 
 void FinestraSimulatore::mostra()
 {
-    const StatoRobot &s = sim_.robot().stato();
-    sessione_->setText(s.sessioneAperta ? u"aperta"_s : u"chiusa"_s);
-    base_->setText(moto(s));
-    programma_->setText(s.programma == 0 ? u"nessuno"_s : QString::number(s.programma));
-    foto_->setText(QString::number(s.foto));
+    const StatoRobot &s = m_sim.robot().stato();
+    m_sessione->setText(s.sessioneAperta ? u"aperta"_s : u"chiusa"_s);
+    m_base->setText(moto(s));
+    m_programma->setText(s.programma == 0 ? u"nessuno"_s : QString::number(s.programma));
+    m_foto->setText(QString::number(s.foto));
     const QString detto = messaggi(s);
-    voce_->setText(voce_->fontMetrics().elidedText(detto, Qt::ElideRight, voce_->width()));
-    voce_->setToolTip(detto);
+    m_voce->setText(m_voce->fontMetrics().elidedText(detto, Qt::ElideRight, m_voce->width()));
+    m_voce->setToolTip(detto);
 }
 } // namespace tessaro_sim

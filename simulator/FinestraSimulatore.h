@@ -6,12 +6,12 @@ class QLabel;
 inline namespace tessaro_sim {
 class Simulatore;
 
-/// The simulator's window: the room, the robot from the front, its sensors, line, camera, diary.
+// The simulator's window: the room, the robot from the front, its sensors, line, camera, diary.
 class FinestraSimulatore : public QWidget
 {
     Q_OBJECT
 public:
-    /// `simulatore` must outlive the window.
+    // `simulatore` must outlive the window.
     explicit FinestraSimulatore(Simulatore &simulatore, QWidget *parent = nullptr);
 
 protected:
@@ -21,11 +21,11 @@ private:
     QWidget *striscia();
     void mostra();
 
-    Simulatore &sim_;
-    QLabel *sessione_ = nullptr;
-    QLabel *base_ = nullptr;
-    QLabel *voce_ = nullptr;
-    QLabel *programma_ = nullptr;
-    QLabel *foto_ = nullptr;
+    Simulatore &m_sim;
+    QLabel *m_sessione = nullptr;
+    QLabel *m_base = nullptr;
+    QLabel *m_voce = nullptr;
+    QLabel *m_programma = nullptr;
+    QLabel *m_foto = nullptr;
 };
 } // namespace tessaro_sim

@@ -5,14 +5,14 @@ bool FiltroGuasti::capita(double probabilita)
 {
     if (probabilita <= 0.0)
         return false;
-    return std::uniform_real_distribution<double>(0.0, 1.0)(caso_) < probabilita;
+    return std::uniform_real_distribution<double>(0.0, 1.0)(m_caso) < probabilita;
 }
 
 QByteArray FiltroGuasti::telegramma(const QByteArray &intero, const Guasti &guasti)
 {
     QByteArray byte = intero;
     if (byte.size() > 1 && capita(guasti.troncati))
-        byte.truncate(std::uniform_int_distribution<qsizetype>(1, byte.size() - 1)(caso_));
+        byte.truncate(std::uniform_int_distribution<qsizetype>(1, byte.size() - 1)(m_caso));
     return linea(byte, guasti);
 }
 
@@ -27,7 +27,7 @@ QByteArray FiltroGuasti::linea(const QByteArray &byte, const Guasti &guasti)
             continue;
         if (capita(guasti.sporchi)) {
             // Never the same byte again: a garbled byte is a different one.
-            const int altro = std::uniform_int_distribution<int>(1, 255)(caso_);
+            const int altro = std::uniform_int_distribution<int>(1, 255)(m_caso);
             c = static_cast<char>(static_cast<quint8>((static_cast<quint8>(c) + altro) & 255));
         }
         uscita += c;

@@ -21,7 +21,7 @@ LineaPty::~LineaPty()
 
 bool LineaPty::fallisci(const QString &dove)
 {
-    errore_ = u"%1: %2"_s.arg(dove, QString::fromLocal8Bit(std::strerror(errno)));
+    m_errore = u"%1: %2"_s.arg(dove, QString::fromLocal8Bit(std::strerror(errno)));
     chiudi();
     return false;
 }
@@ -29,24 +29,24 @@ bool LineaPty::fallisci(const QString &dove)
 bool LineaPty::apri()
 {
     chiudi();
-    errore_.clear();
+    m_errore.clear();
     std::array<char, 256> nome{};
-    if (::openpty(&capo_, &presa_, nome.data(), nullptr, nullptr) != 0)
+    if (::openpty(&m_capo, &m_presa, nome.data(), nullptr, nullptr) != 0)
         return fallisci(u"openpty"_s);
-    percorso_ = QFile::decodeName(nome.data());
-    ::fcntl(capo_, F_SETFL, O_NONBLOCK);
-    ::fcntl(capo_, F_SETFD, FD_CLOEXEC);
-    ::fcntl(presa_, F_SETFD, FD_CLOEXEC);
+    m_percorso = QFile::decodeName(nome.data());
+    ::fcntl(m_capo, F_SETFL, O_NONBLOCK);
+    ::fcntl(m_capo, F_SETFD, FD_CLOEXEC);
+    ::fcntl(m_presa, F_SETFD, FD_CLOEXEC);
     libera();
 
-    guardia_ = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
-    if (guardia_ < 0 || ::inotify_add_watch(guardia_, nome.data(), IN_OPEN | IN_CLOSE) < 0)
+    m_guardia = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    if (m_guardia < 0 || ::inotify_add_watch(m_guardia, nome.data(), IN_OPEN | IN_CLOSE) < 0)
         return fallisci(u"inotify"_s);
-    notaAperture_ = std::make_unique<QSocketNotifier>(guardia_, QSocketNotifier::Read);
-    QObject::connect(notaAperture_.get(), &QSocketNotifier::activated, notaAperture_.get(),
+    m_notaAperture = std::make_unique<QSocketNotifier>(m_guardia, QSocketNotifier::Read);
+    QObject::connect(m_notaAperture.get(), &QSocketNotifier::activated, m_notaAperture.get(),
                      [this] { guardaAperture(); });
-    notaLettura_ = std::make_unique<QSocketNotifier>(capo_, QSocketNotifier::Read);
-    QObject::connect(notaLettura_.get(), &QSocketNotifier::activated, notaLettura_.get(), [this] {
+    m_notaLettura = std::make_unique<QSocketNotifier>(m_capo, QSocketNotifier::Read);
+    QObject::connect(m_notaLettura.get(), &QSocketNotifier::activated, m_notaLettura.get(), [this] {
         guardaAperture();
         leggi();
     });
@@ -56,38 +56,38 @@ bool LineaPty::apri()
 void LineaPty::chiudi()
 {
     // A callback of a notifier may be what brought us here: it dies when the event loop is back.
-    for (auto *nota : {&notaLettura_, &notaAperture_}) {
+    for (auto *nota : {&m_notaLettura, &m_notaAperture}) {
         if (*nota) {
             (*nota)->setEnabled(false);
             nota->release()->deleteLater();
         }
     }
-    for (int *fd : {&guardia_, &presa_, &capo_}) {
+    for (int *fd : {&m_guardia, &m_presa, &m_capo}) {
         if (*fd >= 0)
             ::close(*fd);
         *fd = -1;
     }
-    ascoltata_ = false;
-    percorso_.clear();
+    m_ascoltata = false;
+    m_percorso.clear();
 }
 
 // Raw, unread bytes gone, and no claim of the last program left on it.
 void LineaPty::libera()
 {
     termios modo{};
-    if (::tcgetattr(presa_, &modo) == 0) {
+    if (::tcgetattr(m_presa, &modo) == 0) {
         ::cfmakeraw(&modo);
         ::cfsetspeed(&modo, B9600);
-        ::tcsetattr(presa_, TCSANOW, &modo);
+        ::tcsetattr(m_presa, TCSANOW, &modo);
     }
-    ::ioctl(presa_, TIOCNXCL);
-    ::tcflush(presa_, TCIFLUSH);
+    ::ioctl(m_presa, TIOCNXCL);
+    ::tcflush(m_presa, TCIFLUSH);
 }
 
 bool LineaPty::ascoltata()
 {
     guardaAperture();
-    return ascoltata_;
+    return m_ascoltata;
 }
 
 // Takes all openings and closings that are waiting. The system merges equal ones, so that they
@@ -97,7 +97,7 @@ LineaPty::Eventi LineaPty::leggiEventi()
     Eventi eventi;
     alignas(inotify_event) std::array<char, 4096> spazio{};
     ssize_t n = 0;
-    while (guardia_ >= 0 && (n = ::read(guardia_, spazio.data(), spazio.size())) > 0) {
+    while (m_guardia >= 0 && (n = ::read(m_guardia, spazio.data(), spazio.size())) > 0) {
         for (ssize_t i = 0; i < n;) {
             inotify_event evento{};
             std::memcpy(&evento, spazio.data() + i, sizeof evento);
@@ -114,15 +114,15 @@ LineaPty::Eventi LineaPty::leggiEventi()
 bool LineaPty::restaQualcuno()
 {
     int esclusiva = 0;
-    ::ioctl(presa_, TIOCGEXCL, &esclusiva);
-    ::ioctl(presa_, TIOCNXCL);
-    ::close(presa_);
-    pollfd stato{capo_, 0, 0};
+    ::ioctl(m_presa, TIOCGEXCL, &esclusiva);
+    ::ioctl(m_presa, TIOCNXCL);
+    ::close(m_presa);
+    pollfd stato{m_capo, 0, 0};
     ::poll(&stato, 1, 0);
-    presa_ = ::open(QFile::encodeName(percorso_).constData(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+    m_presa = ::open(QFile::encodeName(m_percorso).constData(), O_RDWR | O_NOCTTY | O_CLOEXEC);
     const bool qualcuno = !(stato.revents & POLLHUP);
     if (qualcuno && esclusiva)
-        ::ioctl(presa_, TIOCEXCL);
+        ::ioctl(m_presa, TIOCEXCL);
     leggiEventi(); // our own
     return qualcuno;
 }
@@ -132,31 +132,31 @@ void LineaPty::guardaAperture()
     const Eventi eventi = leggiEventi();
     if (!eventi.aperta && !eventi.chiusa)
         return;
-    const bool prima = ascoltata_;
-    ascoltata_ = ascoltata_ || eventi.aperta;
+    const bool prima = m_ascoltata;
+    m_ascoltata = m_ascoltata || eventi.aperta;
     if (eventi.chiusa) {
         leggi(); // what the program wrote before it closed still arrives
-        if (capo_ < 0)
+        if (m_capo < 0)
             return;
-        ascoltata_ = restaQualcuno();
+        m_ascoltata = restaQualcuno();
         // Nothing was sent since the closing: all that lies unread was meant for who has left.
-        if (!ascoltata_)
+        if (!m_ascoltata)
             libera();
         else if (eventi.riaperta)
-            ::tcflush(presa_, TCIFLUSH);
+            ::tcflush(m_presa, TCIFLUSH);
     }
-    if ((prima != ascoltata_ || eventi.riaperta) && suAscolto)
-        suAscolto(ascoltata_);
+    if ((prima != m_ascoltata || eventi.riaperta) && suAscolto)
+        suAscolto(m_ascoltata);
 }
 
 void LineaPty::leggi()
 {
     std::array<char, 4096> spazio{};
-    while (capo_ >= 0) {
-        const ssize_t n = ::read(capo_, spazio.data(), spazio.size());
+    while (m_capo >= 0) {
+        const ssize_t n = ::read(m_capo, spazio.data(), spazio.size());
         if (n <= 0)
             return;
-        ascoltata_ = true; // whoever writes is there
+        m_ascoltata = true; // whoever writes is there
         if (suLettura)
             suLettura(QByteArray(spazio.data(), n));
     }
@@ -164,9 +164,9 @@ void LineaPty::leggi()
 
 qsizetype LineaPty::scrivi(const QByteArray &byte)
 {
-    if (capo_ < 0 || !ascoltata())
+    if (m_capo < 0 || !ascoltata())
         return byte.size();
-    const ssize_t n = ::write(capo_, byte.constData(), static_cast<std::size_t>(byte.size()));
+    const ssize_t n = ::write(m_capo, byte.constData(), static_cast<std::size_t>(byte.size()));
     return n > 0 ? n : 0;
 }
 } // namespace tessaro_sim

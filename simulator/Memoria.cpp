@@ -27,25 +27,25 @@ Memoria::~Memoria() = default;
 void Memoria::impostaRadice(const QString &cartella)
 {
     chiudiTutti();
-    temporanea_.reset();
-    radice_ = QDir(cartella).absolutePath();
+    m_temporanea.reset();
+    m_radice = QDir(cartella).absolutePath();
 }
 
 QString Memoria::radice()
 {
-    if (radice_.isEmpty()) {
-        temporanea_ = std::make_unique<QTemporaryDir>();
-        if (temporanea_->isValid() && creaEsempi(temporanea_->path()))
-            radice_ = temporanea_->path();
+    if (m_radice.isEmpty()) {
+        m_temporanea = std::make_unique<QTemporaryDir>();
+        if (m_temporanea->isValid() && creaEsempi(m_temporanea->path()))
+            m_radice = m_temporanea->path();
     }
-    return radice_;
+    return m_radice;
 }
 
 // The host folder of disk, mmc or usb; empty where there is none.
 QString Memoria::volume(const QByteArray &nome)
 {
     const QDir dir(radice());
-    if (radice_.isEmpty())
+    if (m_radice.isEmpty())
         return {};
     if (dir.exists(u"disk"_s)) {
         const QString dentro = dir.filePath(QString::fromLatin1(nome));
@@ -135,7 +135,7 @@ QList<Memoria::Voce> Memoria::elenca(const QString &cartella)
 int Memoria::canaleLibero() const
 {
     for (int k = 1; k <= canali; ++k) {
-        if (!aperti_.contains(k))
+        if (!m_aperti.contains(k))
             return k;
     }
     return 0;
@@ -159,14 +159,14 @@ QByteArray Memoria::apri(int modo, const QByteArray &percorso, const Guasti &gua
     } else {
         return Telegrammi::statoMemoria(0, NonTrovato);
     }
-    aperti_[k] = std::move(canale);
+    m_aperti[k] = std::move(canale);
     return Telegrammi::statoMemoria(k, Bene);
 }
 
 QByteArray Memoria::leggiElenco(int canale, const Guasti &guasti)
 {
-    const auto posto = aperti_.find(canale);
-    if (posto == aperti_.end() || posto->second.file)
+    const auto posto = m_aperti.find(canale);
+    if (posto == m_aperti.end() || posto->second.file)
         return Telegrammi::statoMemoria(canale, CanaleErrato);
     if (guasti.statoElenco >= 0)
         return Telegrammi::statoMemoria(canale, guasti.statoElenco);
@@ -179,8 +179,8 @@ QByteArray Memoria::leggiElenco(int canale, const Guasti &guasti)
 
 QByteArray Memoria::leggiBlocco(int canale, int quanti, const Guasti &guasti)
 {
-    const auto posto = aperti_.find(canale);
-    if (posto == aperti_.end() || !posto->second.file)
+    const auto posto = m_aperti.find(canale);
+    if (posto == m_aperti.end() || !posto->second.file)
         return Telegrammi::statoMemoria(canale, CanaleErrato);
     if (guasti.statoLettura >= 0)
         return Telegrammi::statoMemoria(canale, guasti.statoLettura);
@@ -193,12 +193,12 @@ QByteArray Memoria::leggiBlocco(int canale, int quanti, const Guasti &guasti)
 
 void Memoria::chiudi(int canale)
 {
-    aperti_.erase(canale);
+    m_aperti.erase(canale);
 }
 
 void Memoria::chiudiTutti()
 {
-    aperti_.clear();
+    m_aperti.clear();
 }
 
 QString Memoria::salvaFoto(const QImage &foto)

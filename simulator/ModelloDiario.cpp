@@ -35,56 +35,56 @@ QColor colore(VoceDiario::Tipo tipo)
 } // namespace
 
 ModelloDiario::ModelloDiario(Diario &diario, QObject *parent)
-    : QAbstractTableModel(parent), diario_(diario)
+    : QAbstractTableModel(parent), m_diario(diario)
 {
-    connect(&diario_, &Diario::aggiunta, this, &ModelloDiario::aggiungi);
-    connect(&diario_, &Diario::svuotato, this, &ModelloDiario::ricarica);
+    connect(&m_diario, &Diario::aggiunta, this, &ModelloDiario::aggiungi);
+    connect(&m_diario, &Diario::svuotato, this, &ModelloDiario::ricarica);
     ricarica();
 }
 
 void ModelloDiario::nascondiRichieste(bool nascoste)
 {
-    senzaRichieste_ = nascoste;
+    m_senzaRichieste = nascoste;
     ricarica();
 }
 
 bool ModelloDiario::mostrata(const VoceDiario &voce) const
 {
-    return !senzaRichieste_ || !voce.testo.startsWith(u"Richiedi"_s);
+    return !m_senzaRichieste || !voce.testo.startsWith(u"Richiedi"_s);
 }
 
 void ModelloDiario::aggiungi(const VoceDiario &voce)
 {
     if (!mostrata(voce))
         return;
-    if (voci_.size() >= righeMassime) {
+    if (m_voci.size() >= righeMassime) {
         const int via = righeMassime / 10;
         beginRemoveRows({}, 0, via - 1);
-        voci_.remove(0, via);
+        m_voci.remove(0, via);
         endRemoveRows();
     }
-    const int riga = static_cast<int>(voci_.size());
+    const int riga = static_cast<int>(m_voci.size());
     beginInsertRows({}, riga, riga);
-    voci_.append(voce);
+    m_voci.append(voce);
     endInsertRows();
 }
 
 void ModelloDiario::ricarica()
 {
     beginResetModel();
-    voci_.clear();
-    for (const VoceDiario &voce : diario_.voci()) {
+    m_voci.clear();
+    for (const VoceDiario &voce : m_diario.voci()) {
         if (mostrata(voce))
-            voci_.append(voce);
+            m_voci.append(voce);
     }
-    if (voci_.size() > righeMassime)
-        voci_.remove(0, voci_.size() - righeMassime);
+    if (m_voci.size() > righeMassime)
+        m_voci.remove(0, m_voci.size() - righeMassime);
     endResetModel();
 }
 
 int ModelloDiario::rowCount(const QModelIndex &padre) const
 {
-    return padre.isValid() ? 0 : static_cast<int>(voci_.size());
+    return padre.isValid() ? 0 : static_cast<int>(m_voci.size());
 }
 
 int ModelloDiario::columnCount(const QModelIndex &padre) const
@@ -96,7 +96,7 @@ QVariant ModelloDiario::data(const QModelIndex &indice, int ruolo) const
 {
     if (!indice.isValid())
         return {};
-    const VoceDiario &voce = voci_.at(indice.row());
+    const VoceDiario &voce = m_voci.at(indice.row());
     if (ruolo == Qt::ForegroundRole)
         return colore(voce.tipo);
     if (ruolo == Qt::TextAlignmentRole && indice.column() == Tempo)

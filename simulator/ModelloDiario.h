@@ -3,7 +3,7 @@
 #include <QAbstractTableModel>
 
 inline namespace tessaro_sim {
-/// The diary as the rows of a table: seconds, bytes, text with its remark.
+// The diary as the rows of a table: seconds, bytes, text with its remark.
 class ModelloDiario : public QAbstractTableModel
 {
     Q_OBJECT
@@ -12,7 +12,7 @@ public:
 
     explicit ModelloDiario(Diario &diario, QObject *parent = nullptr);
 
-    /// True: the periodic polls are left out.
+    // True: the periodic polls are left out.
     void nascondiRichieste(bool nascoste);
 
     int rowCount(const QModelIndex &padre = {}) const override;
@@ -25,8 +25,8 @@ private:
     void aggiungi(const VoceDiario &voce);
     void ricarica();
 
-    Diario &diario_;
-    QList<VoceDiario> voci_;
-    bool senzaRichieste_ = true;
+    Diario &m_diario;
+    QList<VoceDiario> m_voci;
+    bool m_senzaRichieste = true;
 };
 } // namespace tessaro_sim

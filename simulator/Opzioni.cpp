@@ -69,19 +69,19 @@ QStringList conLogIntero(const QStringList &argomenti)
 class Lettore
 {
 public:
-    explicit Lettore(const QCommandLineParser &parser) : parser_(parser) {}
+    explicit Lettore(const QCommandLineParser &parser) : m_parser(parser) {}
     QString lamento;
 
     void testo(const QString &nome, QString &dove) const
     {
-        if (parser_.isSet(nome))
-            dove = parser_.value(nome);
+        if (m_parser.isSet(nome))
+            dove = m_parser.value(nome);
     }
     void numeri(const QString &nome, std::initializer_list<int *> dove, int da, int a)
     {
-        if (!parser_.isSet(nome))
+        if (!m_parser.isSet(nome))
             return;
-        const QStringList parti = parser_.value(nome).split(u',');
+        const QStringList parti = m_parser.value(nome).split(u',');
         bool bene = parti.size() == static_cast<qsizetype>(dove.size());
         qsizetype i = 0;
         for (int *meta : dove) {
@@ -96,10 +96,10 @@ public:
     }
     void probabilita(const QString &nome, double &dove)
     {
-        if (!parser_.isSet(nome))
+        if (!m_parser.isSet(nome))
             return;
         bool bene = false;
-        const double v = parser_.value(nome).toDouble(&bene);
+        const double v = m_parser.value(nome).toDouble(&bene);
         if (bene && v >= 0.0 && v <= 1.0)
             dove = v;
         else
@@ -110,9 +110,9 @@ private:
     void lamenta(const QString &nome)
     {
         if (lamento.isEmpty())
-            lamento = u"Valore non valido per --%1: %2"_s.arg(nome, parser_.value(nome));
+            lamento = u"Valore non valido per --%1: %2"_s.arg(nome, m_parser.value(nome));
     }
-    const QCommandLineParser &parser_;
+    const QCommandLineParser &m_parser;
 };
 } // namespace
 

@@ -15,24 +15,24 @@ using namespace Qt::StringLiterals;
 
 inline namespace tessaro_sim {
 PannelloDiario::PannelloDiario(Diario &diario, QWidget *parent)
-    : QGroupBox(u"Diario"_s, parent), diario_(diario)
+    : QGroupBox(u"Diario"_s, parent), m_diario(diario)
 {
-    modello_ = new ModelloDiario(diario, this);
-    elenco_ = new QTableView;
-    elenco_->setObjectName(u"elencoDiario"_s);
-    elenco_->setModel(modello_);
-    elenco_->setShowGrid(false);
-    elenco_->setAlternatingRowColors(true);
-    elenco_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    elenco_->setWordWrap(false);
-    elenco_->verticalHeader()->hide();
-    elenco_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 7);
-    elenco_->horizontalHeader()->setHighlightSections(false);
-    elenco_->horizontalHeader()->setStretchLastSection(true);
-    elenco_->setColumnWidth(ModelloDiario::Tempo,
-                            fontMetrics().horizontalAdvance(u"00000,00"_s) + 26);
-    elenco_->setColumnWidth(ModelloDiario::Byte,
-                            fontMetrics().horizontalAdvance(u"255 255 255 255 255"_s) + 26);
+    m_modello = new ModelloDiario(diario, this);
+    m_elenco = new QTableView;
+    m_elenco->setObjectName(u"elencoDiario"_s);
+    m_elenco->setModel(m_modello);
+    m_elenco->setShowGrid(false);
+    m_elenco->setAlternatingRowColors(true);
+    m_elenco->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_elenco->setWordWrap(false);
+    m_elenco->verticalHeader()->hide();
+    m_elenco->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 7);
+    m_elenco->horizontalHeader()->setHighlightSections(false);
+    m_elenco->horizontalHeader()->setStretchLastSection(true);
+    m_elenco->setColumnWidth(ModelloDiario::Tempo,
+                             fontMetrics().horizontalAdvance(u"00000,00"_s) + 26);
+    m_elenco->setColumnWidth(ModelloDiario::Byte,
+                             fontMetrics().horizontalAdvance(u"255 255 255 255 255"_s) + 26);
 
     auto *senzaRichieste = new QCheckBox(u"Nascondi le richieste periodiche"_s);
     senzaRichieste->setObjectName(u"opzNascondiRichieste"_s);
@@ -48,28 +48,28 @@ PannelloDiario::PannelloDiario(Diario &diario, QWidget *parent)
     sotto->addWidget(pulCopia);
     sotto->addWidget(pulSvuota);
     auto *colonna = new QVBoxLayout(this);
-    colonna->addWidget(elenco_);
+    colonna->addWidget(m_elenco);
     colonna->addLayout(sotto);
 
     connect(senzaRichieste, &QCheckBox::toggled, this, [this](bool nascoste) {
-        modello_->nascondiRichieste(nascoste);
-        elenco_->scrollToBottom();
+        m_modello->nascondiRichieste(nascoste);
+        m_elenco->scrollToBottom();
     });
     connect(pulCopia, &QPushButton::clicked, this, &PannelloDiario::copia);
-    connect(pulSvuota, &QPushButton::clicked, this, [this] { diario_.svuota(); });
+    connect(pulSvuota, &QPushButton::clicked, this, [this] { m_diario.svuota(); });
     // Whether the end was in sight has to be asked before the row is there.
     auto inFondo = std::make_shared<bool>(true);
-    const QScrollBar *barra = elenco_->verticalScrollBar();
-    connect(modello_, &QAbstractItemModel::rowsAboutToBeInserted, this,
+    const QScrollBar *barra = m_elenco->verticalScrollBar();
+    connect(m_modello, &QAbstractItemModel::rowsAboutToBeInserted, this,
             [inFondo, barra] { *inFondo = barra->value() >= barra->maximum() - 1; });
-    connect(modello_, &QAbstractItemModel::rowsInserted, this, [this, inFondo] {
+    connect(m_modello, &QAbstractItemModel::rowsInserted, this, [this, inFondo] {
         if (*inFondo)
-            elenco_->scrollToBottom();
+            m_elenco->scrollToBottom();
     });
 }
 
 void PannelloDiario::copia()
 {
-    QGuiApplication::clipboard()->setText(diario_.righe().join(u'\n'));
+    QGuiApplication::clipboard()->setText(m_diario.righe().join(u'\n'));
 }
 } // namespace tessaro_sim

@@ -7,7 +7,7 @@ inline namespace tessaro_sim {
 class Diario;
 class ModelloDiario;
 
-/// The diary as it grows; it follows its end unless one has scrolled up.
+// The diary as it grows; it follows its end unless one has scrolled up.
 class PannelloDiario : public QGroupBox
 {
     Q_OBJECT
@@ -17,8 +17,8 @@ public:
 private:
     void copia();
 
-    Diario &diario_;
-    ModelloDiario *modello_ = nullptr;
-    QTableView *elenco_ = nullptr;
+    Diario &m_diario;
+    ModelloDiario *m_modello = nullptr;
+    QTableView *m_elenco = nullptr;
 };
 } // namespace tessaro_sim

@@ -26,73 +26,73 @@ QPushButton *interruttore(const QString &nome, const QString &testo, const QStri
 } // namespace
 
 PannelloLinea::PannelloLinea(Simulatore &simulatore, QWidget *parent)
-    : QGroupBox(u"Linea"_s, parent), sim_(simulatore)
+    : QGroupBox(u"Linea"_s, parent), m_sim(simulatore)
 {
-    stato_ = new QLabel;
-    stato_->setObjectName(u"lblLinea"_s);
-    stato_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    velocita_ = new QComboBox;
-    velocita_->setObjectName(u"cbVelocitaLinea"_s);
-    velocita_->setToolTip(u"Velocità della linea verso la console"_s);
+    m_stato = new QLabel;
+    m_stato->setObjectName(u"lblLinea"_s);
+    m_stato->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_velocita = new QComboBox;
+    m_velocita->setObjectName(u"cbVelocitaLinea"_s);
+    m_velocita->setToolTip(u"Velocità della linea verso la console"_s);
     for (const int baud : velocita)
-        velocita_->addItem(baud > 0 ? u"%1 baud"_s.arg(baud) : u"Senza limite"_s, baud);
-    if (velocita_->findData(sim_.baud()) < 0)
-        velocita_->addItem(u"%1 baud"_s.arg(sim_.baud()), sim_.baud());
-    velocita_->setCurrentIndex(velocita_->findData(sim_.baud()));
+        m_velocita->addItem(baud > 0 ? u"%1 baud"_s.arg(baud) : u"Senza limite"_s, baud);
+    if (m_velocita->findData(m_sim.baud()) < 0)
+        m_velocita->addItem(u"%1 baud"_s.arg(m_sim.baud()), m_sim.baud());
+    m_velocita->setCurrentIndex(m_velocita->findData(m_sim.baud()));
 
-    silenzio_ = interruttore(u"pulSilenzio"_s, u"Silenzio"_s,
-                             u"Il robot esegue i comandi ma non risponde più"_s);
-    disturbi_ = interruttore(u"pulDisturbi"_s, u"Disturbi"_s,
-                             u"Byte persi, doppi e sbagliati, telegrammi troncati"_s);
-    stacca_ = interruttore(u"pulStacca"_s, u"Stacca il cavo"_s,
-                           u"La linea sparisce finché il cavo non viene riattaccato"_s);
+    m_silenzio = interruttore(u"pulSilenzio"_s, u"Silenzio"_s,
+                              u"Il robot esegue i comandi ma non risponde più"_s);
+    m_disturbi = interruttore(u"pulDisturbi"_s, u"Disturbi"_s,
+                              u"Byte persi, doppi e sbagliati, telegrammi troncati"_s);
+    m_stacca = interruttore(u"pulStacca"_s, u"Stacca il cavo"_s,
+                            u"La linea sparisce finché il cavo non viene riattaccato"_s);
 
     auto *griglia = new QGridLayout(this);
     griglia->setHorizontalSpacing(8);
     griglia->setVerticalSpacing(8);
-    griglia->addWidget(stato_, 0, 0, 1, 2);
-    griglia->addWidget(velocita_, 0, 2);
-    griglia->addWidget(silenzio_, 1, 0);
-    griglia->addWidget(disturbi_, 1, 1);
-    griglia->addWidget(stacca_, 1, 2);
+    griglia->addWidget(m_stato, 0, 0, 1, 2);
+    griglia->addWidget(m_velocita, 0, 2);
+    griglia->addWidget(m_silenzio, 1, 0);
+    griglia->addWidget(m_disturbi, 1, 1);
+    griglia->addWidget(m_stacca, 1, 2);
     for (int colonna = 0; colonna < 3; ++colonna)
         griglia->setColumnStretch(colonna, 1);
 
-    silenzio_->setChecked(sim_.guasti().silenzio);
-    disturbi_->setChecked(sim_.guasti().persi > 0.0);
-    connect(silenzio_, &QPushButton::toggled, this,
-            [this](bool attivo) { sim_.guasti().silenzio = attivo; });
-    connect(disturbi_, &QPushButton::toggled, this, &PannelloLinea::disturba);
-    connect(stacca_, &QPushButton::toggled, this, &PannelloLinea::aggancia);
-    connect(velocita_, &QComboBox::currentIndexChanged, this,
-            [this] { sim_.impostaBaud(velocita_->currentData().toInt()); });
-    connect(&sim_, &Simulatore::portaCambiata, this, &PannelloLinea::mostra);
+    m_silenzio->setChecked(m_sim.guasti().silenzio);
+    m_disturbi->setChecked(m_sim.guasti().persi > 0.0);
+    connect(m_silenzio, &QPushButton::toggled, this,
+            [this](bool attivo) { m_sim.guasti().silenzio = attivo; });
+    connect(m_disturbi, &QPushButton::toggled, this, &PannelloLinea::disturba);
+    connect(m_stacca, &QPushButton::toggled, this, &PannelloLinea::aggancia);
+    connect(m_velocita, &QComboBox::currentIndexChanged, this,
+            [this] { m_sim.impostaBaud(m_velocita->currentData().toInt()); });
+    connect(&m_sim, &Simulatore::portaCambiata, this, &PannelloLinea::mostra);
     mostra();
 }
 
 void PannelloLinea::mostra()
 {
-    stato_->setText(sim_.percorso().isEmpty() ? u"Cavo staccato"_s
-                    : sim_.portaAperta()      ? u"%1: aperta"_s.arg(sim_.percorso())
-                                              : u"%1: in attesa"_s.arg(sim_.percorso()));
+    m_stato->setText(m_sim.percorso().isEmpty() ? u"Cavo staccato"_s
+                     : m_sim.portaAperta()      ? u"%1: aperta"_s.arg(m_sim.percorso())
+                                                : u"%1: in attesa"_s.arg(m_sim.percorso()));
 }
 
 void PannelloLinea::disturba(bool attivo)
 {
-    Guasti &guasti = sim_.guasti();
+    Guasti &guasti = m_sim.guasti();
     guasti.persi = guasti.doppi = guasti.sporchi = guasti.troncati = attivo ? pocoRumore : 0.0;
 }
 
 void PannelloLinea::aggancia(bool staccata)
 {
     if (staccata) {
-        sim_.sgancia();
-    } else if (!sim_.riaggancia()) {
-        const QSignalBlocker fermo(stacca_);
-        stacca_->setChecked(true);
-        QMessageBox::warning(this, u"Linea"_s, sim_.errore());
+        m_sim.sgancia();
+    } else if (!m_sim.riaggancia()) {
+        const QSignalBlocker fermo(m_stacca);
+        m_stacca->setChecked(true);
+        QMessageBox::warning(this, u"Linea"_s, m_sim.errore());
     }
-    stacca_->setText(stacca_->isChecked() ? u"Riattacca il cavo"_s : u"Stacca il cavo"_s);
+    m_stacca->setText(m_stacca->isChecked() ? u"Riattacca il cavo"_s : u"Stacca il cavo"_s);
     mostra();
 }
 } // namespace tessaro_sim

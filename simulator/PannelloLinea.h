@@ -8,7 +8,7 @@ class QPushButton;
 inline namespace tessaro_sim {
 class Simulatore;
 
-/// The line: who listens, its speed, and its faults.
+// The line: who listens, its speed, and its faults.
 class PannelloLinea : public QGroupBox
 {
     Q_OBJECT
@@ -20,11 +20,11 @@ private:
     void disturba(bool attivo);
     void aggancia(bool staccata);
 
-    Simulatore &sim_;
-    QLabel *stato_ = nullptr;
-    QComboBox *velocita_ = nullptr;
-    QPushButton *silenzio_ = nullptr;
-    QPushButton *disturbi_ = nullptr;
-    QPushButton *stacca_ = nullptr;
+    Simulatore &m_sim;
+    QLabel *m_stato = nullptr;
+    QComboBox *m_velocita = nullptr;
+    QPushButton *m_silenzio = nullptr;
+    QPushButton *m_disturbi = nullptr;
+    QPushButton *m_stacca = nullptr;
 };
 } // namespace tessaro_sim

@@ -22,12 +22,12 @@ QString livello(int carica)
 } // namespace
 
 PannelloSensori::PannelloSensori(Robot &robot, QWidget *parent)
-    : QGroupBox(u"Sensori"_s, parent), robot_(robot)
+    : QGroupBox(u"Sensori"_s, parent), m_robot(robot)
 {
     const StatoRobot &s = robot.stato();
-    temperatura_ = cursore(u"cursoreTemperatura"_s, 255, s.temperatura);
-    logica_ = cursore(u"cursoreBatteriaLogica"_s, 255, s.batteriaLogica);
-    motori_ = cursore(u"cursoreBatteriaMotori"_s, 255, s.batteriaMotori);
+    m_temperatura = cursore(u"cursoreTemperatura"_s, 255, s.temperatura);
+    m_logica = cursore(u"cursoreBatteriaLogica"_s, 255, s.batteriaLogica);
+    m_motori = cursore(u"cursoreBatteriaMotori"_s, 255, s.batteriaMotori);
 
     auto *griglia = new QGridLayout(this);
     griglia->setHorizontalSpacing(10);
@@ -35,9 +35,9 @@ PannelloSensori::PannelloSensori(Robot &robot, QWidget *parent)
     griglia->setColumnStretch(1, 1);
     int riga = 0;
     for (const auto &[nome, barra, testo] :
-         {std::tuple{u"Temperatura"_s, temperatura_, &testoTemperatura_},
-          {u"Batteria logica"_s, logica_, &testoLogica_},
-          {u"Batteria motori"_s, motori_, &testoMotori_}}) {
+         {std::tuple{u"Temperatura"_s, m_temperatura, &m_testoTemperatura},
+          {u"Batteria logica"_s, m_logica, &m_testoLogica},
+          {u"Batteria motori"_s, m_motori, &m_testoMotori}}) {
         *testo = new QLabel;
         // Room for the longest text, so that the sliders do not change their width.
         (*testo)->setMinimumWidth(fontMetrics().horizontalAdvance(u"255  scarichissima"_s) + 4);
@@ -46,16 +46,16 @@ PannelloSensori::PannelloSensori(Robot &robot, QWidget *parent)
         griglia->addWidget(*testo, riga, 2);
         ++riga;
     }
-    testoTemperatura_->setObjectName(u"lblTemperatura"_s);
-    testoLogica_->setObjectName(u"lblBatteriaLogica"_s);
-    testoMotori_->setObjectName(u"lblBatteriaMotori"_s);
+    m_testoTemperatura->setObjectName(u"lblTemperatura"_s);
+    m_testoLogica->setObjectName(u"lblBatteriaLogica"_s);
+    m_testoMotori->setObjectName(u"lblBatteriaMotori"_s);
 
     auto *ostacoli = new QHBoxLayout;
     ostacoli->setSpacing(14);
     for (const auto &[nome, testo, casella] :
-         {std::tuple{u"opzUltrasuoniSinistro"_s, u"sinistra"_s, &sinistro_},
-          {u"opzUltrasuoniCentrale"_s, u"centro"_s, &centrale_},
-          {u"opzUltrasuoniDestro"_s, u"destra"_s, &destro_}}) {
+         {std::tuple{u"opzUltrasuoniSinistro"_s, u"sinistra"_s, &m_sinistro},
+          {u"opzUltrasuoniCentrale"_s, u"centro"_s, &m_centrale},
+          {u"opzUltrasuoniDestro"_s, u"destra"_s, &m_destro}}) {
         *casella = new QCheckBox(testo);
         (*casella)->setObjectName(nome);
         ostacoli->addWidget(*casella);
@@ -65,22 +65,22 @@ PannelloSensori::PannelloSensori(Robot &robot, QWidget *parent)
     griglia->addWidget(new QLabel(u"Ostacoli"_s), riga, 0);
     griglia->addLayout(ostacoli, riga, 1, 1, 2);
 
-    dallaStanza_ = new QCheckBox(u"gli ostacoli sono quelli della stanza"_s);
-    dallaStanza_->setObjectName(u"opzDallaStanza"_s);
-    griglia->addWidget(dallaStanza_, riga + 1, 1, 1, 2);
-    connect(dallaStanza_, &QCheckBox::toggled, this, [this](bool attivo) {
-        robot_.impostaUltrasuoniDallaStanza(attivo);
-        for (QCheckBox *casella : {sinistro_, centrale_, destro_})
+    m_dallaStanza = new QCheckBox(u"gli ostacoli sono quelli della stanza"_s);
+    m_dallaStanza->setObjectName(u"opzDallaStanza"_s);
+    griglia->addWidget(m_dallaStanza, riga + 1, 1, 1, 2);
+    connect(m_dallaStanza, &QCheckBox::toggled, this, [this](bool attivo) {
+        m_robot.impostaUltrasuoniDallaStanza(attivo);
+        for (QCheckBox *casella : {m_sinistro, m_centrale, m_destro})
             casella->setEnabled(!attivo);
     });
 
-    connect(temperatura_, &QSlider::valueChanged, this,
-            [this](int v) { robot_.impostaTemperatura(v); });
-    for (QSlider *batteria : {logica_, motori_}) {
+    connect(m_temperatura, &QSlider::valueChanged, this,
+            [this](int v) { m_robot.impostaTemperatura(v); });
+    for (QSlider *batteria : {m_logica, m_motori}) {
         connect(batteria, &QSlider::valueChanged, this,
-                [this] { robot_.impostaBatterie(logica_->value(), motori_->value()); });
+                [this] { m_robot.impostaBatterie(m_logica->value(), m_motori->value()); });
     }
-    connect(&robot_, &Robot::cambiato, this, &PannelloSensori::mostra);
+    connect(&m_robot, &Robot::cambiato, this, &PannelloSensori::mostra);
     mostra();
 }
 
@@ -95,25 +95,25 @@ QSlider *PannelloSensori::cursore(const QString &nome, int massimo, int valore)
 
 void PannelloSensori::misurato()
 {
-    robot_.impostaUltrasuoni(destro_->isChecked() ? 255 : 0, centrale_->isChecked() ? 255 : 0,
-                             sinistro_->isChecked() ? 255 : 0);
+    m_robot.impostaUltrasuoni(m_destro->isChecked() ? 255 : 0, m_centrale->isChecked() ? 255 : 0,
+                              m_sinistro->isChecked() ? 255 : 0);
 }
 
 // The robot's values may change elsewhere too: the controls follow without answering.
 void PannelloSensori::mostra()
 {
-    const StatoRobot &s = robot_.stato();
+    const StatoRobot &s = m_robot.stato();
     const auto porta = [](QSlider *barra, int valore) {
         const QSignalBlocker fermo(barra);
         barra->setValue(valore);
     };
-    porta(temperatura_, s.temperatura);
-    porta(logica_, s.batteriaLogica);
-    porta(motori_, s.batteriaMotori);
-    testoTemperatura_->setText(u"%1 °C"_s.arg(s.temperatura));
-    testoLogica_->setText(livello(s.batteriaLogica));
-    testoMotori_->setText(livello(s.batteriaMotori));
-    const std::array<QCheckBox *, 3> caselle{destro_, centrale_, sinistro_};
+    porta(m_temperatura, s.temperatura);
+    porta(m_logica, s.batteriaLogica);
+    porta(m_motori, s.batteriaMotori);
+    m_testoTemperatura->setText(u"%1 °C"_s.arg(s.temperatura));
+    m_testoLogica->setText(livello(s.batteriaLogica));
+    m_testoMotori->setText(livello(s.batteriaMotori));
+    const std::array<QCheckBox *, 3> caselle{m_destro, m_centrale, m_sinistro};
     for (std::size_t i = 0; i < 3; ++i) {
         const QSignalBlocker fermo(caselle[i]);
         caselle[i]->setChecked(s.ultrasuoni[i] != 0);

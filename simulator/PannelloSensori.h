@@ -8,7 +8,7 @@ class QSlider;
 inline namespace tessaro_sim {
 class Robot;
 
-/// What the robot's sensors measure, turned by hand.
+// What the robot's sensors measure, turned by hand.
 class PannelloSensori : public QGroupBox
 {
     Q_OBJECT
@@ -20,16 +20,16 @@ private:
     void mostra();
     void misurato();
 
-    Robot &robot_;
-    QSlider *temperatura_ = nullptr;
-    QSlider *logica_ = nullptr;
-    QSlider *motori_ = nullptr;
-    QLabel *testoTemperatura_ = nullptr;
-    QLabel *testoLogica_ = nullptr;
-    QLabel *testoMotori_ = nullptr;
-    QCheckBox *sinistro_ = nullptr;
-    QCheckBox *centrale_ = nullptr;
-    QCheckBox *destro_ = nullptr;
-    QCheckBox *dallaStanza_ = nullptr;
+    Robot &m_robot;
+    QSlider *m_temperatura = nullptr;
+    QSlider *m_logica = nullptr;
+    QSlider *m_motori = nullptr;
+    QLabel *m_testoTemperatura = nullptr;
+    QLabel *m_testoLogica = nullptr;
+    QLabel *m_testoMotori = nullptr;
+    QCheckBox *m_sinistro = nullptr;
+    QCheckBox *m_centrale = nullptr;
+    QCheckBox *m_destro = nullptr;
+    QCheckBox *m_dallaStanza = nullptr;
 };
 } // namespace tessaro_sim

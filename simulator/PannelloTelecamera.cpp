@@ -19,48 +19,48 @@ enum Fonte { DallaStanza, DaCartella };
 } // namespace
 
 PannelloTelecamera::PannelloTelecamera(Robot &robot, QWidget *parent)
-    : QGroupBox(u"Telecamera"_s, parent), robot_(robot)
+    : QGroupBox(u"Telecamera"_s, parent), m_robot(robot)
 {
-    vista_ = new QLabel;
-    vista_->setObjectName(u"imgTelecamera"_s);
-    vista_->setFixedSize(vista);
-    stato_ = new QLabel;
-    stato_->setObjectName(u"lblTelecamera"_s);
-    stato_->setWordWrap(true);
-    fonte_ = new QComboBox;
-    fonte_->setObjectName(u"cbTelecamera"_s);
-    fonte_->addItem(u"La stanza"_s);
-    fonte_->addItem(u"Cartella di immagini…"_s);
+    m_vista = new QLabel;
+    m_vista->setObjectName(u"imgTelecamera"_s);
+    m_vista->setFixedSize(vista);
+    m_stato = new QLabel;
+    m_stato->setObjectName(u"lblTelecamera"_s);
+    m_stato->setWordWrap(true);
+    m_fonte = new QComboBox;
+    m_fonte->setObjectName(u"cbTelecamera"_s);
+    m_fonte->addItem(u"La stanza"_s);
+    m_fonte->addItem(u"Cartella di immagini…"_s);
 
     auto *lato = new QVBoxLayout;
     lato->addWidget(new QLabel(u"Il robot vede"_s));
-    lato->addWidget(fonte_);
-    lato->addWidget(stato_);
+    lato->addWidget(m_fonte);
+    lato->addWidget(m_stato);
     lato->addStretch();
     auto *riga = new QHBoxLayout(this);
     riga->setSpacing(12);
-    riga->addWidget(vista_, 0, Qt::AlignTop);
+    riga->addWidget(m_vista, 0, Qt::AlignTop);
     riga->addLayout(lato, 1);
 
-    if (!robot_.telecamera().cartella().isEmpty())
-        fonte_->setCurrentIndex(DaCartella);
-    connect(fonte_, &QComboBox::activated, this, &PannelloTelecamera::scelta);
-    ritardo_.setSingleShot(true);
-    connect(&ritardo_, &QTimer::timeout, this, &PannelloTelecamera::mostra);
-    connect(&robot_, &Robot::cambiato, this, &PannelloTelecamera::invecchia);
+    if (!m_robot.telecamera().cartella().isEmpty())
+        m_fonte->setCurrentIndex(DaCartella);
+    connect(m_fonte, &QComboBox::activated, this, &PannelloTelecamera::scelta);
+    m_ritardo.setSingleShot(true);
+    connect(&m_ritardo, &QTimer::timeout, this, &PannelloTelecamera::mostra);
+    connect(&m_robot, &Robot::cambiato, this, &PannelloTelecamera::invecchia);
     mostra();
 }
 
 void PannelloTelecamera::invecchia()
 {
-    if (!ritardo_.isActive())
-        ritardo_.start(aggiornamento);
+    if (!m_ritardo.isActive())
+        m_ritardo.start(aggiornamento);
 }
 
 void PannelloTelecamera::scelta(int indice)
 {
     if (indice == DallaStanza) {
-        robot_.telecamera().impostaCartella({});
+        m_robot.telecamera().impostaCartella({});
         mostra();
     } else {
         scegliCartella();
@@ -70,21 +70,21 @@ void PannelloTelecamera::scelta(int indice)
 void PannelloTelecamera::scegliCartella()
 {
     const QString cartella = QFileDialog::getExistingDirectory(
-        this, u"Scegli una cartella di immagini"_s, robot_.telecamera().cartella());
-    if (!cartella.isEmpty() && !robot_.telecamera().impostaCartella(cartella))
+        this, u"Scegli una cartella di immagini"_s, m_robot.telecamera().cartella());
+    if (!cartella.isEmpty() && !m_robot.telecamera().impostaCartella(cartella))
         QMessageBox::information(this, u"Telecamera"_s,
                                  u"Nella cartella non ci sono immagini leggibili."_s);
-    fonte_->setCurrentIndex(robot_.telecamera().cartella().isEmpty() ? DallaStanza : DaCartella);
+    m_fonte->setCurrentIndex(m_robot.telecamera().cartella().isEmpty() ? DallaStanza : DaCartella);
     mostra();
 }
 
 void PannelloTelecamera::mostra()
 {
-    const QString cartella = robot_.telecamera().cartella();
-    vista_->setPixmap(QPixmap::fromImage(robot_.telecamera().guarda(
-        robot_.stato(), robot_.stanza(), vista.width(), vista.height())));
-    stato_->setText(robot_.stato().videoAttivo ? u"Video in corso"_s : u"Video fermo"_s);
-    fonte_->setToolTip(cartella.isEmpty() ? u"Cosa manda la telecamera"_s
-                                          : QDir::toNativeSeparators(cartella));
+    const QString cartella = m_robot.telecamera().cartella();
+    m_vista->setPixmap(QPixmap::fromImage(m_robot.telecamera().guarda(
+        m_robot.stato(), m_robot.stanza(), vista.width(), vista.height())));
+    m_stato->setText(m_robot.stato().videoAttivo ? u"Video in corso"_s : u"Video fermo"_s);
+    m_fonte->setToolTip(cartella.isEmpty() ? u"Cosa manda la telecamera"_s
+                                           : QDir::toNativeSeparators(cartella));
 }
 } // namespace tessaro_sim

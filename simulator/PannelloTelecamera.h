@@ -8,14 +8,14 @@ class QLabel;
 inline namespace tessaro_sim {
 class Robot;
 
-/// What the camera sees: the room, or a folder of pictures.
+// What the camera sees: the room, or a folder of pictures.
 class PannelloTelecamera : public QGroupBox
 {
     Q_OBJECT
 public:
     explicit PannelloTelecamera(Robot &robot, QWidget *parent = nullptr);
 
-    /// The picture is out of date and is drawn again soon.
+    // The picture is out of date and is drawn again soon.
     void invecchia();
 
 private:
@@ -23,10 +23,10 @@ private:
     void scegliCartella();
     void mostra();
 
-    Robot &robot_;
-    QComboBox *fonte_ = nullptr;
-    QLabel *vista_ = nullptr;
-    QLabel *stato_ = nullptr;
-    QTimer ritardo_;
+    Robot &m_robot;
+    QComboBox *m_fonte = nullptr;
+    QLabel *m_vista = nullptr;
+    QLabel *m_stato = nullptr;
+    QTimer m_ritardo;
 };
 } // namespace tessaro_sim

@@ -77,36 +77,36 @@ class Pittore
 {
 public:
     Pittore(const StatoRobot &stato, const Stanza &stanza, int larghezza, int altezza)
-        : stanza_(stanza),
-          immagine_(larghezza, altezza, QImage::Format_RGB32),
-          fuoco_(larghezza / 2.0 / mezzoCampo),
-          alto_(occhio + stato.bacino * corsaBacino),
-          orizzonte_(altezza / 2.0 + std::tan(radianti(stato.testaV)) * fuoco_),
-          occhio_(stato.x, stato.y),
-          direzione_(stato.direzione + stato.testaO)
+        : m_stanza(stanza),
+          m_immagine(larghezza, altezza, QImage::Format_RGB32),
+          m_fuoco(larghezza / 2.0 / mezzoCampo),
+          m_alto(occhio + stato.bacino * corsaBacino),
+          m_orizzonte(altezza / 2.0 + std::tan(radianti(stato.testaV)) * m_fuoco),
+          m_occhio(stato.x, stato.y),
+          m_direzione(stato.direzione + stato.testaO)
     {
     }
 
     QImage disegna()
     {
-        for (int x = 0; x < immagine_.width(); ++x)
+        for (int x = 0; x < m_immagine.width(); ++x)
             colonna(x);
-        return immagine_;
+        return m_immagine;
     }
 
 private:
     void colonna(int x)
     {
-        const double scarto = std::atan((x + 0.5 - immagine_.width() / 2.0) / fuoco_);
-        const double angolo = radianti(direzione_) + scarto;
+        const double scarto = std::atan((x + 0.5 - m_immagine.width() / 2.0) / m_fuoco);
+        const double angolo = radianti(m_direzione) + scarto;
         const double dritto = std::cos(scarto);
         const double dx = std::cos(angolo);
         const double dy = std::sin(angolo);
         sfondo(x, dritto, dx, dy);
 
         std::vector<Pezzo> pezzi;
-        for (const Cosa &c : stanza_.cose()) {
-            const QPointF verso = c.centro - occhio_;
+        for (const Cosa &c : m_stanza.cose()) {
+            const QPointF verso = c.centro - m_occhio;
             const double lungo = verso.x() * dx + verso.y() * dy;
             const double fuori = std::abs(verso.x() * dy - verso.y() * dx);
             if (lungo <= 0.0 || fuori >= c.raggio)
@@ -123,21 +123,21 @@ private:
 
     double schermo(double quota, double lontano) const
     {
-        return orizzonte_ - (quota - alto_) / lontano * fuoco_;
+        return m_orizzonte - (quota - m_alto) / lontano * m_fuoco;
     }
 
     void tratto(int x, double da, double a, const QColor &colore)
     {
         const int y0 = std::max(0, static_cast<int>(std::lround(da)));
-        const int y1 = std::min(immagine_.height(), static_cast<int>(std::lround(a)));
+        const int y1 = std::min(m_immagine.height(), static_cast<int>(std::lround(a)));
         for (int y = y0; y < y1; ++y)
-            immagine_.setPixel(x, y, colore.rgb());
+            m_immagine.setPixel(x, y, colore.rgb());
     }
 
     void sfondo(int x, double dritto, double dx, double dy)
     {
         const double raggio = muro(dx, dy);
-        const QPointF dove = occhio_ + QPointF(dx, dy) * raggio;
+        const QPointF dove = m_occhio + QPointF(dx, dy) * raggio;
         const double lontano = std::max(raggio * dritto, 1.0);
         const double luce = 1.0 - 0.45 * raggio / 520.0;
         const double cima = schermo(Stanza::altezza, lontano);
@@ -154,15 +154,15 @@ private:
     {
         constexpr double mattonella = 30.0;
         const int y0 = std::max(0, static_cast<int>(std::lround(fondo)));
-        for (int y = y0; y < immagine_.height(); ++y) {
-            const double sotto = std::max(y + 0.5 - orizzonte_, 0.5);
-            const double raggio = alto_ * fuoco_ / sotto / dritto;
-            const QPointF dove = occhio_ + QPointF(dx, dy) * raggio;
+        for (int y = y0; y < m_immagine.height(); ++y) {
+            const double sotto = std::max(y + 0.5 - m_orizzonte, 0.5);
+            const double raggio = m_alto * m_fuoco / sotto / dritto;
+            const QPointF dove = m_occhio + QPointF(dx, dy) * raggio;
             const bool scura = (static_cast<int>(std::floor(dove.x() / mattonella)) +
                                 static_cast<int>(std::floor(dove.y() / mattonella))) &
                                1;
             const QColor c = scura ? QColor(0xb9, 0x8d, 0x5f) : QColor(0xcd, 0xa4, 0x76);
-            immagine_.setPixel(x, y, scurisci(c, 1.0 - 0.35 * raggio / 520.0).rgb());
+            m_immagine.setPixel(x, y, scurisci(c, 1.0 - 0.35 * raggio / 520.0).rgb());
         }
     }
 
@@ -183,23 +183,23 @@ private:
     {
         double vicino = 1e9;
         if (dx > 1e-9)
-            vicino = std::min(vicino, (Stanza::larghezza - occhio_.x()) / dx);
+            vicino = std::min(vicino, (Stanza::larghezza - m_occhio.x()) / dx);
         if (dx < -1e-9)
-            vicino = std::min(vicino, -occhio_.x() / dx);
+            vicino = std::min(vicino, -m_occhio.x() / dx);
         if (dy > 1e-9)
-            vicino = std::min(vicino, (Stanza::profondita - occhio_.y()) / dy);
+            vicino = std::min(vicino, (Stanza::profondita - m_occhio.y()) / dy);
         if (dy < -1e-9)
-            vicino = std::min(vicino, -occhio_.y() / dy);
+            vicino = std::min(vicino, -m_occhio.y() / dy);
         return vicino;
     }
 
-    const Stanza &stanza_;
-    QImage immagine_;
-    double fuoco_;
-    double alto_;
-    double orizzonte_;
-    QPointF occhio_;
-    double direzione_;
+    const Stanza &m_stanza;
+    QImage m_immagine;
+    double m_fuoco;
+    double m_alto;
+    double m_orizzonte;
+    QPointF m_occhio;
+    double m_direzione;
 };
 } // namespace
 

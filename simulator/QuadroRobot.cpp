@@ -142,12 +142,12 @@ void base(QPainter &p, const StatoRobot &s, double suolo)
 }
 } // namespace
 
-QuadroRobot::QuadroRobot(Robot &robot, QWidget *parent) : QWidget(parent), robot_(robot)
+QuadroRobot::QuadroRobot(Robot &robot, QWidget *parent) : QWidget(parent), m_robot(robot)
 {
     setObjectName(u"quadroRobot"_s);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     setToolTip(u"Il robot visto di fronte: la sua destra è a sinistra"_s);
-    connect(&robot_, &Robot::cambiato, this, qOverload<>(&QWidget::update));
+    connect(&m_robot, &Robot::cambiato, this, qOverload<>(&QWidget::update));
 }
 
 void QuadroRobot::paintEvent(QPaintEvent *)
@@ -157,7 +157,7 @@ void QuadroRobot::paintEvent(QPaintEvent *)
     const double scala = std::min({width() / (2 * mezzo), height() / altezza, 1.6});
     p.translate((width() - 2 * mezzo * scala) / 2, (height() - altezza * scala) / 2);
     p.scale(scala, scala);
-    const StatoRobot &s = robot_.stato();
+    const StatoRobot &s = m_robot.stato();
     constexpr double suolo = 252.0;
     const double cima = 122.0 - 16.0 * s.bacino;
     p.setPen(QPen(contorno, 1.2));

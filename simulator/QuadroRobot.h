@@ -5,7 +5,7 @@ inline namespace tessaro_sim {
 class Robot;
 struct StatoRobot;
 
-/// The robot from the front: head with its LEDs, arms, pelvis, gripper, tools, position LED.
+// The robot from the front: head with its LEDs, arms, pelvis, gripper, tools, position LED.
 class QuadroRobot : public QWidget
 {
     Q_OBJECT
@@ -18,6 +18,6 @@ protected:
     void paintEvent(QPaintEvent *evento) override;
 
 private:
-    Robot &robot_;
+    Robot &m_robot;
 };
 } // namespace tessaro_sim

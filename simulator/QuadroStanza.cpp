@@ -51,21 +51,21 @@ void disegnaCosa(QPainter &p, const Cosa &c)
 }
 } // namespace
 
-QuadroStanza::QuadroStanza(Robot &robot, QWidget *parent) : QWidget(parent), robot_(robot)
+QuadroStanza::QuadroStanza(Robot &robot, QWidget *parent) : QWidget(parent), m_robot(robot)
 {
     setObjectName(u"quadroStanza"_s);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setToolTip(u"Il robot e gli oggetti si spostano con il mouse"_s);
-    fineFumetto_.setSingleShot(true);
-    connect(&fineFumetto_, &QTimer::timeout, this, [this] {
-        fumetto_.clear();
+    m_fineFumetto.setSingleShot(true);
+    connect(&m_fineFumetto, &QTimer::timeout, this, [this] {
+        m_fumetto.clear();
         update();
     });
-    connect(&robot_, &Robot::cambiato, this, qOverload<>(&QWidget::update));
-    connect(&robot_, &Robot::parla, this, [this](const QString &testo) {
-        fumetto_ = testo;
-        fineFumetto_.start(durataFumetto);
+    connect(&m_robot, &Robot::cambiato, this, qOverload<>(&QWidget::update));
+    connect(&m_robot, &Robot::parla, this, [this](const QString &testo) {
+        m_fumetto = testo;
+        m_fineFumetto.start(durataFumetto);
         update();
     });
 }
@@ -88,7 +88,7 @@ QPointF QuadroStanza::inStanza(const QPointF &punto) const
 
 bool QuadroStanza::suRobot(const QPointF &punto) const
 {
-    const StatoRobot &s = robot_.stato();
+    const StatoRobot &s = m_robot.stato();
     return std::hypot(punto.x() - s.x, punto.y() - s.y) < Stanza::raggioRobot;
 }
 
@@ -101,7 +101,7 @@ void QuadroStanza::paintEvent(QPaintEvent *)
     disegnaPavimento(p);
     disegnaCose(p);
     disegnaSensori(p);
-    const StatoRobot &s = robot_.stato();
+    const StatoRobot &s = m_robot.stato();
     p.translate(s.x, s.y);
     p.rotate(s.direzione);
     disegnaDallAlto(p, s);
@@ -133,13 +133,13 @@ void QuadroStanza::disegnaPavimento(QPainter &p) const
 
 void QuadroStanza::disegnaCose(QPainter &p) const
 {
-    for (const Cosa &c : robot_.stanza().cose())
+    for (const Cosa &c : m_robot.stanza().cose())
         disegnaCosa(p, c);
 }
 
 void QuadroStanza::disegnaSensori(QPainter &p) const
 {
-    const StatoRobot &s = robot_.stato();
+    const StatoRobot &s = m_robot.stato();
     const QPointF qui(s.x, s.y);
     const auto ventaglio = [&](double gradi, double ampio, double lungo, const QColor &colore) {
         QPainterPath via(qui);
@@ -162,9 +162,9 @@ void QuadroStanza::disegnaSensori(QPainter &p) const
 
 void QuadroStanza::disegnaFumetto(QPainter &p) const
 {
-    if (fumetto_.isEmpty())
+    if (m_fumetto.isEmpty())
         return;
-    const StatoRobot &s = robot_.stato();
+    const StatoRobot &s = m_robot.stato();
     const QTransform t = dallaStanza();
     const double scala = t.m11();
     const QPointF robot = t.map(QPointF(s.x, s.y));
@@ -172,7 +172,7 @@ void QuadroStanza::disegnaFumetto(QPainter &p) const
     carattere.setPointSizeF(carattere.pointSizeF() * 1.15);
     p.setFont(carattere);
     constexpr double margine = 11.0;
-    const QRectF testo = p.boundingRect(QRectF(0, 0, 220, 400), Qt::TextWordWrap, fumetto_);
+    const QRectF testo = p.boundingRect(QRectF(0, 0, 220, 400), Qt::TextWordWrap, m_fumetto);
     QRectF nuvola = testo.adjusted(0, 0, 2 * margine, 2 * margine - 4);
     const double stacco = Stanza::raggioRobot * scala + 14;
     const bool sopra = robot.y() - stacco - nuvola.height() > 6;
@@ -197,7 +197,7 @@ void QuadroStanza::disegnaFumetto(QPainter &p) const
     p.drawPath(forma.united(punta));
     p.setPen(QColor(0x1c, 0x24, 0x2e));
     p.drawText(nuvola.adjusted(margine, margine - 2, -margine, -margine + 2),
-               Qt::TextWordWrap | Qt::AlignCenter, fumetto_);
+               Qt::TextWordWrap | Qt::AlignCenter, m_fumetto);
 }
 
 void QuadroStanza::mousePressEvent(QMouseEvent *evento)
@@ -205,36 +205,36 @@ void QuadroStanza::mousePressEvent(QMouseEvent *evento)
     if (evento->button() != Qt::LeftButton)
         return;
     const QPointF dove = inStanza(evento->position());
-    const StatoRobot &s = robot_.stato();
+    const StatoRobot &s = m_robot.stato();
     if (suRobot(dove)) {
-        presa_ = robotInMano;
-        scarto_ = QPointF(s.x, s.y) - dove;
-    } else if ((presa_ = robot_.stanza().cosaIn(dove)) >= 0) {
-        scarto_ = robot_.stanza().cose().at(presa_).centro - dove;
+        m_presa = robotInMano;
+        m_scarto = QPointF(s.x, s.y) - dove;
+    } else if ((m_presa = m_robot.stanza().cosaIn(dove)) >= 0) {
+        m_scarto = m_robot.stanza().cose().at(m_presa).centro - dove;
     }
 }
 
 void QuadroStanza::mouseMoveEvent(QMouseEvent *evento)
 {
     const QPointF dove = inStanza(evento->position());
-    const StatoRobot &s = robot_.stato();
-    if (presa_ == robotInMano) {
-        const QPointF meta = dove + scarto_;
-        robot_.impostaPosa(meta.x(), meta.y(), s.direzione);
-    } else if (presa_ >= 0) {
-        robot_.stanza().sposta(presa_, dove + scarto_, QPointF(s.x, s.y));
+    const StatoRobot &s = m_robot.stato();
+    if (m_presa == robotInMano) {
+        const QPointF meta = dove + m_scarto;
+        m_robot.impostaPosa(meta.x(), meta.y(), s.direzione);
+    } else if (m_presa >= 0) {
+        m_robot.stanza().sposta(m_presa, dove + m_scarto, QPointF(s.x, s.y));
         update();
     }
-    if (presa_ != -1)
+    if (m_presa != -1)
         Q_EMIT spostato();
-    const bool prendibile = suRobot(dove) || robot_.stanza().cosaIn(dove) >= 0;
-    setCursor(presa_ != -1 ? Qt::ClosedHandCursor
-              : prendibile ? Qt::OpenHandCursor
-                           : Qt::ArrowCursor);
+    const bool prendibile = suRobot(dove) || m_robot.stanza().cosaIn(dove) >= 0;
+    setCursor(m_presa != -1 ? Qt::ClosedHandCursor
+              : prendibile  ? Qt::OpenHandCursor
+                            : Qt::ArrowCursor);
 }
 
 void QuadroStanza::mouseReleaseEvent(QMouseEvent *)
 {
-    presa_ = -1;
+    m_presa = -1;
 }
 } // namespace tessaro_sim

@@ -5,7 +5,7 @@
 inline namespace tessaro_sim {
 class Robot;
 
-/// The room from above, with the robot in it; its things and the robot can be dragged.
+// The room from above, with the robot in it; its things and the robot can be dragged.
 class QuadroStanza : public QWidget
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
     QSize minimumSizeHint() const override { return {420, 310}; }
 
 Q_SIGNALS:
-    /// Something in the room was moved by hand.
+    // Something in the room was moved by hand.
     void spostato();
 
 protected:
@@ -33,10 +33,10 @@ private:
     void disegnaSensori(QPainter &p) const;
     void disegnaFumetto(QPainter &p) const;
 
-    Robot &robot_;
-    QString fumetto_;
-    QTimer fineFumetto_;
-    int presa_ = -1; // the thing in hand; -2 the robot
-    QPointF scarto_;
+    Robot &m_robot;
+    QString m_fumetto;
+    QTimer m_fineFumetto;
+    int m_presa = -1; // the thing in hand; -2 the robot
+    QPointF m_scarto;
 };
 } // namespace tessaro_sim

@@ -1,5 +1,4 @@
 #include "Registrazione.h"
-#include <QStringList>
 
 using namespace Qt::StringLiterals;
 
@@ -63,20 +62,20 @@ bool Registrazione::leggi(const QString &file, QList<Tratto> &tratti, QString &e
 bool Registratore::apri(const QString &file)
 {
     chiudi();
-    file_.setFileName(file);
-    if (!file_.open(QIODevice::WriteOnly | QIODevice::Truncate))
+    m_file.setFileName(file);
+    if (!m_file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         return false;
-    orologio_.invalidate();
-    return file_.write(intestazione) == intestazione.size() && file_.flush();
+    m_orologio.invalidate();
+    return m_file.write(intestazione) == intestazione.size() && m_file.flush();
 }
 
 void Registratore::scrivi(bool versoRobot, const QByteArray &byte)
 {
-    if (!file_.isOpen() || byte.isEmpty())
+    if (!m_file.isOpen() || byte.isEmpty())
         return;
-    if (!orologio_.isValid())
-        orologio_.start();
-    file_.write(Registrazione::riga({orologio_.elapsed(), versoRobot, byte}));
-    file_.flush();
+    if (!m_orologio.isValid())
+        m_orologio.start();
+    m_file.write(Registrazione::riga({m_orologio.elapsed(), versoRobot, byte}));
+    m_file.flush();
 }
 } // namespace tessaro_sim

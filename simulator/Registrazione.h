@@ -6,13 +6,13 @@
 #include <QString>
 
 inline namespace tessaro_sim {
-/// A wire session as text, one line for each stretch of bytes:
-///
-///     # tessaro-sim registrazione 1
-///     0 > 3 1 1
-///     14 < 32 210 180
-///
-/// milliseconds since the first line, ">" from the console or "<" from the robot, bytes in decimal.
+// A wire session as text, one line for each stretch of bytes:
+//
+//     # tessaro-sim registrazione 1
+//     0 > 3 1 1
+//     14 < 32 210 180
+//
+// milliseconds since the first line, ">" from the console or "<" from the robot, bytes in decimal.
 namespace Registrazione {
 struct Tratto
 {
@@ -22,24 +22,24 @@ struct Tratto
 };
 
 QByteArray riga(const Tratto &tratto);
-/// Reads a whole file. False, and the reason, at the first line that is no stretch; empty lines
-/// and lines that start with "#" are passed over.
+// Reads a whole file. False, and the reason, at the first line that is no stretch; empty lines
+// and lines that start with "#" are passed over.
 bool leggi(const QString &file, QList<Tratto> &tratti, QString &errore);
 } // namespace Registrazione
 
-/// Writes a session to a file while it happens.
+// Writes a session to a file while it happens.
 class Registratore
 {
 public:
-    /// False, with the reason in errore(), where the file cannot be written.
+    // False, with the reason in errore(), where the file cannot be written.
     bool apri(const QString &file);
-    void chiudi() { file_.close(); }
-    QString errore() const { return file_.errorString(); }
-    /// Does nothing while no file is open. Each stretch is on disk at the return.
+    void chiudi() { m_file.close(); }
+    QString errore() const { return m_file.errorString(); }
+    // Does nothing while no file is open. Each stretch is on disk at the return.
     void scrivi(bool versoRobot, const QByteArray &byte);
 
 private:
-    QFile file_;
-    QElapsedTimer orologio_;
+    QFile m_file;
+    QElapsedTimer m_orologio;
 };
 } // namespace tessaro_sim

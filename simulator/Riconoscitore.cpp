@@ -106,20 +106,20 @@ int lunghezza(const QByteArray &b)
 
 void Riconoscitore::ricevi(const QByteArray &byte)
 {
-    coda_ += byte;
-    while (!coda_.isEmpty()) {
-        const int n = lunghezza(coda_);
+    m_coda += byte;
+    while (!m_coda.isEmpty()) {
+        const int n = lunghezza(m_coda);
         if (n == manca)
             return;
         if (n == ignoto) {
-            const char primo = coda_.at(0);
-            coda_.remove(0, 1);
+            const char primo = m_coda.at(0);
+            m_coda.remove(0, 1);
             if (suIgnoto)
                 suIgnoto(primo);
             continue;
         }
-        const Comando comando = descrivi(coda_.left(n));
-        coda_.remove(0, n);
+        const Comando comando = descrivi(m_coda.left(n));
+        m_coda.remove(0, n);
         if (suComando)
             suComando(comando);
     }

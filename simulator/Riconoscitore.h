@@ -4,7 +4,7 @@
 #include <functional>
 
 inline namespace tessaro_sim {
-/// One command of the byte tables, as it was recognised.
+// One command of the byte tables, as it was recognised.
 struct Comando
 {
     enum class Tipo {
@@ -45,29 +45,28 @@ struct Comando
         LeggiElenco
     };
     Tipo tipo = Tipo::Sollecito;
-    int a = 0;            ///< first argument, in the terms of the command (v, n, c, mask, arm)
-    int b = 0;            ///< second argument (on/off, value)
-    QByteArray percorso;  ///< ApriPercorso only, bytes as they came
-    QByteArray byte;      ///< the whole command on the wire
-    QString testo;        ///< name and arguments, as "BaseAvanti v=1"
-    bool previsto = true; ///< false: the value is none that the tables give
+    int a = 0;            // first argument, in the terms of the command (v, n, c, mask, arm)
+    int b = 0;            // second argument (on/off, value)
+    QByteArray percorso;  // ApriPercorso only, bytes as they came
+    QByteArray byte;      // the whole command on the wire
+    QString testo;        // name and arguments, as "BaseAvanti v=1"
+    bool previsto = true; // false: the value is none that the tables give
 };
 
-/// Cuts the console's bytes into commands. A byte that cannot start or continue a command is
-/// handed on as not understood, and reading goes on with the byte after it.
+// Cuts the console's bytes into commands. A byte that cannot start or continue a command is
+// handed on as not understood, and reading goes on with the byte after it.
 class Riconoscitore
 {
 public:
+    // Called with each command, and with each byte that was not understood, in the order of the
+    // wire.
     std::function<void(const Comando &)> suComando;
     std::function<void(char)> suIgnoto;
 
-    /// Bytes cut anywhere; what is incomplete waits for the next call.
+    // Bytes cut anywhere; what is incomplete waits for the next call.
     void ricevi(const QByteArray &byte);
-    /// The bytes of a command that is not complete yet.
-    const QByteArray &inSospeso() const { return coda_; }
-    void azzera() { coda_.clear(); }
 
 private:
-    QByteArray coda_;
+    QByteArray m_coda;
 };
 } // namespace tessaro_sim

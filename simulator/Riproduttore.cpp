@@ -4,27 +4,27 @@
 inline namespace tessaro_sim {
 Riproduttore::Riproduttore()
 {
-    timer_.setSingleShot(true);
-    timer_.setTimerType(Qt::PreciseTimer);
-    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { scaduto(); });
+    m_timer.setSingleShot(true);
+    m_timer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { scaduto(); });
 }
 
 bool Riproduttore::carica(const QString &file, bool tempiOriginali)
 {
     QList<Registrazione::Tratto> tratti;
-    if (!Registrazione::leggi(file, tratti, errore_))
+    if (!Registrazione::leggi(file, tratti, m_errore))
         return false;
     ferma();
     const auto console =
         std::find_if(tratti.cbegin(), tratti.cend(), [](const auto &t) { return t.versoRobot; });
-    base_ = console == tratti.cend() ? 0 : console->ms;
-    tratti_.clear();
-    std::copy_if(tratti.cbegin(), tratti.cend(), std::back_inserter(tratti_),
+    m_base = console == tratti.cend() ? 0 : console->ms;
+    m_tratti.clear();
+    std::copy_if(tratti.cbegin(), tratti.cend(), std::back_inserter(m_tratti),
                  [](const auto &t) { return !t.versoRobot; });
-    prossimo_ = 0;
-    tempi_ = tempiOriginali;
-    attivo_ = true;
-    scattato_ = false;
+    m_prossimo = 0;
+    m_tempi = tempiOriginali;
+    m_attivo = true;
+    m_scattato = false;
     // A recording of the robot alone waits for nobody.
     if (console == tratti.cend())
         scatta();
@@ -33,48 +33,48 @@ bool Riproduttore::carica(const QString &file, bool tempiOriginali)
 
 void Riproduttore::scatta()
 {
-    if (!attivo_ || scattato_)
+    if (!m_attivo || m_scattato)
         return;
-    scattato_ = true;
-    orologio_.start();
+    m_scattato = true;
+    m_orologio.start();
     programma();
 }
 
 void Riproduttore::ferma()
 {
-    attivo_ = false;
-    timer_.stop();
+    m_attivo = false;
+    m_timer.stop();
 }
 
 void Riproduttore::avanti()
 {
-    if (attivo_ && scattato_ && !tempi_ && !timer_.isActive())
-        timer_.start(0);
+    if (m_attivo && m_scattato && !m_tempi && !m_timer.isActive())
+        m_timer.start(0);
 }
 
 void Riproduttore::programma()
 {
-    if (!tempi_ || prossimo_ >= tratti_.size()) {
-        timer_.start(0);
+    if (!m_tempi || m_prossimo >= m_tratti.size()) {
+        m_timer.start(0);
         return;
     }
-    const qint64 attesa = tratti_.at(prossimo_).ms - base_ - orologio_.elapsed();
-    timer_.start(static_cast<int>(std::clamp<qint64>(attesa, 0, 1000000000)));
+    const qint64 attesa = m_tratti.at(m_prossimo).ms - m_base - m_orologio.elapsed();
+    m_timer.start(static_cast<int>(std::clamp<qint64>(attesa, 0, 1000000000)));
 }
 
 void Riproduttore::scaduto()
 {
-    if (!attivo_)
+    if (!m_attivo)
         return;
-    if (prossimo_ >= tratti_.size()) {
-        attivo_ = false;
+    if (m_prossimo >= m_tratti.size()) {
+        m_attivo = false;
         if (suFine)
             suFine();
         return;
     }
-    const QByteArray byte = tratti_.at(prossimo_++).byte;
+    const QByteArray byte = m_tratti.at(m_prossimo++).byte;
     // Without original times the queue asks for more by avanti().
-    if (tempi_ || prossimo_ >= tratti_.size())
+    if (m_tempi || m_prossimo >= m_tratti.size())
         programma();
     if (suByte)
         suByte(byte);

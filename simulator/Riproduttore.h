@@ -5,22 +5,23 @@
 #include <functional>
 
 inline namespace tessaro_sim {
-/// Plays the robot's side of a recorded session.
+// Plays the robot's side of a recorded session.
 class Riproduttore
 {
 public:
     Riproduttore();
 
-    /// False, with errore(), where the file cannot be read.
+    // False, with errore(), where the file cannot be read.
     bool carica(const QString &file, bool tempiOriginali);
-    QString errore() const { return errore_; }
-    bool attivo() const { return attivo_; }
-    /// The console has sent something: the recording's clock starts here, the first time.
+    QString errore() const { return m_errore; }
+    bool attivo() const { return m_attivo; }
+    // The console has sent something: the recording's clock starts here, the first time.
     void scatta();
-    /// Without original times: the next stretch, as soon as there is room for it.
+    // Without original times: the next stretch, as soon as there is room for it.
     void avanti();
     void ferma();
 
+    // Called with each stretch that is due, and when the last one has been.
     std::function<void(const QByteArray &)> suByte;
     std::function<void()> suFine;
 
@@ -28,14 +29,14 @@ private:
     void scaduto();
     void programma();
 
-    QList<Registrazione::Tratto> tratti_;
-    qsizetype prossimo_ = 0;
-    bool attivo_ = false;
-    bool scattato_ = false;
-    bool tempi_ = true;
-    qint64 base_ = 0;
-    QString errore_;
-    QElapsedTimer orologio_;
-    QTimer timer_;
+    QList<Registrazione::Tratto> m_tratti;
+    qsizetype m_prossimo = 0;
+    bool m_attivo = false;
+    bool m_scattato = false;
+    bool m_tempi = true;
+    qint64 m_base = 0;
+    QString m_errore;
+    QElapsedTimer m_orologio;
+    QTimer m_timer;
 };
 } // namespace tessaro_sim

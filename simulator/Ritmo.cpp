@@ -4,14 +4,14 @@
 inline namespace tessaro_sim {
 qsizetype Ritmo::permessi(qint64 ms, qsizetype inCoda)
 {
-    if (baud_ <= 0)
+    if (m_baud <= 0)
         return inCoda;
-    if (!attivo_) {
-        attivo_ = true;
-        inizio_ = ms;
-        usciti_ = 0;
+    if (!m_attivo) {
+        m_attivo = true;
+        m_inizio = ms;
+        m_usciti = 0;
     }
-    const qint64 portati = (ms - inizio_) * baud_ / 10 / 1000;
-    return static_cast<qsizetype>(std::clamp<qint64>(portati - usciti_, 0, inCoda));
+    const qint64 portati = (ms - m_inizio) * m_baud / 10 / 1000;
+    return static_cast<qsizetype>(std::clamp<qint64>(portati - m_usciti, 0, inCoda));
 }
 } // namespace tessaro_sim

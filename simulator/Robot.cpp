@@ -13,15 +13,15 @@ using T = Comando::Tipo;
 
 Robot::Robot(Diario &diario, QObject *parent)
     : QObject(parent),
-      diario_(diario),
-      stanza_(std::make_unique<Stanza>()),
-      memoria_(std::make_unique<Memoria>()),
-      telecamera_(std::make_unique<Telecamera>())
+      m_diario(diario),
+      m_stanza(std::make_unique<Stanza>()),
+      m_memoria(std::make_unique<Memoria>()),
+      m_telecamera(std::make_unique<Telecamera>())
 {
-    riconoscitore_.suComando = [this](const Comando &comando) { esegui(comando); };
-    riconoscitore_.suIgnoto = [this](char c) {
-        diario_.aggiungi(VoceDiario::Tipo::NonCapito,
-                         u"Byte %1 non capito"_s.arg(static_cast<quint8>(c)), QByteArray(1, c));
+    m_riconoscitore.suComando = [this](const Comando &comando) { esegui(comando); };
+    m_riconoscitore.suIgnoto = [this](char c) {
+        m_diario.aggiungi(VoceDiario::Tipo::NonCapito,
+                          u"Byte %1 non capito"_s.arg(static_cast<quint8>(c)), QByteArray(1, c));
     };
 }
 
@@ -29,19 +29,19 @@ Robot::~Robot() = default;
 
 void Robot::ricevi(const QByteArray &byte)
 {
-    riconoscitore_.ricevi(byte);
+    m_riconoscitore.ricevi(byte);
 }
 
 void Robot::esegui(const Comando &comando)
 {
     const bool apre = comando.tipo == T::ApriSessione || comando.tipo == T::Sollecito;
-    const bool ignorato = !apre && !stato_.sessioneAperta;
+    const bool ignorato = !apre && !m_stato.sessioneAperta;
     QStringList note;
     if (!comando.previsto)
         note << u"valore non previsto"_s;
     if (ignorato)
         note << u"sessione chiusa: ignorato"_s;
-    diario_.aggiungi(VoceDiario::Tipo::Comando, comando.testo, comando.byte, note.join(u", "_s));
+    m_diario.aggiungi(VoceDiario::Tipo::Comando, comando.testo, comando.byte, note.join(u", "_s));
     if (ignorato)
         return;
 
@@ -87,14 +87,14 @@ void Robot::esegui(const Comando &comando)
 
 void Robot::apriSessione()
 {
-    memoria_->chiudiTutti();
-    stato_.videoAttivo = false;
-    stato_.sessioneAperta = true;
-    diario_.aggiungi(VoceDiario::Tipo::Sessione, u"Sessione aperta"_s);
-    attendeSollecito_ = guasti_.soloDopoSollecito;
-    if (attendeSollecito_)
+    m_memoria->chiudiTutti();
+    m_stato.videoAttivo = false;
+    m_stato.sessioneAperta = true;
+    m_diario.aggiungi(VoceDiario::Tipo::Sessione, u"Sessione aperta"_s);
+    m_attendeSollecito = m_guasti.soloDopoSollecito;
+    if (m_attendeSollecito)
         return;
-    if (guasti_.unSoloByte)
+    if (m_guasti.unSoloByte)
         invia(QByteArray(1, 31));
     else
         saluta();
@@ -103,30 +103,30 @@ void Robot::apriSessione()
 // Who nudges has heard nothing yet: the greeting goes out once more.
 void Robot::sollecito()
 {
-    if (!stato_.sessioneAperta || guasti_.unSoloByte)
+    if (!m_stato.sessioneAperta || m_guasti.unSoloByte)
         return;
-    attendeSollecito_ = false;
+    m_attendeSollecito = false;
     saluta();
 }
 
 void Robot::saluta()
 {
-    invia(Telegrammi::batterie(stato_.batteriaLogica, stato_.batteriaMotori));
-    invia(Telegrammi::temperatura(stato_.temperatura));
+    invia(Telegrammi::batterie(m_stato.batteriaLogica, m_stato.batteriaMotori));
+    invia(Telegrammi::temperatura(m_stato.temperatura));
 }
 
 void Robot::chiudiSessione()
 {
-    stato_.sessioneAperta = false;
+    m_stato.sessioneAperta = false;
     fermaVideo();
-    stato_.base = MotoBase::Fermo;
-    memoria_->chiudiTutti();
-    diario_.aggiungi(VoceDiario::Tipo::Sessione, u"Sessione chiusa"_s);
+    m_stato.base = MotoBase::Fermo;
+    m_memoria->chiudiTutti();
+    m_diario.aggiungi(VoceDiario::Tipo::Sessione, u"Sessione chiusa"_s);
 }
 
 void Robot::fermaVideo()
 {
-    stato_.videoAttivo = false;
+    m_stato.videoAttivo = false;
     Q_EMIT videoFermato();
 }
 
@@ -134,25 +134,25 @@ void Robot::eseguiRichiesta(const Comando &comando)
 {
     switch (comando.tipo) {
     case T::RichiediSensori:
-        if (risponde_) {
-            invia(Telegrammi::ultrasuoni(stato_.ultrasuoni));
-            invia(Telegrammi::temperatura(stato_.temperatura));
+        if (m_risponde) {
+            invia(Telegrammi::ultrasuoni(m_stato.ultrasuoni));
+            invia(Telegrammi::temperatura(m_stato.temperatura));
         }
         break;
     case T::RichiediStatoA:
-        if (risponde_)
-            invia(Telegrammi::batterie(stato_.batteriaLogica, stato_.batteriaMotori));
+        if (m_risponde)
+            invia(Telegrammi::batterie(m_stato.batteriaLogica, m_stato.batteriaMotori));
         break;
     case T::RichiediStatoB:
-        if (risponde_)
-            invia(Telegrammi::temperatura(stato_.temperatura));
+        if (m_risponde)
+            invia(Telegrammi::temperatura(m_stato.temperatura));
         break;
     case T::ImpostaVideo:
         reagisci();
         break;
     case T::PartenzaVideo:
-        telecamera_->ricomincia();
-        stato_.videoAttivo = true;
+        m_telecamera->ricomincia();
+        m_stato.videoAttivo = true;
         break;
     default:
         fermaVideo();
@@ -165,17 +165,17 @@ void Robot::eseguiMemoria(const Comando &comando)
 {
     switch (comando.tipo) {
     case T::ApriPercorso:
-        invia(memoria_->apri(comando.a, comando.percorso, guasti_));
+        invia(m_memoria->apri(comando.a, comando.percorso, m_guasti));
         break;
     case T::LeggiElenco:
-        invia(memoria_->leggiElenco(comando.a, guasti_));
+        invia(m_memoria->leggiElenco(comando.a, m_guasti));
         break;
     case T::LeggiBlocco:
-        invia(memoria_->leggiBlocco(comando.a, comando.b, guasti_));
+        invia(m_memoria->leggiBlocco(comando.a, comando.b, m_guasti));
         break;
     default:
         // No answer: a status 0 would start the next reading.
-        memoria_->chiudi(comando.a);
+        m_memoria->chiudi(comando.a);
         break;
     }
 }
@@ -184,58 +184,58 @@ void Robot::eseguiMemoria(const Comando &comando)
 // for a reaction ends.
 void Robot::reagisci()
 {
-    if (risponde_)
-        invia(Telegrammi::ultrasuoni(stato_.ultrasuoni));
+    if (m_risponde)
+        invia(Telegrammi::ultrasuoni(m_stato.ultrasuoni));
 }
 
 void Robot::invia(const QByteArray &byte)
 {
-    if (stato_.sessioneAperta && !guasti_.silenzio && !attendeSollecito_)
+    if (m_stato.sessioneAperta && !m_guasti.silenzio && !m_attendeSollecito)
         Q_EMIT telegramma(byte);
 }
 
 void Robot::impostaTemperatura(int gradi)
 {
-    stato_.temperatura = std::clamp(gradi, 0, 255);
-    if (immediato_)
-        invia(Telegrammi::temperatura(stato_.temperatura));
+    m_stato.temperatura = std::clamp(gradi, 0, 255);
+    if (m_immediato)
+        invia(Telegrammi::temperatura(m_stato.temperatura));
     Q_EMIT cambiato();
 }
 
 void Robot::impostaBatterie(int logica, int motori)
 {
-    stato_.batteriaLogica = std::clamp(logica, 0, 255);
-    stato_.batteriaMotori = std::clamp(motori, 0, 255);
-    if (immediato_)
-        invia(Telegrammi::batterie(stato_.batteriaLogica, stato_.batteriaMotori));
+    m_stato.batteriaLogica = std::clamp(logica, 0, 255);
+    m_stato.batteriaMotori = std::clamp(motori, 0, 255);
+    if (m_immediato)
+        invia(Telegrammi::batterie(m_stato.batteriaLogica, m_stato.batteriaMotori));
     Q_EMIT cambiato();
 }
 
 void Robot::impostaUltrasuoni(int destro, int centrale, int sinistro)
 {
-    stato_.ultrasuoni = {std::clamp(destro, 0, 255), std::clamp(centrale, 0, 255),
-                         std::clamp(sinistro, 0, 255)};
-    if (immediato_)
-        invia(Telegrammi::ultrasuoni(stato_.ultrasuoni));
+    m_stato.ultrasuoni = {std::clamp(destro, 0, 255), std::clamp(centrale, 0, 255),
+                          std::clamp(sinistro, 0, 255)};
+    if (m_immediato)
+        invia(Telegrammi::ultrasuoni(m_stato.ultrasuoni));
     Q_EMIT cambiato();
 }
 
 void Robot::impostaUltrasuoniDallaStanza(bool attivo)
 {
-    dallaStanza_ = attivo;
+    m_dallaStanza = attivo;
     if (attivo)
         misura();
 }
 
 QByteArray Robot::prossimaRiga()
 {
-    if (!stato_.videoAttivo || guasti_.silenzio)
+    if (!m_stato.videoAttivo || m_guasti.silenzio)
         return {};
-    return Telegrammi::rigaVideo(telecamera_->prossimaRiga(stato_, *stanza_));
+    return Telegrammi::rigaVideo(m_telecamera->prossimaRiga(m_stato, *m_stanza));
 }
 
 void Robot::annota(const QString &testo)
 {
-    diario_.aggiungi(VoceDiario::Tipo::Nota, testo);
+    m_diario.aggiungi(VoceDiario::Tipo::Nota, testo);
 }
 } // namespace tessaro_sim

@@ -28,17 +28,17 @@ double distanzaMuro(const QPointF &da, double dx, double dy)
 } // namespace
 
 Stanza::Stanza()
-    : cose_{{u"Palla"_s, {262, 205}, 13, 26, QColor(0xd6, 0x3a, 0x2f), true},
-            {u"Pianta"_s, {378, 44}, 22, 110, QColor(0x3c, 0x8c, 0x4a), false},
-            {u"Scatola"_s, {62, 58}, 26, 38, QColor(0xb9, 0x84, 0x4a), false},
-            {u"Pouf"_s, {330, 235}, 28, 34, QColor(0x3f, 0x6f, 0xb5), false}}
+    : m_cose{{u"Palla"_s, {262, 205}, 13, 26, QColor(0xd6, 0x3a, 0x2f), true},
+             {u"Pianta"_s, {378, 44}, 22, 110, QColor(0x3c, 0x8c, 0x4a), false},
+             {u"Scatola"_s, {62, 58}, 26, 38, QColor(0xb9, 0x84, 0x4a), false},
+             {u"Pouf"_s, {330, 235}, 28, 34, QColor(0x3f, 0x6f, 0xb5), false}}
 {
 }
 
 int Stanza::cosaIn(const QPointF &punto) const
 {
-    for (int i = static_cast<int>(cose_.size()) - 1; i >= 0; --i) {
-        if (lunghezza(cose_.at(i).centro - punto) <= cose_.at(i).raggio)
+    for (int i = static_cast<int>(m_cose.size()) - 1; i >= 0; --i) {
+        if (lunghezza(m_cose.at(i).centro - punto) <= m_cose.at(i).raggio)
             return i;
     }
     return -1;
@@ -46,7 +46,7 @@ int Stanza::cosaIn(const QPointF &punto) const
 
 void Stanza::sposta(int cosa, const QPointF &dove, const QPointF &robot)
 {
-    Cosa &c = cose_[cosa];
+    Cosa &c = m_cose[cosa];
     QPointF meta(std::clamp(dove.x(), c.raggio, larghezza - c.raggio),
                  std::clamp(dove.y(), c.raggio, profondita - c.raggio));
     if (lunghezza(meta - robot) >= c.raggio + raggioRobot)
@@ -58,8 +58,8 @@ bool Stanza::libero(const QPointF &centro, double raggio, int tranne) const
     if (centro.x() < raggio || centro.x() > larghezza - raggio || centro.y() < raggio ||
         centro.y() > profondita - raggio)
         return false;
-    for (int i = 0; i < cose_.size(); ++i) {
-        if (i != tranne && lunghezza(cose_.at(i).centro - centro) < cose_.at(i).raggio + raggio)
+    for (int i = 0; i < m_cose.size(); ++i) {
+        if (i != tranne && lunghezza(m_cose.at(i).centro - centro) < m_cose.at(i).raggio + raggio)
             return false;
     }
     return true;
@@ -67,8 +67,8 @@ bool Stanza::libero(const QPointF &centro, double raggio, int tranne) const
 
 QPointF Stanza::avanza(const QPointF &da, const QPointF &a, bool &urtato)
 {
-    for (int i = 0; i < cose_.size(); ++i) {
-        Cosa &c = cose_[i];
+    for (int i = 0; i < m_cose.size(); ++i) {
+        Cosa &c = m_cose[i];
         const QPointF verso = c.centro - a;
         const double d = lunghezza(verso);
         const double minima = c.raggio + raggioRobot;
@@ -91,7 +91,7 @@ double Stanza::distanza(const QPointF &da, double gradi) const
     const double dx = std::cos(rad);
     const double dy = std::sin(rad);
     double vicino = distanzaMuro(da, dx, dy);
-    for (const Cosa &c : cose_) {
+    for (const Cosa &c : m_cose) {
         const QPointF verso = c.centro - da;
         const double lungo = verso.x() * dx + verso.y() * dy;
         const double fuori2 = verso.x() * verso.x() + verso.y() * verso.y() - lungo * lungo;

@@ -8,28 +8,28 @@ using namespace Qt::StringLiterals;
 inline namespace tessaro_sim {
 bool Telecamera::impostaCartella(const QString &cartella)
 {
-    cartella_.clear();
-    file_.clear();
-    prossimo_ = 0;
+    m_cartella.clear();
+    m_file.clear();
+    m_prossimo = 0;
     if (cartella.isEmpty())
         return true;
     const QDir dir(cartella);
     const QFileInfoList trovati = dir.entryInfoList(QDir::Files | QDir::Readable, QDir::Name);
     for (const QFileInfo &info : trovati) {
         if (QImageReader(info.filePath()).canRead())
-            file_ << info.filePath();
+            m_file << info.filePath();
     }
-    if (file_.isEmpty())
+    if (m_file.isEmpty())
         return false;
-    cartella_ = cartella;
+    m_cartella = cartella;
     return true;
 }
 
 QImage Telecamera::guarda(const StatoRobot &stato, const Stanza &stanza, int larghezza,
                           int altezza) const
 {
-    if (!file_.isEmpty()) {
-        const QImage letta(file_.at(prossimo_ % file_.size()));
+    if (!m_file.isEmpty()) {
+        const QImage letta(m_file.at(m_prossimo % m_file.size()));
         // A file can vanish or turn out broken after the folder was chosen.
         if (!letta.isNull()) {
             const QImage grande = letta.scaled(larghezza, altezza, Qt::KeepAspectRatioByExpanding,
@@ -45,12 +45,12 @@ QImage Telecamera::guarda(const StatoRobot &stato, const Stanza &stanza, int lar
 
 QByteArray Telecamera::prossimaRiga(const StatoRobot &stato, const Stanza &stanza)
 {
-    if (riga_ == 0) {
-        fotogramma_ = guarda(stato, stanza, colonne, righe);
-        ++prossimo_;
+    if (m_riga == 0) {
+        m_fotogramma = guarda(stato, stanza, colonne, righe);
+        ++m_prossimo;
     }
-    QByteArray byte = codifica(fotogramma_, riga_);
-    riga_ = (riga_ + 1) % righe;
+    QByteArray byte = codifica(m_fotogramma, m_riga);
+    m_riga = (m_riga + 1) % righe;
     return byte;
 }
 

@@ -3,70 +3,70 @@
 #include <utility>
 
 inline namespace tessaro_sim {
-Uscita::Uscita(Linea &linea) : linea_(linea)
+Uscita::Uscita(Linea &linea) : m_linea(linea)
 {
-    orologio_.start();
-    timer_.setTimerType(Qt::PreciseTimer);
-    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { spedisci(); });
+    m_orologio.start();
+    m_timer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { spedisci(); });
 }
 
 qsizetype Uscita::accoda(const QByteArray &byte)
 {
-    const qsizetype posto = qMin(byte.size(), massimo - coda_.size());
-    coda_ += byte.left(posto);
-    if (!coda_.isEmpty() && !timer_.isActive()) {
+    const qsizetype posto = qMin(byte.size(), massimo - m_coda.size());
+    m_coda += byte.left(posto);
+    if (!m_coda.isEmpty() && !m_timer.isActive()) {
         // The pace starts now, not when the timer first comes round.
-        ritmo_.permessi(orologio_.elapsed(), coda_.size());
-        timer_.start(ritmo_.baud() > 0 ? 4 : 0);
+        m_ritmo.permessi(m_orologio.elapsed(), m_coda.size());
+        m_timer.start(m_ritmo.baud() > 0 ? 4 : 0);
     }
     return byte.size() - posto;
 }
 
 qsizetype Uscita::accodaRiga(const QByteArray &byte)
 {
-    if (coda_.isEmpty())
-        riga_ = byte.size();
+    if (m_coda.isEmpty())
+        m_riga = byte.size();
     return accoda(byte);
 }
 
 void Uscita::interrompi()
 {
-    scartati_ += riga_;
-    coda_.remove(0, std::exchange(riga_, 0));
+    m_scartati += m_riga;
+    m_coda.remove(0, std::exchange(m_riga, 0));
 }
 
 void Uscita::svuota()
 {
-    scartati_ += coda_.size();
-    coda_.clear();
-    riga_ = 0;
-    ritmo_.riposa();
-    timer_.stop();
+    m_scartati += m_coda.size();
+    m_coda.clear();
+    m_riga = 0;
+    m_ritmo.riposa();
+    m_timer.stop();
 }
 
 void Uscita::spedisci()
 {
-    const qsizetype quanti = ritmo_.permessi(orologio_.elapsed(), coda_.size());
+    const qsizetype quanti = m_ritmo.permessi(m_orologio.elapsed(), m_coda.size());
     if (quanti > 0) {
-        const QByteArray pezzo = coda_.left(quanti);
-        scartati_ = 0;
-        const qsizetype presi = perduta_ ? quanti : linea_.scrivi(pezzo);
+        const QByteArray pezzo = m_coda.left(quanti);
+        m_scartati = 0;
+        const qsizetype presi = m_perduta ? quanti : m_linea.scrivi(pezzo);
         // Writing can bring a reading, and that can empty the queue or stop the row.
-        const qsizetype restano = qMax(presi - scartati_, qsizetype{0});
-        coda_.remove(0, restano);
-        riga_ = qMax(riga_ - restano, qsizetype{0});
-        ritmo_.usciti(presi);
+        const qsizetype restano = qMax(presi - m_scartati, qsizetype{0});
+        m_coda.remove(0, restano);
+        m_riga = qMax(m_riga - restano, qsizetype{0});
+        m_ritmo.usciti(presi);
         if (presi < quanti)
-            ritmo_.riposa(); // nobody reads: no burst afterwards
-        timer_.setInterval(presi < quanti ? 10 : ritmo_.baud() > 0 ? 4 : 0);
+            m_ritmo.riposa(); // nobody reads: no burst afterwards
+        m_timer.setInterval(presi < quanti ? 10 : m_ritmo.baud() > 0 ? 4 : 0);
         if (suInvio && presi > 0)
             suInvio(pezzo.left(presi));
     }
     if (suFame)
         suFame();
-    if (coda_.isEmpty()) {
-        ritmo_.riposa();
-        timer_.stop();
+    if (m_coda.isEmpty()) {
+        m_ritmo.riposa();
+        m_timer.stop();
     }
 }
 } // namespace tessaro_sim

@@ -3,7 +3,7 @@
 
 #include "Elenco.h"
 #include "Finestra.h"
-#include "InPixel.h"
+#include "Grafica.h"
 
 class frmImmaginiAcquisite : public Finestra
 {

@@ -2,27 +2,13 @@
 #include "ProgDat.h"
 
 #include "CartellaDiProva.h"
-#include "Errore.h"
+#include "ErroreDi.h"
 #include "Gest_File.h"
 #include "Scritte.h"
 
 #include <gmock/gmock.h>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-int numeroErrore(const std::function<void()> &istruzione)
-{
-    try {
-        istruzione();
-    } catch (const Errore &errore) {
-        return errore.numero();
-    }
-    return 0;
-}
-
-} // namespace
 
 TEST(ProgDat, TheConditionStandsBehindTheFirstSemicolon)
 {
@@ -52,8 +38,8 @@ TEST(ProgDat, AnEmptyFieldIsTheFactoryDefault)
 TEST(ProgDat, AMissingFileIsTheCallersError)
 {
     const CartellaDiProva cartella;
-    EXPECT_EQ(numeroErrore([] { ProgDat::leggiCondizione(); }), Errore::FileNonTrovato);
-    EXPECT_EQ(numeroErrore([] { ProgDat::scriviCondizione(u"no"_s); }), Errore::FileNonTrovato);
+    EXPECT_EQ(erroreDi([] { ProgDat::leggiCondizione(); }), Errore::FileNonTrovato);
+    EXPECT_EQ(erroreDi([] { ProgDat::scriviCondizione(u"no"_s); }), Errore::FileNonTrovato);
     EXPECT_EQ(cartella.elenco(), QStringList());
 }
 

@@ -1,7 +1,7 @@
 #include "Foto.h"
 
 #include "Banco.h"
-#include "Errore.h"
+#include "ErroreDi.h"
 
 #include <QBuffer>
 
@@ -13,12 +13,7 @@ struct LetturaFoto : ::testing::Test
     int esito(const QByteArray &contenuto)
     {
         cartella.scrivi(u"prova.jpg"_s, contenuto);
-        try {
-            leggiFoto(cartella.percorso(u"prova.jpg"_s));
-            return 0;
-        } catch (const Errore &errore) {
-            return errore.numero();
-        }
+        return erroreDi([this] { leggiFoto(cartella.percorso(u"prova.jpg"_s)); });
     }
     CartellaDiProva cartella;
 };

@@ -110,7 +110,7 @@ def vocabulary_faults(root, chapter):
             yield f"{PHRASES}: {row} is in the program {[number, *texts]}"
 
 
-def link_faults(chapters):
+def link_faults(manual, chapters):
     used = set()
     for name, text in chapters.items():
         for target in re.findall(r"\]\(([^)]+)\)", text):
@@ -118,6 +118,9 @@ def link_faults(chapters):
             picture = re.fullmatch(r"immagini/(\w+)\.png", page)
             if picture:
                 used.add(picture[1])
+            elif page.startswith("../immagini/"):
+                if not (manual / page).is_file():
+                    yield f"{name}: no such picture: {target}"
             elif page not in chapters:
                 yield f"{name}: leads nowhere: {target}"
             elif anchor and anchor not in anchors(chapters[page]):
@@ -131,7 +134,7 @@ def main():
     manual = root / "docs" / "manuale"
     chapters = {p.name: p.read_text(encoding="utf-8") for p in sorted(manual.glob("*.md"))}
     faults = [*message_faults(root, chapters[MESSAGES]),
-              *vocabulary_faults(root, chapters[PHRASES]), *link_faults(chapters)]
+              *vocabulary_faults(root, chapters[PHRASES]), *link_faults(manual, chapters)]
     for fault in faults:
         print(fault)
     if not faults:

@@ -1,8 +1,8 @@
-// What the tests of this folder share: waits on conditions, error numbers, windows that keep a
+// What the tests of this folder share: waits on conditions, windows that keep a
 // journal, and a hand that answers message boxes.
 #pragma once
 
-#include "Errore.h"
+#include "ErroreDi.h"
 #include "Finestra.h"
 
 #include <QApplication>
@@ -25,17 +25,6 @@ inline void PrintTo(const QString &testo, std::ostream *dove)
 inline void PrintTo(const QByteArray &byte, std::ostream *dove)
 {
     *dove << byte.toPercentEncoding().toStdString();
-}
-
-// The number of the error that the statement fails with, 0 where it does not fail.
-inline int erroreDi(const std::function<void()> &istruzione)
-{
-    try {
-        istruzione();
-        return 0;
-    } catch (const Errore &errore) {
-        return errore.numero();
-    }
 }
 
 inline bool attendi(const std::function<bool()> &condizione)

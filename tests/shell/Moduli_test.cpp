@@ -6,7 +6,7 @@
 #include "CartellaDiProva.h"
 #include "Combo.h"
 #include "Elenco.h"
-#include "Errore.h"
+#include "ErroreDi.h"
 #include "Gest_File.h"
 #include "Gest_Variabili.h"
 #include "Grafica.h"
@@ -20,20 +20,6 @@
 #include <limits>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-int numeroErrore(const std::function<void()> &istruzione)
-{
-    try {
-        istruzione();
-        return 0;
-    } catch (const Errore &errore) {
-        return errore.numero();
-    }
-}
-
-} // namespace
 
 TEST(ImpostaAbilitati, SwitchesTimersButtonsAndImagesOfOneList)
 {
@@ -121,12 +107,12 @@ TEST(Proporzione, RoundsTowardZeroOnBothSides)
 
 TEST(Proporzione, InZeroPartsIsADivisionError)
 {
-    EXPECT_EQ(numeroErrore([] { Proporzione(1, 0, 615); }), 11);
+    EXPECT_EQ(erroreDi([] { Proporzione(1, 0, 615); }), 11);
 }
 
 TEST(Proporzione, BeyondThirtyTwoBitsIsAnOverflow)
 {
-    EXPECT_EQ(numeroErrore([] { Proporzione(255, 1, std::numeric_limits<qint32>::max()); }), 6);
+    EXPECT_EQ(erroreDi([] { Proporzione(255, 1, std::numeric_limits<qint32>::max()); }), 6);
 }
 
 TEST(ModuloByte, IsTheRemainderOfUnsignedBytes)
@@ -139,7 +125,7 @@ TEST(ModuloByte, IsTheRemainderOfUnsignedBytes)
 
 TEST(ModuloByte, ByZeroIsADivisionError)
 {
-    EXPECT_EQ(numeroErrore([] { ModuloByte(1, 0); }), 11);
+    EXPECT_EQ(erroreDi([] { ModuloByte(1, 0); }), 11);
 }
 
 TEST(BitAlti, OfThreeBitsOf200Is6)
@@ -186,9 +172,9 @@ TEST(LeggiFile, OfAnEmptyFileIsAnEmptyText)
 TEST(LeggiFile, PassesAMissingFileToTheCaller)
 {
     const CartellaDiProva cartella;
-    EXPECT_EQ(numeroErrore([] { LeggiFile(u"manca"_s, 0); }), 53);
-    EXPECT_EQ(numeroErrore([] { LeggiFile(u"manca"_s, 1); }), 53);
-    EXPECT_EQ(numeroErrore([] { LeggiFile(u"manca/dentro"_s, 0); }), 76);
+    EXPECT_EQ(erroreDi([] { LeggiFile(u"manca"_s, 0); }), 53);
+    EXPECT_EQ(erroreDi([] { LeggiFile(u"manca"_s, 1); }), 53);
+    EXPECT_EQ(erroreDi([] { LeggiFile(u"manca/dentro"_s, 0); }), 76);
 }
 
 TEST(LeggiFile, LeavesNoFileOpen)
@@ -196,7 +182,7 @@ TEST(LeggiFile, LeavesNoFileOpen)
     const CartellaDiProva cartella;
     cartella.scrivi(u"uno"_s, "1");
     LeggiFile(u"uno"_s, 0);
-    EXPECT_EQ(numeroErrore([] { LeggiFile(u"manca"_s, 0); }), 53);
+    EXPECT_EQ(erroreDi([] { LeggiFile(u"manca"_s, 0); }), 53);
     EXPECT_EQ(LeggiFile(u"uno"_s, 0), "1");
 }
 
@@ -218,7 +204,7 @@ TEST(ScriviFile, CreatesAFileThatIsMissing)
 TEST(ScriviFile, PassesAMissingFolderToTheCallerAndLeavesNoFileOpen)
 {
     const CartellaDiProva cartella;
-    EXPECT_EQ(numeroErrore([] { ScriviFile(u"manca/dentro"_s, "x"); }), 76);
+    EXPECT_EQ(erroreDi([] { ScriviFile(u"manca/dentro"_s, "x"); }), 76);
     ScriviFile(u"nuovo"_s, "y");
     EXPECT_EQ(cartella.leggi(u"nuovo"_s), "y");
 }
@@ -227,7 +213,7 @@ TEST(ScriviFile, WhereANumberIsOpenIsError55AndClosesNothing)
 {
     const CartellaDiProva cartella;
     Archivio::apri(1, u"aperto"_s, Archivio::Modo::Scrittura);
-    EXPECT_EQ(numeroErrore([] { ScriviFile(u"altro"_s, "x"); }), 55);
+    EXPECT_EQ(erroreDi([] { ScriviFile(u"altro"_s, "x"); }), 55);
     Archivio::stampa(1, "resta");
     Archivio::chiudi();
     EXPECT_EQ(cartella.leggi(u"aperto"_s), "resta");

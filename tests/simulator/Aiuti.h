@@ -25,7 +25,7 @@ inline QByteArray b(std::initializer_list<int> valori)
     return byte;
 }
 
-/// A robot without a line: what it sends is kept, telegram by telegram.
+// A robot without a line: what it sends is kept, telegram by telegram.
 struct RobotInProva
 {
     Diario diario;
@@ -37,7 +37,7 @@ struct RobotInProva
         QObject::connect(&robot, &Robot::telegramma, &robot,
                          [this](const QByteArray &t) { telegrammi << t; });
     }
-    /// Opens a session and forgets the greeting.
+    // Opens a session and forgets the greeting.
     void apri()
     {
         robot.ricevi(b({3, 1, 1}));

@@ -5,7 +5,7 @@
 #include <QTimer>
 #include <functional>
 
-/// Runs the event loop until the condition holds; false only where something hangs.
+// Runs the event loop until the condition holds; false only where something hangs.
 inline bool attendi(const std::function<bool()> &condizione)
 {
     QElapsedTimer orologio;

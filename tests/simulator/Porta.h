@@ -6,49 +6,49 @@
 #include <termios.h>
 #include <unistd.h>
 
-/// The program's side: a device opened as a program would, read without blocking.
+// The program's side: a device opened as a program would, read without blocking.
 class Porta
 {
 public:
     explicit Porta(const QString &percorso)
-        : fd_(::open(QFile::encodeName(percorso).constData(), O_RDWR | O_NOCTTY | O_NONBLOCK))
+        : m_fd(::open(QFile::encodeName(percorso).constData(), O_RDWR | O_NOCTTY | O_NONBLOCK))
     {
     }
     ~Porta() { chiudi(); }
     Porta(const Porta &) = delete;
     Porta &operator=(const Porta &) = delete;
 
-    bool aperta() const { return fd_ >= 0; }
-    int fd() const { return fd_; }
+    bool aperta() const { return m_fd >= 0; }
+    int fd() const { return m_fd; }
     void chiudi()
     {
-        if (fd_ >= 0)
-            ::close(fd_);
-        fd_ = -1;
+        if (m_fd >= 0)
+            ::close(m_fd);
+        m_fd = -1;
     }
     bool scrivi(const QByteArray &byte)
     {
-        return ::write(fd_, byte.constData(), static_cast<size_t>(byte.size())) == byte.size();
+        return ::write(m_fd, byte.constData(), static_cast<size_t>(byte.size())) == byte.size();
     }
-    /// Takes what has come; all that came so far.
+    // Takes what has come; all that came so far.
     const QByteArray &letti()
     {
         char spazio[4096];
         ssize_t n = 0;
-        while ((n = ::read(fd_, spazio, sizeof spazio)) > 0)
-            letti_.append(spazio, n);
-        svanita_ = n == 0 || (n < 0 && errno != EAGAIN);
-        return letti_;
+        while ((n = ::read(m_fd, spazio, sizeof spazio)) > 0)
+            m_letti.append(spazio, n);
+        m_svanita = n == 0 || (n < 0 && errno != EAGAIN);
+        return m_letti;
     }
-    /// Takes what has come and tells whether the other end has hung up.
+    // Takes what has come and tells whether the other end has hung up.
     bool svanita()
     {
         letti();
-        return svanita_;
+        return m_svanita;
     }
 
 private:
-    int fd_ = -1;
-    QByteArray letti_;
-    bool svanita_ = false;
+    int m_fd = -1;
+    QByteArray m_letti;
+    bool m_svanita = false;
 };

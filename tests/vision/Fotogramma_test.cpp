@@ -1,6 +1,7 @@
 #include "Fotogramma.h"
 
 #include "Colore.h"
+#include "ErroreDi.h"
 
 #include <gtest/gtest.h>
 
@@ -15,16 +16,6 @@ QByteArray riga(int numero)
     byte[0] = static_cast<char>(numero);
     byte[159] = '\x1F';
     return byte;
-}
-
-int numeroErrore(const std::function<void()> &istruzione)
-{
-    try {
-        istruzione();
-    } catch (const Errore &errore) {
-        return errore.numero();
-    }
-    return 0;
 }
 
 } // namespace
@@ -63,7 +54,7 @@ TEST(Fotogramma, TheFirstByteOfTheNextTelegramIsIgnored)
 TEST(Fotogramma, ARowThatIsCutFailsAndCountsAllTheSame)
 {
     Fotogramma fotogramma;
-    EXPECT_EQ(numeroErrore([&] { fotogramma.aggiungi(riga(9).left(101), scala); }),
+    EXPECT_EQ(erroreDi([&] { fotogramma.aggiungi(riga(9).left(101), scala); }),
               Errore::ChiamataNonValida);
     EXPECT_EQ(fotogramma.Riga, 1);
     EXPECT_EQ(fotogramma.Pixel(1, 1), ColorePixel(riga(9)));
@@ -72,14 +63,14 @@ TEST(Fotogramma, ARowThatIsCutFailsAndCountsAllTheSame)
 TEST(Fotogramma, AnEmptyRowFails)
 {
     Fotogramma fotogramma;
-    EXPECT_EQ(numeroErrore([&] { fotogramma.aggiungi({}, scala); }), Errore::ChiamataNonValida);
+    EXPECT_EQ(erroreDi([&] { fotogramma.aggiungi({}, scala); }), Errore::ChiamataNonValida);
 }
 
 TEST(Fotogramma, ARowBehindTheLastHasNoPlace)
 {
     Fotogramma fotogramma;
     fotogramma.Riga = 60;
-    EXPECT_EQ(numeroErrore([&] { fotogramma.aggiungi(riga(1), scala); }), Matrice::FuoriIntervallo);
+    EXPECT_EQ(erroreDi([&] { fotogramma.aggiungi(riga(1), scala); }), Matrice::FuoriIntervallo);
     EXPECT_EQ(fotogramma.Riga, 61);
 }
 
@@ -87,7 +78,7 @@ TEST(Fotogramma, TheRowCountStopsAtTheLimitOfAByte)
 {
     Fotogramma fotogramma;
     fotogramma.Riga = 255;
-    EXPECT_EQ(numeroErrore([&] { fotogramma.aggiungi(riga(1), scala); }), Errore::Overflow);
+    EXPECT_EQ(erroreDi([&] { fotogramma.aggiungi(riga(1), scala); }), Errore::Overflow);
     EXPECT_EQ(fotogramma.Riga, 255);
 }
 

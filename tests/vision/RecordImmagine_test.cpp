@@ -1,6 +1,7 @@
 #include "RecordImmagine.h"
 
 #include "ArchivioImmagini.h"
+#include "ErroreDi.h"
 #include "NomeDoppio.h"
 
 #include <QDir>
@@ -9,20 +10,6 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-int numeroErrore(const std::function<void()> &istruzione)
-{
-    try {
-        istruzione();
-    } catch (const Errore &errore) {
-        return errore.numero();
-    }
-    return 0;
-}
-
-} // namespace
 
 TEST(Record, TheNameStandsBetweenTheQuotationMarks)
 {
@@ -125,9 +112,9 @@ TEST(Record, APictureWithoutASizeHasNothingToRead)
 TEST(Record, ALargerPictureThanTheFrameFails)
 {
     Matrice modello(80, 60);
-    EXPECT_EQ(numeroErrore([&] { leggiModello("\"a\",81,1,5", 81, 1, modello); }),
+    EXPECT_EQ(erroreDi([&] { leggiModello("\"a\",81,1,5", 81, 1, modello); }),
               Matrice::FuoriIntervallo);
-    EXPECT_EQ(numeroErrore([&] { leggiModello("\"a\",1,61,5", 1, 61, modello); }),
+    EXPECT_EQ(erroreDi([&] { leggiModello("\"a\",1,61,5", 1, 61, modello); }),
               Matrice::FuoriIntervallo);
 }
 
@@ -214,17 +201,17 @@ TEST_F(FileImmagini, GivesTheRecordAtAnIndex)
 TEST_F(FileImmagini, AShortFileFailsAndIsClosedAllTheSame)
 {
     scrivi("\"a\",1,1,5");
-    EXPECT_EQ(numeroErrore([] { leggiRecord(1); }), Errore::FineDelFile);
+    EXPECT_EQ(erroreDi([] { leggiRecord(1); }), Errore::FineDelFile);
     EXPECT_EQ(leggiRecord(0), "\"a\",1,1,5");
 }
 
 TEST_F(FileImmagini, AnEmptyFileHasNoRecord)
 {
     scrivi({});
-    EXPECT_EQ(numeroErrore([] { leggiRecord(0); }), Errore::FineDelFile);
+    EXPECT_EQ(erroreDi([] { leggiRecord(0); }), Errore::FineDelFile);
 }
 
 TEST_F(FileImmagini, AMissingFileIsToldAsSuch)
 {
-    EXPECT_EQ(numeroErrore([] { leggiRecord(0); }), Errore::FileNonTrovato);
+    EXPECT_EQ(erroreDi([] { leggiRecord(0); }), Errore::FileNonTrovato);
 }

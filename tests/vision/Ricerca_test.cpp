@@ -1,5 +1,6 @@
 #include "Ricerca.h"
 
+#include "ErroreDi.h"
 #include "RicercaLetterale.h"
 
 #include <gtest/gtest.h>
@@ -31,12 +32,7 @@ Matrice ritaglio(const Matrice &pixel, int colonna, int riga, int W, int H)
 
 int numeroErrore(Ricerca &ricerca, const Matrice &modello, int W, int H)
 {
-    try {
-        ricerca.cerca(modello, W, H);
-    } catch (const Errore &errore) {
-        return errore.numero();
-    }
-    return 0;
+    return erroreDi([&] { ricerca.cerca(modello, W, H); });
 }
 
 // A frame of one colour.
