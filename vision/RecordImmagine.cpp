@@ -42,6 +42,9 @@ Misure misureImmagine(const QString &record)
 void leggiModello(QByteArrayView record, qint32 W, qint32 H, Matrice &Modello)
 {
     qsizetype posto = virgola(record, virgola(record, 0));
+    // Rows of no width: there may be thousands of millions of them, and nothing to read.
+    if (W < 1)
+        return;
     for (int riga = 1; riga <= H; ++riga) {
         for (int colonna = 1; colonna <= W; ++colonna) {
             posto = virgola(record, posto);

@@ -106,6 +106,7 @@ TEST(Record, APictureWithoutASizeHasNothingToRead)
     Matrice modello(80, 60);
     leggiModello("\"a\",0,0,5", 0, 0, modello);
     leggiModello("\"a\",-2,3,5", -2, 3, modello);
+    leggiModello("\"a\",0,1677721599,5", 0, 1677721599, modello);
     EXPECT_EQ(modello(1, 1), 0);
 }
 
