@@ -56,6 +56,8 @@ void Immagine::setPicture(int numero)
     }
     m_numero = numero;
     update();
+    if (spunta())
+        annunciaSpunta(*this);
 }
 
 void Immagine::setDisegno(const QIcon &disegno)
@@ -82,12 +84,22 @@ void Immagine::conTastiera()
     setFocusPolicy(Qt::TabFocus);
 }
 
+std::optional<bool> Immagine::spunta() const
+{
+    if (m_spuntata == 0)
+        return {};
+    return m_numero == m_spuntata;
+}
+
 void Immagine::keyPressEvent(QKeyEvent *evento)
 {
-    if (m_conTastiera && evento->key() == Qt::Key_Space) {
+    const int tasto = evento->key();
+    // On a box with a mark Enter is the window's default button, as everywhere.
+    const bool invio = (tasto == Qt::Key_Return || tasto == Qt::Key_Enter) && m_spuntata == 0;
+    if (m_conTastiera && (tasto == Qt::Key_Space || invio)) {
         // Held down it stays one click.
         if (!evento->isAutoRepeat())
-            Click();
+            aziona();
     } else {
         Cliccabile::keyPressEvent(evento);
     }
