@@ -26,13 +26,14 @@ void frmPrincipale::KeyDown(int KeyCode, int)
     imgFreccia(1).setTag(u"Tasto premuto"_s);
 }
 
-void frmPrincipale::KeyUp(int, int)
+void frmPrincipale::KeyUp(int KeyCode, int Shift)
 {
     for (int i = 1; i <= 4; ++i)
         imgFreccia(i).setPicture(Movimento::disegnoARiposo(i));
     if (opzBase.Value())
         lblStop_MouseUp();
     imgFreccia(1).setTag(u"Tasto rilasciato"_s);
+    mnuTastiera_Tasto(KeyCode, Shift);
 }
 
 void frmPrincipale::collegaFreccia(int Index)
