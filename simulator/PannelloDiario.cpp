@@ -25,6 +25,9 @@ PannelloDiario::PannelloDiario(Diario &diario, QWidget *parent)
     elenco_->setAlternatingRowColors(true);
     elenco_->setSelectionBehavior(QAbstractItemView::SelectRows);
     elenco_->setWordWrap(false);
+    // The Tab key goes on to the next control; the arrows go through the lines.
+    elenco_->setTabKeyNavigation(false);
+    elenco_->setAccessibleName(u"Diario"_s);
     elenco_->verticalHeader()->hide();
     elenco_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 7);
     elenco_->horizontalHeader()->setHighlightSections(false);

@@ -30,10 +30,11 @@ PannelloLinea::PannelloLinea(Simulatore &simulatore, QWidget *parent)
 {
     stato_ = new QLabel;
     stato_->setObjectName(u"lblLinea"_s);
-    stato_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    stato_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     velocita_ = new QComboBox;
     velocita_->setObjectName(u"cbVelocitaLinea"_s);
     velocita_->setToolTip(u"Velocità della linea verso la console"_s);
+    velocita_->setAccessibleName(velocita_->toolTip());
     for (const int baud : velocita)
         velocita_->addItem(baud > 0 ? u"%1 baud"_s.arg(baud) : u"Senza limite"_s, baud);
     if (velocita_->findData(sim_.baud()) < 0)

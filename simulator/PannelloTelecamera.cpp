@@ -29,6 +29,7 @@ PannelloTelecamera::PannelloTelecamera(Robot &robot, QWidget *parent)
     stato_->setWordWrap(true);
     fonte_ = new QComboBox;
     fonte_->setObjectName(u"cbTelecamera"_s);
+    fonte_->setAccessibleName(u"Il robot vede"_s);
     fonte_->addItem(u"La stanza"_s);
     fonte_->addItem(u"Cartella di immagini…"_s);
 

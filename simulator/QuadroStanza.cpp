@@ -2,6 +2,7 @@
 #include "DisegnoRobot.h"
 #include "Robot.h"
 #include "Stanza.h"
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -16,6 +17,8 @@ namespace {
 constexpr double muro = 9.0;        // cm
 constexpr int durataFumetto = 8000; // ms
 constexpr int robotInMano = -2;
+constexpr double passoLungo = 10.0; // cm
+constexpr double passoCorto = 1.0;
 
 void disegnaCosa(QPainter &p, const Cosa &c)
 {
@@ -51,12 +54,18 @@ void disegnaCosa(QPainter &p, const Cosa &c)
 }
 } // namespace
 
-QuadroStanza::QuadroStanza(Robot &robot, QWidget *parent) : QWidget(parent), robot_(robot)
+QuadroStanza::QuadroStanza(Robot &robot, QWidget *parent)
+    : QWidget(parent), robot_(robot), scelta_(robotInMano)
 {
     setObjectName(u"quadroStanza"_s);
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(u"Stanza"_s);
+    setAccessibleDescription(
+        u"La barra spaziatrice sceglie il robot o un oggetto, le frecce lo spostano"_s);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    setToolTip(u"Il robot e gli oggetti si spostano con il mouse"_s);
+    setToolTip(u"Il robot e gli oggetti si spostano con il mouse; con la tastiera la barra "
+               "spaziatrice sceglie, le frecce spostano"_s);
     fineFumetto_.setSingleShot(true);
     connect(&fineFumetto_, &QTimer::timeout, this, [this] {
         fumetto_.clear();
@@ -106,6 +115,8 @@ void QuadroStanza::paintEvent(QPaintEvent *)
     p.rotate(s.direzione);
     disegnaDallAlto(p, s);
     p.restore();
+    if (hasFocus())
+        disegnaScelta(p);
     disegnaFumetto(p);
 }
 
@@ -217,20 +228,72 @@ void QuadroStanza::mousePressEvent(QMouseEvent *evento)
 void QuadroStanza::mouseMoveEvent(QMouseEvent *evento)
 {
     const QPointF dove = inStanza(evento->position());
-    const StatoRobot &s = robot_.stato();
-    if (presa_ == robotInMano) {
-        const QPointF meta = dove + scarto_;
-        robot_.impostaPosa(meta.x(), meta.y(), s.direzione);
-    } else if (presa_ >= 0) {
-        robot_.stanza().sposta(presa_, dove + scarto_, QPointF(s.x, s.y));
-        update();
-    }
     if (presa_ != -1)
-        Q_EMIT spostato();
+        sposta(presa_, dove + scarto_);
     const bool prendibile = suRobot(dove) || robot_.stanza().cosaIn(dove) >= 0;
     setCursor(presa_ != -1 ? Qt::ClosedHandCursor
               : prendibile ? Qt::OpenHandCursor
                            : Qt::ArrowCursor);
+}
+
+void QuadroStanza::sposta(int cosa, const QPointF &dove)
+{
+    const StatoRobot &s = robot_.stato();
+    if (cosa == robotInMano) {
+        robot_.impostaPosa(dove.x(), dove.y(), s.direzione);
+    } else {
+        robot_.stanza().sposta(cosa, dove, QPointF(s.x, s.y));
+        update();
+    }
+    Q_EMIT spostato();
+}
+
+void QuadroStanza::keyPressEvent(QKeyEvent *evento)
+{
+    const QPointF qui = scelta_ == robotInMano ? QPointF(robot_.stato().x, robot_.stato().y)
+                                               : robot_.stanza().cose().at(scelta_).centro;
+    const double passo = evento->modifiers().testFlag(Qt::ShiftModifier) ? passoCorto : passoLungo;
+    switch (evento->key()) {
+    case Qt::Key_Space:
+        // From the robot to the first thing, and round.
+        scelta_ = scelta_ == robotInMano ? 0 : scelta_ + 1;
+        if (scelta_ >= robot_.stanza().cose().size())
+            scelta_ = robotInMano;
+        update();
+        break;
+    case Qt::Key_Left:
+        sposta(scelta_, qui - QPointF(passo, 0));
+        break;
+    case Qt::Key_Right:
+        sposta(scelta_, qui + QPointF(passo, 0));
+        break;
+    case Qt::Key_Up:
+        sposta(scelta_, qui - QPointF(0, passo));
+        break;
+    case Qt::Key_Down:
+        sposta(scelta_, qui + QPointF(0, passo));
+        break;
+    default:
+        QWidget::keyPressEvent(evento);
+    }
+}
+
+void QuadroStanza::disegnaScelta(QPainter &p) const
+{
+    const StatoRobot &s = robot_.stato();
+    QPointF centro(s.x, s.y);
+    double raggio = Stanza::raggioRobot;
+    if (scelta_ != robotInMano) {
+        const Cosa &cosa = robot_.stanza().cose().at(scelta_);
+        centro = cosa.centro;
+        raggio = cosa.raggio;
+    }
+    p.save();
+    p.setTransform(dallaStanza());
+    p.setBrush(Qt::NoBrush);
+    p.setPen(QPen(QColor(0x17, 0x5c, 0xb5), 2));
+    p.drawEllipse(centro, raggio + 4, raggio + 4);
+    p.restore();
 }
 
 void QuadroStanza::mouseReleaseEvent(QMouseEvent *)
