@@ -7,7 +7,8 @@
 
 namespace {
 
-// A button, a check box, or a picture to look at, by what its window has connected to it.
+// A button, a check box, or a picture or a label to look at, by what its window has connected to
+// it.
 class Interfaccia : public QAccessibleWidget
 {
 public:
@@ -16,7 +17,7 @@ public:
     QAccessible::Role role() const override
     {
         if (!agibile())
-            return QAccessible::Graphic;
+            return etichetta() ? QAccessible::StaticText : QAccessible::Graphic;
         return spunta() ? QAccessible::CheckBox : QAccessible::PushButton;
     }
     QAccessible::State state() const override
@@ -31,9 +32,18 @@ public:
     QString text(QAccessible::Text quale) const override
     {
         const QString testo = QAccessibleWidget::text(quale);
-        const auto *etichetta = qobject_cast<const QLabel *>(widget());
-        return quale == QAccessible::Name && testo.isEmpty() && etichetta ? etichetta->text()
-                                                                          : testo;
+        return quale == QAccessible::Name && testo.isEmpty() && etichetta() ? etichetta()->text()
+                                                                            : testo;
+    }
+    QList<std::pair<QAccessibleInterface *, QAccessible::Relation>>
+    relations(QAccessible::Relation quali) const override
+    {
+        auto trovate = QAccessibleWidget::relations(quali);
+        QWidget *titolato = etichetta() ? etichetta()->buddy() : nullptr;
+        if (titolato && quali.testFlag(QAccessible::Labelled))
+            trovate.append(
+                {QAccessible::queryAccessibleInterface(titolato), QAccessible::Labelled});
+        return trovate;
     }
     QStringList actionNames() const override
     {
@@ -53,6 +63,7 @@ public:
 private:
     // nullptr while the control is going away, of which Qt still tells.
     Azionabile *azionabile() const { return dynamic_cast<Azionabile *>(widget()); }
+    const QLabel *etichetta() const { return qobject_cast<const QLabel *>(widget()); }
     bool agibile() const { return azionabile() && azionabile()->prendeClick(); }
     std::optional<bool> spunta() const
     {
@@ -64,12 +75,8 @@ private:
 QAccessibleInterface *fabbrica(const QString &, QObject *oggetto)
 {
     auto *controllo = qobject_cast<QWidget *>(oggetto);
-    const auto *azionabile = dynamic_cast<Azionabile *>(controllo);
-    if (!azionabile)
-        return nullptr;
-    // A frame, and a label that is only read, are what Qt says of them.
-    if (qobject_cast<Immagine *>(controllo) ||
-        (qobject_cast<Etichetta *>(controllo) && azionabile->prendeClick()))
+    // Whether it is clicked may be told later; a frame is what Qt says of it.
+    if (qobject_cast<Immagine *>(controllo) || qobject_cast<Etichetta *>(controllo))
         return new Interfaccia(controllo);
     return nullptr;
 }

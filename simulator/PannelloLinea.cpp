@@ -31,6 +31,7 @@ PannelloLinea::PannelloLinea(Simulatore &simulatore, QWidget *parent)
     stato_ = new QLabel;
     stato_->setObjectName(u"lblLinea"_s);
     stato_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    stato_->setFocusPolicy(Qt::StrongFocus);
     velocita_ = new QComboBox;
     velocita_->setObjectName(u"cbVelocitaLinea"_s);
     velocita_->setToolTip(u"Velocità della linea verso la console"_s);
