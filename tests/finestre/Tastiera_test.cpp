@@ -42,6 +42,29 @@ const QHash<QString, QHash<QString, QString>> conTasto = {
 
 } // namespace
 
+TEST(TastieraFinestre, TheWalkFindsWhatTheKeyboardMisses)
+{
+    Finestra finestra(u"frmProva"_s, u"Prova"_s);
+    Immagine disegno(u"imgProva"_s, &finestra);
+    disegno.setGeometry(10, 10, 30, 30);
+    Pulsante sotto(u"pulSotto"_s, &finestra, u"Sotto"_s);
+    sotto.setGeometry(10, 80, 80, 30);
+    Immagine soloDaVedere(u"imgVista"_s, &finestra);
+    Pulsante sopra(u"pulSopra"_s, &finestra, u"Sopra"_s);
+    sopra.setGeometry(10, 40, 80, 30);
+    disegno.MouseDown.collega([](int, int, double, double) {});
+    finestra.Mostra();
+    portaAvanti(finestra);
+    EXPECT_EQ(irraggiungibili(finestra), QStringList(u"imgProva"_s));
+    EXPECT_THAT(irraggiungibili(finestra, {{u"imgProva"_s, u"F2"_s}}), IsEmpty());
+    disegno.conTastiera();
+    EXPECT_THAT(irraggiungibili(finestra), IsEmpty());
+    EXPECT_EQ(fuoriOrdine(finestra), QStringList(u"pulSotto -> pulSopra"_s));
+    QWidget::setTabOrder(&disegno, &sopra);
+    QWidget::setTabOrder(&sopra, &sotto);
+    EXPECT_THAT(fuoriOrdine(finestra), IsEmpty());
+}
+
 TEST(TastieraFinestre, WhateverTakesAClickIsReachedByTheKeyboard)
 {
     TutteLeFinestre tutte;
