@@ -200,7 +200,8 @@ private:
                    std::function<void()> azione);
     void voceLista(QMenu *menu, const QString &testo, Combo &combo);
     void aggiornaMenu(QMenu *menu);
-    void mnuTastiera_Tasto(int KeyCode, int Shift);
+    void mnuTastiera_KeyDown(int KeyCode, int Shift);
+    void mnuTastiera_KeyUp(int KeyCode);
 
     void leggiImmagini();
     void colloca();
@@ -249,5 +250,6 @@ private:
     quint8 PassoFrecce = 0;
     // The arrow that the mouse holds down, 0 for none.
     int m_frecciaPremuta = 0;
+    bool m_menuChiesto = false;
     bool m_incorniciata = false;
 };

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -14,12 +15,18 @@ constexpr QPoint postoMenu{14, 60};
 
 } // namespace
 
-// When the key is let go: the window sees the release, so that no key counts as held.
-void frmPrincipale::mnuTastiera_Tasto(int KeyCode, int Shift)
+// The menu comes when the key is let go: the window sees the release, so that no key counts as
+// held. The other key of the two may be let go first.
+void frmPrincipale::mnuTastiera_KeyDown(int KeyCode, int Shift)
 {
-    const bool chiesto =
-        KeyCode == Tasti::Menu || (KeyCode == Tasti::F10 && Shift == tastoMaiuscole);
-    if (chiesto && !QApplication::activePopupWidget())
+    if (KeyCode == Tasti::Menu || KeyCode == Tasti::F10)
+        m_menuChiesto = KeyCode == Tasti::Menu || Shift == tastoMaiuscole;
+}
+
+void frmPrincipale::mnuTastiera_KeyUp(int KeyCode)
+{
+    const bool suo = KeyCode == Tasti::Menu || KeyCode == Tasti::F10;
+    if (suo && std::exchange(m_menuChiesto, false) && !QApplication::activePopupWidget())
         mnuTastiera.popup(mapToGlobal(postoMenu));
 }
 

@@ -1,8 +1,10 @@
 #include "Grafica.h"
 
+#include <QFocusFrame>
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPointer>
 
 QIcon ListaImmagini::immagine(int numero) const
 {
@@ -77,8 +79,57 @@ void Immagine::setBorderStyle(int bordo)
     update();
 }
 
+namespace {
+
+// Around the picture, not on it: a small one would not be known again.
+class Anello : public QFocusFrame
+{
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter pittore(this);
+        pittore.setRenderHint(QPainter::Antialiasing);
+        pittore.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        pittore.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+    }
+};
+
+// Puts the ring there while the control has the focus.
+class Fuoco : public QObject
+{
+public:
+    explicit Fuoco(QWidget &controllo) : QObject(&controllo), m_controllo(controllo)
+    {
+        controllo.installEventFilter(this);
+    }
+    ~Fuoco() override { delete m_anello; }
+    Q_DISABLE_COPY_MOVE(Fuoco)
+
+protected:
+    bool eventFilter(QObject *, QEvent *evento) override
+    {
+        if (evento->type() == QEvent::FocusIn) {
+            delete m_anello;
+            m_anello = new Anello;
+            m_anello->setWidget(&m_controllo);
+        } else if (evento->type() == QEvent::FocusOut) {
+            delete m_anello;
+        }
+        return false;
+    }
+
+private:
+    QWidget &m_controllo;
+    // It lies beside the control, and goes with what both lie in.
+    QPointer<Anello> m_anello;
+};
+
+} // namespace
+
 void Immagine::conTastiera()
 {
+    if (!m_conTastiera)
+        new Fuoco(*this);
     m_conTastiera = true;
     // Not by the mouse: a box in which the user types does not lose the focus to a picture.
     setFocusPolicy(Qt::TabFocus);
@@ -114,12 +165,6 @@ void Immagine::paintEvent(QPaintEvent *)
     if (m_bordo == 1) {
         pittore.setPen(palette().color(QPalette::WindowText));
         pittore.drawRect(rect().adjusted(0, 0, -1, -1));
-    }
-    if (m_conTastiera && hasFocus()) {
-        pittore.setRenderHint(QPainter::Antialiasing);
-        pittore.setBrush(Qt::NoBrush);
-        pittore.setPen(QPen(palette().color(QPalette::Highlight), 2));
-        pittore.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
     }
 }
 

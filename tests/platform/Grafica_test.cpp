@@ -90,12 +90,16 @@ TEST_F(GraficaTest, an_image_for_the_keyboard_is_clicked_with_the_space_bar)
     ASSERT_TRUE(immagine.hasFocus());
     QTest::keyClick(&immagine, Qt::Key_Space);
     EXPECT_EQ(volte, 0) << "the focus alone does not make it one";
-    const QImage senza = immagine.grab().toImage();
     immagine.clearFocus();
+    immagine.move(20, 20);
+    const QImage senza = finestra.grab().toImage();
     immagine.conTastiera();
     QTest::keyClick(&finestra, Qt::Key_Tab);
     ASSERT_TRUE(immagine.hasFocus());
-    EXPECT_NE(immagine.grab().toImage(), senza) << "the focus can be seen";
+    EXPECT_NE(finestra.grab().toImage(), senza) << "the focus can be seen";
+    immagine.clearFocus();
+    EXPECT_EQ(finestra.grab().toImage(), senza);
+    immagine.setFocus();
     QTest::keyClick(&immagine, Qt::Key_Space);
     EXPECT_EQ(volte, 1);
     QTest::keyClick(&immagine, Qt::Key_A);
