@@ -87,6 +87,7 @@ void frmImpCondizioni::disponiPannelli()
                             latoCasella);
         casella.setAccessibleName(frame(i).Caption());
         casella.conTastiera();
+        casella.conSpunta(2);
     }
     disponiOrario();
 
@@ -132,6 +133,7 @@ void frmImpCondizioni::disponiOrario()
         ora.barra.setAccessibleName(nome);
         ora.barra.setFixedHeight(ora.testo.sizeHint().height());
         ora.barra.setCursor(Qt::ArrowCursor);
+        ora.barra.conFrecce(ora.testo);
         riga->addSpacing(i == 0 ? 0 : 18);
         riga->addWidget(etichette[i]);
         riga->addSpacing(6);

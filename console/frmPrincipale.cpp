@@ -63,6 +63,7 @@ void frmPrincipale::collegaGestori()
     lblStop.MouseUp.collega(this, &frmPrincipale::lblStop_MouseUp);
     collegaTesta();
     collegaVoce();
+    componiMenu();
 }
 
 void frmPrincipale::Initialize()
@@ -251,8 +252,11 @@ void frmPrincipale::esegui(int Image)
 
 void frmPrincipale::apri(Finestra *finestra)
 {
-    if (finestra)
-        finestra->Mostra();
+    if (!finestra)
+        return;
+    finestra->Mostra();
+    // Where it is open already, nothing else happens to it.
+    finestra->raise();
 }
 
 void frmPrincipale::sceltaModo(CasellaOpzione &scelta)

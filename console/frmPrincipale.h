@@ -10,6 +10,7 @@
 #include "Finestra.h"
 #include "MotoreRicezione.h"
 #include "Sessione.h"
+#include "VoceMenu.h"
 #include "frmOpzioni.h"
 
 #include <QGroupBox>
@@ -156,6 +157,10 @@ public:
     Etichetta lblTemperatura{u"lblTemperatura"_s, this};
     Etichetta lblProva{u"lblProva"_s, this};
 
+    // What the mouse alone would reach, for the keyboard. The data of an entry is the control whose
+    // handler it runs.
+    QMenu mnuTastiera{this};
+
     frmSchermataIniziale splash;
     frmImpostaPorta impostaPorta;
     frmOpzioni opzioni;
@@ -184,6 +189,19 @@ private:
     void collegaGestori();
     void collegaTesta();
     void collegaVoce();
+
+    // The menu for the keyboard.
+    void componiMenu();
+    void componiMenuMovimenti();
+    void componiMenuTesta();
+    void componiMenuVoce();
+    void componiMenuFinestre();
+    VoceMenu &voce(QMenu *menu, const QString &testo, QWidget &controllo,
+                   std::function<void()> azione);
+    void voceLista(QMenu *menu, const QString &testo, Combo &combo);
+    void aggiornaMenu(QMenu *menu);
+    void mnuTastiera_KeyDown(int KeyCode, int Shift);
+    void mnuTastiera_KeyUp(int KeyCode);
 
     void leggiImmagini();
     void colloca();
@@ -232,5 +250,6 @@ private:
     quint8 PassoFrecce = 0;
     // The arrow that the mouse holds down, 0 for none.
     int m_frecciaPremuta = 0;
+    bool m_menuChiesto = false;
     bool m_incorniciata = false;
 };

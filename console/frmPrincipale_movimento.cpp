@@ -5,8 +5,9 @@
 
 #include <QGuiApplication>
 
-void frmPrincipale::KeyDown(int KeyCode, int)
+void frmPrincipale::KeyDown(int KeyCode, int Shift)
 {
+    mnuTastiera_KeyDown(KeyCode, Shift);
     if (imgFreccia(1).Tag() == u"Tasto premuto"_s)
         return;
     if (const int freccia = Movimento::frecciaDelTasto(KeyCode))
@@ -26,13 +27,14 @@ void frmPrincipale::KeyDown(int KeyCode, int)
     imgFreccia(1).setTag(u"Tasto premuto"_s);
 }
 
-void frmPrincipale::KeyUp(int, int)
+void frmPrincipale::KeyUp(int KeyCode, int)
 {
     for (int i = 1; i <= 4; ++i)
         imgFreccia(i).setPicture(Movimento::disegnoARiposo(i));
     if (opzBase.Value())
         lblStop_MouseUp();
     imgFreccia(1).setTag(u"Tasto rilasciato"_s);
+    mnuTastiera_KeyUp(KeyCode);
 }
 
 void frmPrincipale::collegaFreccia(int Index)

@@ -26,6 +26,11 @@ void frmEditor::disponi()
     separatorePrima(mnuFile, &mnuFileEsci, u"t2"_s);
     separatorePrima(mnuIns, &mnuInsCondizione, u"t3"_s);
 
+    mnuFileNuovo.setShortcut(QKeySequence::New);
+    mnuFileApri.setShortcut(QKeySequence::Open);
+    mnuFileSalva.setShortcut(QKeySequence::Save);
+    mnuFileSalvacome.setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+
     lstMosse.setItemDelegate(new RigaTagliata(&lstMosse));
     lstMosse.setAccessibleName(u"Lista delle mosse"_s);
     // A long name must not widen the window: its tool tip has it whole.
@@ -63,6 +68,7 @@ void frmEditor::disponiPulsanti(QBoxLayout *colonna)
         immagine.setToolTip(suggerimento);
         immagine.setAccessibleName(suggerimento);
         immagine.setCursor(Qt::PointingHandCursor);
+        immagine.conTastiera();
         colonna->addWidget(&immagine, 0, Qt::AlignHCenter);
     };
     colonna->setSpacing(12);

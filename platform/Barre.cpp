@@ -1,7 +1,10 @@
 #include "Barre.h"
 
+#include "Tasti.h"
+
 #include <QFrame>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -24,6 +27,24 @@ void PulsanteBarra::setToolTipText(const QString &testo)
 {
     setToolTip(testo);
     setAccessibleName(testo);
+}
+
+void PulsanteBarra::keyPressEvent(QKeyEvent *evento)
+{
+    if (Tasti::codice(*evento) != Tasti::Invio)
+        QToolButton::keyPressEvent(evento);
+    else if (!evento->isAutoRepeat())
+        setDown(true);
+}
+
+void PulsanteBarra::keyReleaseEvent(QKeyEvent *evento)
+{
+    if (Tasti::codice(*evento) != Tasti::Invio) {
+        QToolButton::keyReleaseEvent(evento);
+    } else if (!evento->isAutoRepeat() && isDown()) {
+        setDown(false);
+        click();
+    }
 }
 
 BarraDiPulsanti::BarraDiPulsanti(const QString &nome, QWidget *dentro, const ListaImmagini *lista)

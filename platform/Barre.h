@@ -22,6 +22,12 @@ public:
     bool Enabled() const { return isEnabled(); }
     void setToolTipText(const QString &testo);
 
+protected:
+    // Enter presses it as the space bar does, which may have a meaning of its own in the window: it
+    // is pressed while the key is, and clicked when the key is let go.
+    void keyPressEvent(QKeyEvent *evento) override;
+    void keyReleaseEvent(QKeyEvent *evento) override;
+
 private:
     const ListaImmagini *m_lista;
     int m_immagine = 0;

@@ -42,6 +42,8 @@ public:
     }
     void collega(std::function<void(Argomenti...)> gestore) { m_gestore = std::move(gestore); }
 
+    bool collegato() const { return static_cast<bool>(m_gestore); }
+
     void operator()(Argomenti... argomenti) const
     {
         if (m_gestore && !EventiSospesi::ora()) {

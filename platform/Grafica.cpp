@@ -1,8 +1,10 @@
 #include "Grafica.h"
 
+#include <QFocusFrame>
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPointer>
 
 QIcon ListaImmagini::immagine(int numero) const
 {
@@ -56,6 +58,8 @@ void Immagine::setPicture(int numero)
     }
     m_numero = numero;
     update();
+    if (spunta())
+        annunciaSpunta(*this);
 }
 
 void Immagine::setDisegno(const QIcon &disegno)
@@ -75,19 +79,78 @@ void Immagine::setBorderStyle(int bordo)
     update();
 }
 
+namespace {
+
+// Around the picture, not on it: a small one would not be known again.
+class Anello : public QFocusFrame
+{
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter pittore(this);
+        pittore.setRenderHint(QPainter::Antialiasing);
+        pittore.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        pittore.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+    }
+};
+
+// Puts the ring there while the control has the focus.
+class Fuoco : public QObject
+{
+public:
+    explicit Fuoco(QWidget &controllo) : QObject(&controllo), m_controllo(controllo)
+    {
+        controllo.installEventFilter(this);
+    }
+    ~Fuoco() override { delete m_anello; }
+    Q_DISABLE_COPY_MOVE(Fuoco)
+
+protected:
+    bool eventFilter(QObject *, QEvent *evento) override
+    {
+        if (evento->type() == QEvent::FocusIn) {
+            delete m_anello;
+            m_anello = new Anello;
+            m_anello->setWidget(&m_controllo);
+        } else if (evento->type() == QEvent::FocusOut) {
+            delete m_anello;
+        }
+        return false;
+    }
+
+private:
+    QWidget &m_controllo;
+    // It lies beside the control, and goes with what both lie in.
+    QPointer<Anello> m_anello;
+};
+
+} // namespace
+
 void Immagine::conTastiera()
 {
+    if (!m_conTastiera)
+        new Fuoco(*this);
     m_conTastiera = true;
     // Not by the mouse: a box in which the user types does not lose the focus to a picture.
     setFocusPolicy(Qt::TabFocus);
 }
 
+std::optional<bool> Immagine::spunta() const
+{
+    if (m_spuntata == 0)
+        return {};
+    return m_numero == m_spuntata;
+}
+
 void Immagine::keyPressEvent(QKeyEvent *evento)
 {
-    if (m_conTastiera && evento->key() == Qt::Key_Space) {
+    const int tasto = evento->key();
+    // On a box with a mark Enter is the window's default button, as everywhere.
+    const bool invio = (tasto == Qt::Key_Return || tasto == Qt::Key_Enter) && m_spuntata == 0;
+    if (m_conTastiera && (tasto == Qt::Key_Space || invio)) {
         // Held down it stays one click.
         if (!evento->isAutoRepeat())
-            Click();
+            aziona();
     } else {
         Cliccabile::keyPressEvent(evento);
     }
@@ -102,12 +165,6 @@ void Immagine::paintEvent(QPaintEvent *)
     if (m_bordo == 1) {
         pittore.setPen(palette().color(QPalette::WindowText));
         pittore.drawRect(rect().adjusted(0, 0, -1, -1));
-    }
-    if (m_conTastiera && hasFocus()) {
-        pittore.setRenderHint(QPainter::Antialiasing);
-        pittore.setBrush(Qt::NoBrush);
-        pittore.setPen(QPen(palette().color(QPalette::Highlight), 2));
-        pittore.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
     }
 }
 

@@ -1,11 +1,13 @@
 // What is looked at: labels, images, shapes, surfaces drawn by code.
 #pragma once
 
+#include "Accessibile.h"
 #include "Controllo.h"
 
 #include <QIcon>
 #include <QImage>
 #include <QLabel>
+#include <optional>
 #include <vector>
 
 // Pictures by number, from 1; 0 is no picture.
@@ -23,13 +25,46 @@ private:
     std::vector<QIcon> m_immagini;
 };
 
-// Adds a Click on the left button's release inside, after MouseUp.
-template <class Base>
-class Cliccabile : public Controllo<Base>
+// What becomes a button by its handlers, though it looks like a picture or a label.
+class Azionabile
 {
 public:
-    using Controllo<Base>::Controllo;
+    Azionabile() = default;
+    virtual ~Azionabile() = default;
+    Azionabile(const Azionabile &) = delete;
+    Azionabile &operator=(const Azionabile &) = delete;
+
+    // Whether anything happens when the mouse presses it.
+    virtual bool prendeClick() const = 0;
+    // What a click of the left button does.
+    virtual void aziona() = 0;
+    // A mark that the click sets and takes away; nothing where it is a plain button.
+    virtual std::optional<bool> spunta() const { return {}; }
+};
+
+// Adds a Click on the left button's release inside, after MouseUp.
+template <class Base>
+class Cliccabile : public Controllo<Base>, public Azionabile
+{
+public:
+    explicit Cliccabile(const QString &nome, QWidget *dentro) : Controllo<Base>(nome, dentro)
+    {
+        dichiaraAzionabili();
+    }
     Evento<> Click;
+
+    bool prendeClick() const override
+    {
+        return Click.collegato() || this->MouseDown.collegato() || this->DblClick.collegato();
+    }
+    void aziona() override
+    {
+        const double x = this->width() * this->unitaPerPixel / 2;
+        const double y = this->height() * this->unitaPerPixel / 2;
+        this->MouseDown(1, 0, x, y);
+        this->MouseUp(1, 0, x, y);
+        Click();
+    }
 
 protected:
     void mousePressEvent(QMouseEvent *evento) override
@@ -90,8 +125,12 @@ public:
     int BorderStyle() const { return m_bordo; }
     void setBorderStyle(int bordo);
 
-    // From now on the Tab key reaches it, it shows the focus, and the space bar clicks it.
+    // From now on the Tab key reaches it, it shows the focus, and the space bar clicks it; Enter
+    // does, too, unless it has a mark.
     void conTastiera();
+    // Its pictures are those of a check box; this one is the ticked one.
+    void conSpunta(int spuntata) { m_spuntata = spuntata; }
+    std::optional<bool> spunta() const override;
 
 protected:
     void keyPressEvent(QKeyEvent *evento) override;
@@ -102,6 +141,7 @@ private:
     QIcon m_disegno;
     int m_numero = 0;
     int m_bordo = 0;
+    int m_spuntata = 0;
     bool m_conTastiera = false;
 };
 

@@ -1,5 +1,8 @@
 #include "Pulsanti.h"
 
+#include "CasellaTesto.h"
+#include "Tasti.h"
+
 #include <QFocusEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -152,6 +155,26 @@ void SuGiu::setValue(int valore)
         return;
     m_valore = valore;
     Change();
+}
+
+void SuGiu::conFrecce(CasellaTesto &casella)
+{
+    m_casella = &casella;
+    casella.installEventFilter(this);
+}
+
+bool SuGiu::eventFilter(QObject *, QEvent *evento)
+{
+    if (evento->type() != QEvent::KeyPress)
+        return false;
+    const int tasto = Tasti::codice(*static_cast<QKeyEvent *>(evento));
+    if (tasto != Tasti::Su && tasto != Tasti::Giu)
+        return false;
+    m_casella->LostFocus();
+    // The handler may have refused it.
+    if (!m_casella->Text().isEmpty())
+        passo(tasto == Tasti::Su ? +1 : -1);
+    return true;
 }
 
 void SuGiu::passo(int di)

@@ -73,6 +73,8 @@ private:
     QColor m_fondo;
 };
 
+class CasellaTesto;
+
 // A small vertical spin bar; the upper arrow raises the number.
 class SuGiu : public Controllo<QWidget>
 {
@@ -91,8 +93,15 @@ public:
     // Errore::ProprietaNonValida outside the limits.
     void setValue(int valore);
 
+    // From now on the keys up and down spin in that box, which then counts as left: its number
+    // comes into the bar first.
+    void conFrecce(CasellaTesto &casella);
+
     // By the user or by code.
     Evento<> Change;
+
+protected:
+    bool eventFilter(QObject *oggetto, QEvent *evento) override;
 
 private:
     void passo(int di);
@@ -100,4 +109,5 @@ private:
     int m_minimo;
     int m_massimo;
     int m_valore;
+    CasellaTesto *m_casella = nullptr;
 };

@@ -38,6 +38,8 @@ int Tasti::codice(const QKeyEvent &evento)
         return Giu;
     case Qt::Key_Delete:
         return Canc;
+    case Qt::Key_Menu:
+        return Menu;
     default:
         if (tasto == Qt::Key_Space || (tasto >= Qt::Key_0 && tasto <= Qt::Key_9) ||
             (tasto >= Qt::Key_A && tasto <= Qt::Key_Z))

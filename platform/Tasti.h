@@ -14,6 +14,9 @@ inline constexpr int Su = 38;
 inline constexpr int Destra = 39;
 inline constexpr int Giu = 40;
 inline constexpr int Canc = 46;
+inline constexpr int Menu = 93;
+inline constexpr int F5 = 116;
+inline constexpr int F10 = 121;
 
 // Digits and letters are their capital's ASCII code; a key without a code of its own here is 255,
 // so that no real key is 0.

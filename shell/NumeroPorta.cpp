@@ -10,6 +10,7 @@ NumeroPorta::NumeroPorta(Finestra &finestra, CasellaTesto &testo, SuGiu &suGiu)
 {
     txtPorta.KeyPress.collega(soloCifre);
     txtPorta.LostFocus.collega(this, &NumeroPorta::txtPorta_LostFocus);
+    m_suGiu.conFrecce(txtPorta);
     m_suGiu.Change.collega([this] { txtPorta.setText(QString::number(m_suGiu.Value())); });
 }
 

@@ -96,11 +96,11 @@ FinestraSimulatore::FinestraSimulatore(Simulatore &simulatore, QWidget *parent)
     auto *interno = new QVBoxLayout(fronte);
     interno->setContentsMargins(4, 0, 4, 6);
     interno->addWidget(new QuadroRobot(robot));
-    auto *telecamera = new PannelloTelecamera(robot);
     auto *destra = new QVBoxLayout;
     destra->setSpacing(10);
     destra->addWidget(fronte, 1);
     destra->addWidget(new PannelloSensori(robot));
+    auto *telecamera = new PannelloTelecamera(robot);
     destra->addWidget(telecamera);
     destra->addWidget(new PannelloLinea(m_sim));
 

@@ -25,6 +25,9 @@ PannelloDiario::PannelloDiario(Diario &diario, QWidget *parent)
     m_elenco->setAlternatingRowColors(true);
     m_elenco->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_elenco->setWordWrap(false);
+    // The Tab key goes on to the next control; the arrows go through the lines.
+    m_elenco->setTabKeyNavigation(false);
+    m_elenco->setAccessibleName(u"Diario"_s);
     m_elenco->verticalHeader()->hide();
     m_elenco->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 7);
     m_elenco->horizontalHeader()->setHighlightSections(false);

@@ -30,10 +30,12 @@ PannelloLinea::PannelloLinea(Simulatore &simulatore, QWidget *parent)
 {
     m_stato = new QLabel;
     m_stato->setObjectName(u"lblLinea"_s);
-    m_stato->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_stato->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_stato->setFocusPolicy(Qt::StrongFocus);
     m_velocita = new QComboBox;
     m_velocita->setObjectName(u"cbVelocitaLinea"_s);
     m_velocita->setToolTip(u"Velocità della linea verso la console"_s);
+    m_velocita->setAccessibleName(m_velocita->toolTip());
     for (const int baud : velocita)
         m_velocita->addItem(baud > 0 ? u"%1 baud"_s.arg(baud) : u"Senza limite"_s, baud);
     if (m_velocita->findData(m_sim.baud()) < 0)

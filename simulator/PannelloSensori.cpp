@@ -42,6 +42,7 @@ PannelloSensori::PannelloSensori(Robot &robot, QWidget *parent)
         // Room for the longest text, so that the sliders do not change their width.
         (*testo)->setMinimumWidth(fontMetrics().horizontalAdvance(u"255  scarichissima"_s) + 4);
         griglia->addWidget(new QLabel(nome), riga, 0);
+        barra->setAccessibleName(nome);
         griglia->addWidget(barra, riga, 1);
         griglia->addWidget(*testo, riga, 2);
         ++riga;

@@ -29,6 +29,7 @@ PannelloTelecamera::PannelloTelecamera(Robot &robot, QWidget *parent)
     m_stato->setWordWrap(true);
     m_fonte = new QComboBox;
     m_fonte->setObjectName(u"cbTelecamera"_s);
+    m_fonte->setAccessibleName(u"Il robot vede"_s);
     m_fonte->addItem(u"La stanza"_s);
     m_fonte->addItem(u"Cartella di immagini…"_s);
 

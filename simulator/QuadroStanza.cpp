@@ -2,6 +2,7 @@
 #include "DisegnoRobot.h"
 #include "Robot.h"
 #include "Stanza.h"
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -16,6 +17,8 @@ namespace {
 constexpr double muro = 9.0;        // cm
 constexpr int durataFumetto = 8000; // ms
 constexpr int robotInMano = -2;
+constexpr double passoLungo = 10.0; // cm
+constexpr double passoCorto = 1.0;
 
 void disegnaCosa(QPainter &p, const Cosa &c)
 {
@@ -51,12 +54,18 @@ void disegnaCosa(QPainter &p, const Cosa &c)
 }
 } // namespace
 
-QuadroStanza::QuadroStanza(Robot &robot, QWidget *parent) : QWidget(parent), m_robot(robot)
+QuadroStanza::QuadroStanza(Robot &robot, QWidget *parent)
+    : QWidget(parent), m_robot(robot), m_scelta(robotInMano)
 {
     setObjectName(u"quadroStanza"_s);
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(u"Stanza"_s);
+    setAccessibleDescription(
+        u"La barra spaziatrice sceglie il robot o un oggetto, le frecce lo spostano"_s);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    setToolTip(u"Il robot e gli oggetti si spostano con il mouse"_s);
+    setToolTip(u"Il robot e gli oggetti si spostano con il mouse; con la tastiera la barra "
+               "spaziatrice sceglie, le frecce spostano"_s);
     m_fineFumetto.setSingleShot(true);
     connect(&m_fineFumetto, &QTimer::timeout, this, [this] {
         m_fumetto.clear();
@@ -106,6 +115,8 @@ void QuadroStanza::paintEvent(QPaintEvent *)
     p.rotate(s.direzione);
     disegnaDallAlto(p, s);
     p.restore();
+    if (hasFocus())
+        disegnaScelta(p);
     disegnaFumetto(p);
 }
 
@@ -217,20 +228,72 @@ void QuadroStanza::mousePressEvent(QMouseEvent *evento)
 void QuadroStanza::mouseMoveEvent(QMouseEvent *evento)
 {
     const QPointF dove = inStanza(evento->position());
-    const StatoRobot &s = m_robot.stato();
-    if (m_presa == robotInMano) {
-        const QPointF meta = dove + m_scarto;
-        m_robot.impostaPosa(meta.x(), meta.y(), s.direzione);
-    } else if (m_presa >= 0) {
-        m_robot.stanza().sposta(m_presa, dove + m_scarto, QPointF(s.x, s.y));
-        update();
-    }
     if (m_presa != -1)
-        Q_EMIT spostato();
+        sposta(m_presa, dove + m_scarto);
     const bool prendibile = suRobot(dove) || m_robot.stanza().cosaIn(dove) >= 0;
     setCursor(m_presa != -1 ? Qt::ClosedHandCursor
               : prendibile  ? Qt::OpenHandCursor
                             : Qt::ArrowCursor);
+}
+
+void QuadroStanza::sposta(int cosa, const QPointF &dove)
+{
+    const StatoRobot &s = m_robot.stato();
+    if (cosa == robotInMano) {
+        m_robot.impostaPosa(dove.x(), dove.y(), s.direzione);
+    } else {
+        m_robot.stanza().sposta(cosa, dove, QPointF(s.x, s.y));
+        update();
+    }
+    Q_EMIT spostato();
+}
+
+void QuadroStanza::keyPressEvent(QKeyEvent *evento)
+{
+    const QPointF qui = m_scelta == robotInMano ? QPointF(m_robot.stato().x, m_robot.stato().y)
+                                                : m_robot.stanza().cose().at(m_scelta).centro;
+    const double passo = evento->modifiers().testFlag(Qt::ShiftModifier) ? passoCorto : passoLungo;
+    switch (evento->key()) {
+    case Qt::Key_Space:
+        // From the robot to the first thing, and round.
+        m_scelta = m_scelta == robotInMano ? 0 : m_scelta + 1;
+        if (m_scelta >= m_robot.stanza().cose().size())
+            m_scelta = robotInMano;
+        update();
+        break;
+    case Qt::Key_Left:
+        sposta(m_scelta, qui - QPointF(passo, 0));
+        break;
+    case Qt::Key_Right:
+        sposta(m_scelta, qui + QPointF(passo, 0));
+        break;
+    case Qt::Key_Up:
+        sposta(m_scelta, qui - QPointF(0, passo));
+        break;
+    case Qt::Key_Down:
+        sposta(m_scelta, qui + QPointF(0, passo));
+        break;
+    default:
+        QWidget::keyPressEvent(evento);
+    }
+}
+
+void QuadroStanza::disegnaScelta(QPainter &p) const
+{
+    const StatoRobot &s = m_robot.stato();
+    QPointF centro(s.x, s.y);
+    double raggio = Stanza::raggioRobot;
+    if (m_scelta != robotInMano) {
+        const Cosa &cosa = m_robot.stanza().cose().at(m_scelta);
+        centro = cosa.centro;
+        raggio = cosa.raggio;
+    }
+    p.save();
+    p.setTransform(dallaStanza());
+    p.setBrush(Qt::NoBrush);
+    p.setPen(QPen(QColor(0x17, 0x5c, 0xb5), 2));
+    p.drawEllipse(centro, raggio + 4, raggio + 4);
+    p.restore();
 }
 
 void QuadroStanza::mouseReleaseEvent(QMouseEvent *)

@@ -14,6 +14,7 @@ namespace {
 constexpr auto scalaAvvio = "10"_L1;
 // At the size of the first showing, 8 screen pixels for one of the frame, all of them to be seen.
 constexpr int zoomIniziale = 8;
+constexpr int latoMirino = 11;
 // More than any port holds back.
 constexpr int lettureMassime = 256;
 
@@ -23,6 +24,7 @@ frmCamera::frmCamera(const ControlliVideo &console, ::frmNomeImmagine &nomeImmag
     : Finestra(u"frmCamera"_s, u"Videocamera"_s),
       Schermo(u"Schermo"_s, this, Superficie::Scala::Pixel),
       shpSelezione(u"shpSelezione"_s, &Schermo),
+      shpMirino(u"shpMirino"_s, &Schermo),
       shpImgRilevata(u"shpImgRilevata"_s, &Schermo),
       lblNomeImmagine(u"lblNomeImmagine"_s, &Schermo),
       c(console),
@@ -50,8 +52,13 @@ void frmCamera::disponi()
     Schermo.setCursor(Qt::CrossCursor);
     Schermo.setToolTip(u"Doppio click: chiusura e riavvio ricezione delle immagini."_s);
     Schermo.setAccessibleName(u"Immagine della videocamera"_s);
+    Schermo.setAccessibleDescription(
+        u"Frecce e barra spaziatrice: scelta di un'area. F5: riavvio della ricezione."_s);
+    Schermo.setFocusPolicy(Qt::StrongFocus);
 
     shpSelezione.setColori(QColor(255, 255, 255, 40), Qt::white);
+    shpMirino.setColori(Qt::transparent, Qt::white);
+    shpMirino.Size(latoMirino, latoMirino);
     shpImgRilevata.setColori(Qt::transparent, giallo);
     // The mouse goes through, as it does through the shapes.
     lblNomeImmagine.setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -79,6 +86,8 @@ void frmCamera::Disegno()
     shpSelezione.hide();
     shpImgRilevata.hide();
     lblNomeImmagine.hide();
+    lasciaMirino();
+    m_mirino = {};
 }
 
 void frmCamera::Load()
@@ -131,6 +140,7 @@ void frmCamera::Schermo_Resize()
 
 void frmCamera::Schermo_MouseDown(int, int, double X, double Y)
 {
+    lasciaMirino();
     if (!Numeri::Logico(Tag()) || frmNomeImmagine.Visible())
         return;
     shpSelezione.Move(X, Y);

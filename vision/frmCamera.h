@@ -34,6 +34,8 @@ public:
     Superficie Schermo;
     // Its Tag tells whether a finished selection waits for the next complete frame.
     FormaInPixel shpSelezione;
+    // Where the keyboard points; to be seen only while it is used.
+    FormaInPixel shpMirino;
     FormaInPixel shpImgRilevata;
     EtichettaInPixel lblNomeImmagine;
 
@@ -43,6 +45,9 @@ protected:
     void Activate() override;
     void Resize() override;
     void Unload(bool &Cancel) override;
+    // The arrows move shpMirino, a pixel of the frame at a time and ten with the control key; the
+    // space bar begins a selection there and ends it, Esc leaves it; F5 is the double click.
+    void keyPressEvent(QKeyEvent *evento) override;
 
 private:
     void disponi();
@@ -51,6 +56,11 @@ private:
     void Schermo_MouseMove(int Button, int Shift, double X, double Y);
     void Schermo_MouseUp();
     void Schermo_DblClick();
+
+    void muoviMirino(int colonne, int righe);
+    void mostraMirino();
+    void spazio();
+    void lasciaMirino();
 
     void AvviaRicezione();
     void SvuotaRicezione();
@@ -64,4 +74,7 @@ private:
     ::frmNomeImmagine &frmNomeImmagine;
     Fotogramma m_fotogramma;
     Acquisizione m_acquisizione;
+    // Where the keyboard points on Schermo, and whether it is drawing a selection.
+    QPoint m_mirino;
+    bool m_traccia = false;
 };

@@ -2,6 +2,7 @@
 
 #include "Aiuti.h"
 
+#include <QAccessible>
 #include <QPainter>
 
 namespace {
@@ -89,12 +90,16 @@ TEST_F(GraficaTest, an_image_for_the_keyboard_is_clicked_with_the_space_bar)
     ASSERT_TRUE(immagine.hasFocus());
     QTest::keyClick(&immagine, Qt::Key_Space);
     EXPECT_EQ(volte, 0) << "the focus alone does not make it one";
-    const QImage senza = immagine.grab().toImage();
     immagine.clearFocus();
+    immagine.move(20, 20);
+    const QImage senza = finestra.grab().toImage();
     immagine.conTastiera();
     QTest::keyClick(&finestra, Qt::Key_Tab);
     ASSERT_TRUE(immagine.hasFocus());
-    EXPECT_NE(immagine.grab().toImage(), senza) << "the focus can be seen";
+    EXPECT_NE(finestra.grab().toImage(), senza) << "the focus can be seen";
+    immagine.clearFocus();
+    EXPECT_EQ(finestra.grab().toImage(), senza);
+    immagine.setFocus();
     QTest::keyClick(&immagine, Qt::Key_Space);
     EXPECT_EQ(volte, 1);
     QTest::keyClick(&immagine, Qt::Key_A);
@@ -102,6 +107,66 @@ TEST_F(GraficaTest, an_image_for_the_keyboard_is_clicked_with_the_space_bar)
     QKeyEvent ripetuto(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, u" "_s, true);
     QApplication::sendEvent(&immagine, &ripetuto);
     EXPECT_EQ(volte, 1) << "a held key is one click";
+    QTest::keyClick(&immagine, Qt::Key_Return);
+    EXPECT_EQ(volte, 2);
+}
+
+TEST_F(GraficaTest, on_a_picture_with_a_mark_enter_is_the_windows)
+{
+    Pulsante predefinito(u"pulOK"_s, &finestra, u"OK"_s);
+    finestra.setPredefinito(&predefinito);
+    int confermata = 0;
+    predefinito.Click.collega([&] { ++confermata; });
+    Immagine immagine(u"imgCasella"_s, &finestra, &lista, 1);
+    int volte = 0;
+    immagine.Click.collega([&] { ++volte; });
+    immagine.conTastiera();
+    immagine.conSpunta(2);
+    finestra.mostraAttiva();
+    immagine.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&immagine, Qt::Key_Return);
+    EXPECT_EQ(volte, 0);
+    EXPECT_EQ(confermata, 1);
+    QTest::keyClick(&immagine, Qt::Key_Space);
+    EXPECT_EQ(volte, 1);
+}
+
+TEST_F(GraficaTest, a_picture_is_a_button_to_a_screen_reader_once_it_takes_a_click)
+{
+    Immagine immagine(u"img"_s, &finestra, &lista, 1);
+    Etichetta etichetta(u"lbl"_s, &finestra, u"STOP"_s);
+    QAccessibleInterface *disegno = QAccessible::queryAccessibleInterface(&immagine);
+    QAccessibleInterface *scritta = QAccessible::queryAccessibleInterface(&etichetta);
+    EXPECT_EQ(disegno->role(), QAccessible::Graphic);
+    EXPECT_EQ(scritta->role(), QAccessible::StaticText);
+    EXPECT_EQ(scritta->text(QAccessible::Name), u"STOP"_s);
+    QStringList visti;
+    immagine.MouseDown.collega(
+        [&](int pulsante, int, double, double) { visti << u"giù %1"_s.arg(pulsante); });
+    immagine.MouseUp.collega([&](int, int, double, double) { visti << u"su"_s; });
+    etichetta.Click.collega([&] { visti << u"click"_s; });
+    EXPECT_EQ(disegno->role(), QAccessible::PushButton);
+    EXPECT_EQ(scritta->role(), QAccessible::PushButton);
+    const QString premi = QAccessibleActionInterface::pressAction();
+    disegno->actionInterface()->doAction(premi);
+    scritta->actionInterface()->doAction(premi);
+    EXPECT_EQ(visti, (QStringList{u"giù 1"_s, u"su"_s, u"click"_s}));
+    etichetta.setEnabled(false);
+    scritta->actionInterface()->doAction(premi);
+    EXPECT_EQ(visti.size(), 3);
+}
+
+TEST_F(GraficaTest, a_mark_is_told_by_the_picture)
+{
+    Immagine immagine(u"imgCasella"_s, &finestra, &lista, 1);
+    immagine.Click.collega([&] { immagine.setPicture(3 - immagine.Picture()); });
+    immagine.conSpunta(2);
+    QAccessibleInterface *casella = QAccessible::queryAccessibleInterface(&immagine);
+    EXPECT_EQ(casella->role(), QAccessible::CheckBox);
+    EXPECT_TRUE(casella->state().checkable);
+    EXPECT_FALSE(casella->state().checked);
+    casella->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(casella->state().checked);
 }
 
 TEST_F(GraficaTest, a_label_raises_change_only_when_its_text_changes)

@@ -249,3 +249,27 @@ TEST_F(PulsantiTest, a_spin_bar_stops_at_its_limits)
     EXPECT_EQ(barra.Value(), -1);
     EXPECT_EQ(volte, 1);
 }
+
+TEST_F(PulsantiTest, the_arrow_keys_spin_from_the_box_beside)
+{
+    CasellaTesto testo(u"txtOre"_s, &finestra, u"5"_s);
+    SuGiu barra(u"SuGiuOre"_s, &finestra, 0, 23, 0);
+    barra.Change.collega([&] { testo.setText(QString::number(barra.Value())); });
+    testo.LostFocus.collega([&] {
+        if (!testo.Text().isEmpty())
+            barra.setValue(testo.Text().toInt());
+    });
+    barra.conFrecce(testo);
+    finestra.mostraAttiva();
+    testo.setFocus();
+    QTest::keyClick(&testo, Qt::Key_Up);
+    EXPECT_EQ(testo.Text(), u"6"_s) << "from the number that was typed";
+    QTest::keyClick(&testo, Qt::Key_Down);
+    QTest::keyClick(&testo, Qt::Key_Down);
+    EXPECT_EQ(barra.Value(), 4);
+    EXPECT_EQ(testo.Text(), u"4"_s);
+    EXPECT_TRUE(testo.hasFocus());
+    testo.clear();
+    QTest::keyClick(&testo, Qt::Key_Up);
+    EXPECT_EQ(testo.Text(), QString()) << "a box that stays empty has no number to start from";
+}

@@ -3,6 +3,7 @@
 
 #include "Attesa.h"
 #include "Modali.h"
+#include "Scritte.h"
 
 #include <QTest>
 #include <gtest/gtest.h>
@@ -49,6 +50,12 @@ protected:
                 testo += u',' + QString::number(
                                     coloreInArrivo(immagine.pixel(colonna - 1 + c, riga - 1 + r)));
         return testo;
+    }
+    void portaTasti()
+    {
+        camera.activateWindow();
+        ASSERT_TRUE(aspetta([this] { return camera.isActiveWindow(); }));
+        EXPECT_EQ(camera.focusWidget(), &Schermo);
     }
     void finisci()
     {
@@ -312,4 +319,72 @@ TEST_F(Selezione, ADisconnectionWhileADuplicateNameIsToldIsSurvived)
     EXPECT_FALSE(nome.Visible());
     EXPECT_FALSE(camera.Visible());
     EXPECT_EQ(banco.cartella.leggi(u"Immagini.dat"_s), "\"Palla\",1,1,5");
+}
+
+TEST_F(Selezione, TheKeyboardSelectsWhatTheMouseSelects)
+{
+    EXPECT_FALSE(camera.shpMirino.Visible());
+    portaTasti();
+    for (int i = 0; i < 3; ++i)
+        QTest::keyClick(&Schermo, Qt::Key_Left);
+    EXPECT_TRUE(camera.shpMirino.Visible());
+    const QPoint da = Schermo.rect().center() - QPoint(30, 0);
+    QTest::keyClick(&Schermo, Qt::Key_Space);
+    EXPECT_EQ(rettangolo(), QRectF(da, QSizeF(1, 1)));
+    for (int i = 0; i < 5; ++i)
+        QTest::keyClick(&Schermo, Qt::Key_Right);
+    QTest::keyClick(&Schermo, Qt::Key_Down, Qt::ControlModifier);
+    QTest::keyClick(&Schermo, Qt::Key_Up);
+    EXPECT_EQ(rettangolo(), QRectF(da, QSizeF(50, 90)));
+    EXPECT_EQ(shpSelezione.Tag(), u"0"_s);
+    QTest::keyClick(&Schermo, Qt::Key_Space);
+    EXPECT_FALSE(camera.shpMirino.Visible());
+    banco.manda(immagine);
+    finisci();
+    const QString conTasti = nome.Tag();
+    EXPECT_TRUE(conTasti.startsWith(u"5,9,"_s));
+    nome.Scarica();
+
+    trascina(da, da + QPoint(50, 90));
+    banco.manda(immagine);
+    finisci();
+    EXPECT_EQ(nome.Tag(), conTasti);
+}
+
+TEST_F(Selezione, EscLeavesTheOneThatTheKeyboardDraws)
+{
+    portaTasti();
+    QTest::keyClick(&Schermo, Qt::Key_Space);
+    QTest::keyClick(&Schermo, Qt::Key_Right);
+    EXPECT_TRUE(shpSelezione.Visible());
+    QTest::keyClick(&Schermo, Qt::Key_Escape);
+    EXPECT_FALSE(shpSelezione.Visible());
+    EXPECT_FALSE(camera.shpMirino.Visible());
+    banco.manda(immagine);
+    EXPECT_FALSE(nome.Visible());
+    QTest::keyClick(&Schermo, Qt::Key_Right);
+    EXPECT_FALSE(shpSelezione.Visible()) << "the arrows point and draw nothing";
+}
+
+TEST_F(Selezione, TheKeyboardPointsNowhereOutsideThePicture)
+{
+    portaTasti();
+    for (int i = 0; i < 20; ++i) {
+        QTest::keyClick(&Schermo, Qt::Key_Left, Qt::ControlModifier);
+        QTest::keyClick(&Schermo, Qt::Key_Up, Qt::ControlModifier);
+    }
+    QTest::keyClick(&Schermo, Qt::Key_Space);
+    EXPECT_EQ(rettangolo().topLeft(), QPointF(1, 1));
+}
+
+TEST_F(Selezione, F5RestartsTheVideoAndSelectsNothing)
+{
+    portaTasti();
+    banco.comandi();
+    QTest::keyClick(&Schermo, Qt::Key_F5);
+    const QByteArray comandi = banco.comandi();
+    EXPECT_TRUE(comandi.startsWith(b({12}))) << "FermaVideo";
+    EXPECT_TRUE(comandi.endsWith(b({10, 10, 128, 0, 11, 160, 0}))) << "AvviaVideo";
+    banco.manda(immagine);
+    EXPECT_FALSE(nome.Visible());
 }

@@ -1,0 +1,22 @@
+// Every text of every window stands out from its ground.
+#include "Contrasto.h"
+
+#include "TutteLeFinestre.h"
+
+#include <gmock/gmock.h>
+
+TEST(ContrastoFinestre, EveryTextStandsOutFromItsGround)
+{
+    TutteLeFinestre tutte;
+    tutte.perOgnuna([](Finestra &finestra, const QString &) {
+        EXPECT_THAT(pocoLeggibili(finestra), testing::IsEmpty());
+    });
+}
+
+TEST(ContrastoFinestre, WhatIsPrintedOnTheVideoSurfaceStandsOut)
+{
+    TutteLeFinestre tutte;
+    const QPalette tavolozza = tutte.visione.camera.Schermo.palette();
+    EXPECT_GE(contrasto(tavolozza.color(QPalette::WindowText), tavolozza.color(QPalette::Window)),
+              4.5);
+}

@@ -1,0 +1,69 @@
+// The same of the simulated robot's window.
+#include "Contrasto.h"
+#include "FinestraSimulatore.h"
+#include "Simulatore.h"
+#include "Stanza.h"
+#include "Tastiera.h"
+
+#include <QTest>
+#include <gmock/gmock.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct TastieraSimulatore : testing::Test
+{
+    TastieraSimulatore() { finestra.show(); }
+    void SetUp() override { portaAvanti(finestra); }
+
+    Simulatore sim;
+    FinestraSimulatore finestra{sim};
+};
+
+} // namespace
+
+TEST_F(TastieraSimulatore, WhateverTakesAClickIsReachedByTheKeyboard)
+{
+    EXPECT_THAT(irraggiungibili(finestra), testing::IsEmpty());
+    QStringList nomi;
+    for (const QWidget *controllo : giroDiTab(finestra))
+        nomi << controllo->objectName();
+    EXPECT_TRUE(nomi.contains(u"quadroStanza"_s));
+    EXPECT_TRUE(nomi.contains(u"pulStacca"_s));
+}
+
+TEST_F(TastieraSimulatore, TheTabKeyFollowsTheReader)
+{
+    EXPECT_THAT(fuoriOrdine(finestra), testing::IsEmpty());
+}
+
+TEST_F(TastieraSimulatore, EveryTextStandsOutFromItsGround)
+{
+    EXPECT_THAT(pocoLeggibili(finestra), testing::IsEmpty());
+}
+
+TEST_F(TastieraSimulatore, TheArrowsMoveTheRobotAndWhatTheSpaceBarChooses)
+{
+    auto *stanza = finestra.findChild<QWidget *>(u"quadroStanza"_s);
+    stanza->setFocus(Qt::TabFocusReason);
+    const QPointF robot(sim.robot().stato().x, sim.robot().stato().y);
+    QTest::keyClick(stanza, Qt::Key_Right);
+    QTest::keyClick(stanza, Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(QPointF(sim.robot().stato().x, sim.robot().stato().y), robot + QPointF(10, 1));
+
+    const QPointF cosa = sim.robot().stanza().cose().at(0).centro;
+    const QImage senzaCosa = stanza->grab().toImage();
+    QTest::keyClick(stanza, Qt::Key_Space);
+    EXPECT_NE(stanza->grab().toImage(), senzaCosa) << "what is chosen can be seen";
+    QTest::keyClick(stanza, Qt::Key_Left);
+    QTest::keyClick(stanza, Qt::Key_Up);
+    EXPECT_EQ(sim.robot().stanza().cose().at(0).centro, cosa - QPointF(10, 10));
+    EXPECT_EQ(QPointF(sim.robot().stato().x, sim.robot().stato().y), robot + QPointF(10, 1));
+
+    // Round to the robot.
+    for (qsizetype i = 0; i < sim.robot().stanza().cose().size(); ++i)
+        QTest::keyClick(stanza, Qt::Key_Space);
+    QTest::keyClick(stanza, Qt::Key_Left);
+    EXPECT_EQ(QPointF(sim.robot().stato().x, sim.robot().stato().y), robot + QPointF(0, 1));
+}

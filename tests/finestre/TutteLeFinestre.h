@@ -1,0 +1,41 @@
+// All windows of the program, tied together as far as they need it to be shown.
+#pragma once
+
+#include "Banco.h"
+#include "BancoVisione.h"
+#include "VigilioVicino.h"
+#include "frmEsploraFile.h"
+#include "frmProcessor.h"
+
+class TutteLeFinestre
+{
+public:
+    // The console is on the screen, connected to a robot that answers.
+    TutteLeFinestre();
+
+    // Does something with each window while it is shown with what it can show, once in each of its
+    // states: window, and the state's name.
+    void perOgnuna(const std::function<void(Finestra &, const QString &)> &fai);
+    // The same with the console alone.
+    void perLaConsole(const std::function<void(Finestra &, const QString &)> &fai);
+
+    BancoSuPortaFinta visione;
+    frmPrincipale &principale = visione.console;
+    frmEsploraFile esplora{principale.COM, principale.BarraStato};
+    OrologioFermo orologio;
+    ConsoleFinta console{principale.COM};
+    frmEditor editor{console, orologio, visione.cartella.percorso()};
+
+private:
+    class Collegamento : public ConsoleVigilio
+    {
+    public:
+        bool PortOpen() override { return true; }
+        void Collega() override {}
+    };
+
+    Collegamento m_collegamento;
+
+public:
+    frmProcessor processor{m_collegamento, editor, orologio, visione.cartella.percorso()};
+};
