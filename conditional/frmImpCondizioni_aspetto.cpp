@@ -44,7 +44,8 @@ void frmImpCondizioni::disponi()
     lblSpiegazione.setWordWrap(true);
     lblSpiegazione.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     // Two lines, so that a long name moves nothing.
-    lblSpiegazione.setMinimumHeight(2 * lblSpiegazione.fontMetrics().lineSpacing());
+    constexpr int respiro = 4; // a wrapped text takes a little more than its lines
+    lblSpiegazione.setMinimumHeight(2 * lblSpiegazione.fontMetrics().lineSpacing() + respiro);
     setPredefinito(&pulOK);
     setAnnulla(&pulAnnulla);
     disponiPannelli();

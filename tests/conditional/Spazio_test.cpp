@@ -39,9 +39,11 @@ struct CondizioniInMostra : BancoImpCondizioni
             {&dialogo.fraSample3, CampoTemperatura, CampoTemperatura},
             {&dialogo.fraSample4, CampoLogica, CampoMotori}};
         for (const auto &[esempio, primo, ultimo] : esempi) {
-            Cornice &sotto = dialogo.frame(ultimo);
+            Cornice &ultimoPannello = dialogo.frame(ultimo);
             EXPECT_EQ(cima(*esempio), cima(dialogo.frame(primo))) << primo;
-            EXPECT_EQ(cima(*esempio) + esempio->height(), cima(sotto) + sotto.height()) << ultimo;
+            EXPECT_EQ(cima(*esempio) + esempio->height(),
+                      cima(ultimoPannello) + ultimoPannello.height())
+                << ultimo;
             for (const QWidget *disegno : esempio->findChildren<QWidget *>())
                 EXPECT_TRUE(esempio->rect().contains(disegno->geometry())) << primo;
         }
