@@ -20,3 +20,12 @@ function(prova name)
         gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
     endif()
 endfunction()
+
+# ingrandite(name): the looks of a test program's windows once more on finer screens.
+function(ingrandite name)
+    foreach(scala IN ITEMS 1.5 2)
+        add_test(NAME ${name}.Spazio.${scala} COMMAND ${name} --gtest_filter=Spazio.*)
+        set_tests_properties(${name}.Spazio.${scala}
+            PROPERTIES ENVIRONMENT QT_SCALE_FACTOR=${scala} TIMEOUT 300)
+    endforeach()
+endfunction()

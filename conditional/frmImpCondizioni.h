@@ -84,6 +84,7 @@ private:
     void disponiPannelli();
     void disponiOrario();
     void disponiEsempi();
+    void disponiAccanto();
     void ordineTasti();
     void collegaEventi();
 

@@ -44,7 +44,8 @@ void frmImpCondizioni::disponi()
     lblSpiegazione.setWordWrap(true);
     lblSpiegazione.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     // Two lines, so that a long name moves nothing.
-    lblSpiegazione.setMinimumHeight(2 * lblSpiegazione.fontMetrics().lineSpacing());
+    constexpr int respiro = 4; // a wrapped text takes a little more than its lines
+    lblSpiegazione.setMinimumHeight(2 * lblSpiegazione.fontMetrics().lineSpacing() + respiro);
     setPredefinito(&pulOK);
     setAnnulla(&pulAnnulla);
     disponiPannelli();
@@ -142,15 +143,10 @@ void frmImpCondizioni::disponiOrario()
     }
 }
 
-// Beside the panels of the same number; the last one is for both batteries.
 void frmImpCondizioni::disponiEsempi()
 {
-    picOptions.setMinimumWidth(larghezzaEsempi);
-    auto *colonna = new QVBoxLayout(&picOptions);
-    colonna->setContentsMargins({});
-    colonna->setSpacing(distanza);
-    const auto aggiungi = [&](Cornice &esempio, int altezza,
-                              std::initializer_list<Immagine *> quali) {
+    int larghezza = larghezzaEsempi;
+    const auto aggiungi = [&](Cornice &esempio, std::initializer_list<Immagine *> quali) {
         auto *pila = new QVBoxLayout;
         pila->setSpacing(10);
         pila->addStretch();
@@ -160,17 +156,27 @@ void frmImpCondizioni::disponiEsempi()
         auto *riga = new QHBoxLayout(&esempio);
         riga->setContentsMargins(esempio.titolo().right() + distanza, 0, distanza, 0);
         riga->addLayout(pila);
-        esempio.setFixedHeight(altezza);
-        colonna->addWidget(&esempio);
+        larghezza = qMax(larghezza, riga->minimumSize().width());
     };
-    const auto altezza = [this](int pannello) {
-        return frame(pannello).minimumSizeHint().expandedTo(frame(pannello).minimumSize()).height();
+    aggiungi(fraSample2, {disegno(fraSample2, u"sensori", {75, 45})});
+    aggiungi(fraSample3, {disegno(fraSample3, u"termometro", {24, 24})});
+    aggiungi(fraSample4, {disegno(fraSample4, u"batteria_logica", {56, 24}),
+                          disegno(fraSample4, u"batteria_motori", {56, 24})});
+    picOptions.setMinimumWidth(larghezza);
+    picOptions.Resize.collega(this, &frmImpCondizioni::disponiAccanto);
+}
+
+// Beside the panels of the same number, as high as these; the last one is for both batteries.
+void frmImpCondizioni::disponiAccanto()
+{
+    const auto metti = [this](Cornice &esempio, int primo, int ultimo) {
+        const int cima = frame(primo).y() - picOptions.y();
+        const int fondo = frame(ultimo).geometry().bottom() + 1 - picOptions.y();
+        esempio.setGeometry(0, cima, picOptions.width(), fondo - cima);
     };
-    aggiungi(fraSample2, altezza(CampoUltrasuoni), {disegno(fraSample2, u"sensori", {75, 45})});
-    aggiungi(fraSample3, altezza(CampoTemperatura), {disegno(fraSample3, u"termometro", {24, 24})});
-    aggiungi(fraSample4, altezza(CampoLogica) + distanza + altezza(CampoMotori),
-             {disegno(fraSample4, u"batteria_logica", {56, 24}),
-              disegno(fraSample4, u"batteria_motori", {56, 24})});
+    metti(fraSample2, CampoUltrasuoni, CampoUltrasuoni);
+    metti(fraSample3, CampoTemperatura, CampoTemperatura);
+    metti(fraSample4, CampoLogica, CampoMotori);
 }
 
 void frmImpCondizioni::ordineTasti()

@@ -238,8 +238,8 @@ void frmPrincipale::disponiAttrezzi()
     metti(Label3, 296, 180, 100, 18);
     for (Etichetta *etichetta : {&Label4, &Label5})
         etichetta->setAlignment(Qt::AlignCenter);
-    metti(Label4, 297, 198, 49, 18);
-    metti(Label5, 346, 198, 49, 18);
+    metti(Label4, 298, 198, 50, 18);
+    metti(Label5, 348, 198, 46, 18);
     metti(imgToolSx, 302, 220, 40, 40);
     metti(imgToolDx, 350, 220, 40, 40);
     for (Immagine *tool : {&imgToolSx, &imgToolDx}) {
@@ -328,7 +328,7 @@ void frmPrincipale::disponiTelemetria()
     segno(shpUltrasuoniDx, 510, 290, u"Ostacolo a destra"_s);
 
     const auto batteria = [](Etichetta &nome, Immagine &contorno, Forma &livello, int y) {
-        metti(nome, 548, y, 62, 20);
+        metti(nome, 542, y, 78, 20);
         metti(contorno, 626, y - 2, 56, 24);
         metti(livello, 630, y + 3, 41, 14);
         livello.setColori(QColor(0x43, 0xA0, 0x47), Qt::transparent, 0, 0);
@@ -338,7 +338,7 @@ void frmPrincipale::disponiTelemetria()
     };
     batteria(Label7, imgBattLogica, imgLivBattLogica, 272);
     batteria(Label8, imgBattMotori, imgLivBattMotori, 302);
-    metti(Label10, 548, 332, 78, 20);
+    metti(Label10, 542, 332, 80, 20);
     metti(imgTermometro, 626, 330, 24, 24);
     metti(lblTemperatura, 652, 332, 36, 20);
     imgTermometro.setAccessibleName(u"Termometro"_s);

@@ -2,8 +2,6 @@
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
-#include <QPainter>
-#include <QStyle>
 #include <QToolTip>
 
 using namespace Qt::StringLiterals;
@@ -62,12 +60,4 @@ bool RigheDiNomi::helpEvent(QHelpEvent *evento, QAbstractItemView *lista,
     QToolTip::showText(evento->globalPos(), intero ? QString() : suggerimento(nome),
                        lista->viewport(), opzione.rect);
     return true;
-}
-
-void EtichettaDiNome::paintEvent(QPaintEvent *)
-{
-    QPainter pittore(this);
-    const QString testo = fontMetrics().elidedText(text(), Qt::ElideRight, width());
-    style()->drawItemText(&pittore, rect(), static_cast<int>(alignment()), palette(), isEnabled(),
-                          testo, foregroundRole());
 }

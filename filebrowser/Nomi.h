@@ -2,8 +2,6 @@
 // full as a tool tip.
 #pragma once
 
-#include "Grafica.h"
-
 #include <QIcon>
 #include <QStyledItemDelegate>
 
@@ -29,15 +27,4 @@ protected:
 
 private:
     QIcon m_disegno;
-};
-
-class EtichettaDiNome : public Etichetta
-{
-    Q_OBJECT
-
-public:
-    using Etichetta::Etichetta;
-
-protected:
-    void paintEvent(QPaintEvent *evento) override;
 };

@@ -6,6 +6,7 @@
 #include "ControlloSeriale.h"
 #include "Disegni.h"
 #include "ElencoCrescente.h"
+#include "EtichettaAbbreviata.h"
 #include "Finestra.h"
 #include "Nomi.h"
 
@@ -29,7 +30,7 @@ public:
     ElencoCrescente lstFile{u"lstFile"_s, this};
     Immagine imgAttesa{u"imgAttesa"_s, this, &lstImgAttesa};
     Pulsante pulHome{u"pulHome"_s, this, {}};
-    EtichettaDiNome lblNomeFoto{u"lblNomeFoto"_s, this};
+    EtichettaAbbreviata lblNomeFoto{u"lblNomeFoto"_s, this};
     Immagine imgFoto{u"imgFoto"_s, this};
 
     // AscoltatoreFile.

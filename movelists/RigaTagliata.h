@@ -1,4 +1,4 @@
-// How a list shows its lines: a very long one only as far as anybody can see.
+// How a list shows its lines: with some room, and a very long one only as far as anybody can see.
 #pragma once
 
 #include <QStyledItemDelegate>
@@ -14,6 +14,13 @@ public:
         return QStyledItemDelegate::displayText(valore.toString().left(massimo), lingua);
     }
 
+    // Room to be read, and to be hit.
+    QSize sizeHint(const QStyleOptionViewItem &opzione, const QModelIndex &indice) const override
+    {
+        return QStyledItemDelegate::sizeHint(opzione, indice) + QSize(0, respiro);
+    }
+
 private:
+    static constexpr int respiro = 4; // logical pixels
     static constexpr qsizetype massimo = 1000;
 };

@@ -3,6 +3,7 @@
 
 #include "Disegni.h"
 #include "Elenco.h"
+#include "EtichettaAbbreviata.h"
 #include "FinestraFile.h"
 #include "Grafica.h"
 #include "Temporizzatore.h"
@@ -64,7 +65,7 @@ public:
     VoceMenu mnuInsRipeti{u"mnuInsRipeti"_s, mnuIns, u"Ripeti comandi..."_s};
     VoceMenu mnuInsCondizione{u"mnuInsCondizione"_s, mnuIns, u"Condizione di avvio"_s};
 
-    Etichetta lblFile{u"lblFile"_s, this};
+    EtichettaAbbreviata lblFile{u"lblFile"_s, this};
     // The document. Its Tag tells whether there is nothing to save.
     Elenco lstMosse{u"lstMosse"_s, this};
     Immagine pulSu{u"pulSu"_s, this, &imgPulsanti, 3};

@@ -58,7 +58,12 @@ void frmEditor::disponi()
     colonna->addLayout(corpo, 1);
     colonna->addWidget(&opzInsComandi);
     colonna->addWidget(&pulEsegui);
-    resize(330, 520);
+    // The longer of its two texts, its box and the room around them.
+    constexpr int casella = 44;
+    opzInsComandi.setMinimumWidth(
+        fontMetrics().horizontalAdvance(u"Inserisci comandi nella lista (Disattivato)"_s) +
+        casella);
+    resize(qMax(330, minimumSizeHint().width()), 520);
 }
 
 void frmEditor::disponiPulsanti(QBoxLayout *colonna)

@@ -50,7 +50,14 @@ void frmValore::disponi()
     colonna->addStretch();
     colonna->addLayout(pulsanti);
     // Wide enough for the longest phrase and for the longest title.
-    cbInfo.setMinimumWidth(360);
+    constexpr int freccia = 44; // logical pixels, with the margins around the text
+    int larghezza = 360;
+    for (const QString &nome : {u"Frase"_s, u"Suono"_s, u"Ripeti"_s}) {
+        const auto modo = Modi::cerca(nome);
+        for (const QString &voce : modo->voci)
+            larghezza = qMax(larghezza, fontMetrics().horizontalAdvance(voce) + freccia);
+    }
+    cbInfo.setMinimumWidth(larghezza);
     txtValore.setFixedHeight(cbInfo.sizeHint().height());
     resize(minimumSizeHint());
 }

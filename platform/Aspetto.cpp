@@ -1,10 +1,10 @@
 #include "Aspetto.h"
 
+#include "Stile.h"
+
 #include <QApplication>
 #include <QPalette>
 #include <QToolTip>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -43,7 +43,7 @@ constexpr Colore colori[] = {
 
 void impostaAspetto()
 {
-    QApplication::setStyle(u"Fusion"_s);
+    QApplication::setStyle(new Stile);
     QPalette tavolozza;
     for (const Colore &colore : colori) {
         tavolozza.setColor(QPalette::Active, colore.ruolo, QColor(colore.attivo));

@@ -1,10 +1,14 @@
 #include "FinestraFile.h"
 
+#include "DisegniDeiFile.h"
 #include "Errore.h"
 #include "Finestra.h"
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QHeaderView>
+#include <QSplitter>
+#include <QTreeView>
 
 using namespace Qt::StringLiterals;
 
@@ -15,6 +19,21 @@ static QStringList filtriQt(const QString &filtro)
     for (qsizetype i = 0; i + 1 < parti.size(); i += 2)
         filtri += u"%1 (%2)"_s.arg(parti[i], QString(parti[i + 1]).replace(u';', u' '));
     return filtri;
+}
+
+// Each column as wide as what stands in it, and the names have the rest.
+static void disponi(QFileDialog &dialogo)
+{
+    if (auto *tabella = dialogo.findChild<QTreeView *>(u"treeView"_s)) {
+        QHeaderView *testata = tabella->header();
+        testata->setStretchLastSection(false);
+        testata->setSectionResizeMode(QHeaderView::ResizeToContents);
+        testata->setSectionResizeMode(0, QHeaderView::Stretch);
+    }
+    const int lettera = dialogo.fontMetrics().averageCharWidth();
+    dialogo.resize(dialogo.sizeHint().expandedTo({105 * lettera, 60 * lettera}));
+    if (auto *divisore = dialogo.findChild<QSplitter *>(u"splitter"_s))
+        divisore->setSizes({20 * lettera, dialogo.width()});
 }
 
 FinestraFile::FinestraFile(const QString &nome, QWidget *finestra) : QObject(finestra)
@@ -36,6 +55,7 @@ void FinestraFile::mostra(QFileDialog::AcceptMode modo)
 {
     const bool apre = modo == QFileDialog::AcceptOpen;
     QWidget *sopra = QApplication::activeWindow();
+    DisegniDeiFile disegni;
     QFileDialog dialogo(sopra ? sopra : Finestra::Ultima());
     // The system's own dialog speaks the system's language.
     dialogo.setOption(QFileDialog::DontUseNativeDialog);
@@ -44,6 +64,8 @@ void FinestraFile::mostra(QFileDialog::AcceptMode modo)
     dialogo.setFileMode(apre ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialogo.setWindowTitle(apre ? u"Apri"_s : u"Salva con nome"_s);
     dialogo.setNameFilters(filtriQt(m_filtro));
+    dialogo.setIconProvider(&disegni);
+    disponi(dialogo);
     if (!m_file.isEmpty()) {
         dialogo.setDirectory(QFileInfo(m_file).path());
         dialogo.selectFile(m_file);

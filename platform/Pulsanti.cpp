@@ -56,6 +56,8 @@ void CasellaSpunta::setForeColor(const QColor &colore, const QColor &fondo)
     // The style sheet puts the palette back.
     QPalette tavolozza = palette();
     tavolozza.setColor(QPalette::WindowText, colore);
+    // The mark, too: it is drawn on the ground, in a colour that the style darkens by so much.
+    tavolozza.setColor(QPalette::Text, colore.lighter(120));
     setPalette(tavolozza);
 }
 

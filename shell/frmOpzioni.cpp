@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 frmOpzioni::frmOpzioni()
     : Finestra(u"frmOpzioni"_s, u"Opzioni"_s),
       opzCollegaAut(u"opzCollegaAut"_s, this, u"Collega automaticamente ad Tessaro all'avvio"_s),
-      Frame1(u"Porta COM"_s, this),
+      Frame1(u"Frame1"_s, this, u"Porta COM"_s),
       lblSpiegazioneCOM(u"lblSpiegazioneCOM"_s, &Frame1,
                         u"Il numero di porta utilizzato per connettersi"_s),
       lblAttenzionePorta(u"lblAttenzionePorta"_s, &Frame1,
@@ -35,7 +35,6 @@ frmOpzioni::frmOpzioni()
 
 void frmOpzioni::disponi()
 {
-    Frame1.setObjectName(u"Frame1"_s);
     txtPorta.setAccessibleName(u"Numero della porta COM"_s);
     txtPorta.setFixedWidth(48);
     txtPorta.setAlignment(Qt::AlignRight);
@@ -46,6 +45,8 @@ void frmOpzioni::disponi()
     setAnnulla(&pulAnnulla);
 
     auto *porta = new QGridLayout(&Frame1);
+    constexpr int bordo = 12;
+    porta->setContentsMargins(bordo, Frame1.titolo().bottom() + bordo, bordo, bordo);
     porta->setHorizontalSpacing(0);
     porta->addWidget(&txtPorta, 0, 0);
     porta->addWidget(&SuGiu, 0, 1);

@@ -1,11 +1,10 @@
 // The program's two settings: the port number, and whether to connect at the start.
 #pragma once
 
+#include "Cornice.h"
 #include "Finestra.h"
 #include "Grafica.h"
 #include "NumeroPorta.h"
-
-#include <QGroupBox>
 
 class frmOpzioni : public Finestra
 {
@@ -15,7 +14,7 @@ public:
     frmOpzioni();
 
     CasellaSpunta opzCollegaAut;
-    QGroupBox Frame1;
+    Cornice Frame1;
     Etichetta lblSpiegazioneCOM;
     Etichetta lblAttenzionePorta;
     CasellaTesto txtPorta;

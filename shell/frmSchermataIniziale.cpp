@@ -34,7 +34,7 @@ frmSchermataIniziale::frmSchermataIniziale()
 void frmSchermataIniziale::disponi()
 {
     setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
-    setFixedSize(520, 300);
+    setFixedSize(560, 300);
     // Boxes of the start stand over this window: its place must be known before the system tells
     // it.
     move(screen()->availableGeometry().center() - rect().center());
@@ -50,7 +50,6 @@ void frmSchermataIniziale::disponi()
     grande(Label1, 11, false);
     imgLogo.setFixedSize(128, 128);
     imgAttesa.setFixedSize(48, 48);
-    lblCompanyProduct.setWordWrap(true);
     Label1.setWordWrap(true);
     lblColl.setMinimumHeight(20);
 

@@ -9,6 +9,7 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <cmath>
 
@@ -113,7 +114,10 @@ FinestraSimulatore::FinestraSimulatore(Simulatore &simulatore, QWidget *parent)
     connect(stanza, &QuadroStanza::spostato, telecamera, &PannelloTelecamera::invecchia);
     connect(&robot, &Robot::cambiato, this, &FinestraSimulatore::mostra);
     mostra();
-    resize(1120, 800);
+    // All of it on a small screen, too, with room for its frame.
+    constexpr QSize misura(1120, 800);
+    constexpr QSize cornici(8, 60);
+    resize(misura.boundedTo(screen()->availableSize() - cornici));
 }
 
 // One line of what cannot be seen in the pictures.

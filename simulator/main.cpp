@@ -1,5 +1,6 @@
 // tessaro-sim: the simulated robot, with a window or without.
 #include "Aspetto.h"
+#include "Disegni.h"
 #include "FinestraSimulatore.h"
 #include "Opzioni.h"
 #include "Segnali.h"
@@ -65,6 +66,7 @@ int main(int argc, char **argv)
     } else {
         app = std::make_unique<QApplication>(argc, argv);
         impostaAspetto();
+        QApplication::setWindowIcon(Disegni::icona(u"tessaro-sim"));
         // Qt's own dialogs speak Italian where its translations are installed.
         if (italiano.load(u"qtbase_it"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
             QCoreApplication::installTranslator(&italiano);

@@ -1,11 +1,13 @@
 """The screen as its user meets it: windows and controls found as a screen reader finds them (AT-SPI),
 keys and clicks made by the X server (xdotool), pictures (import)."""
 
+import os
 import subprocess
 import time
 
 import pyatspi
 
+SCALA = float(os.environ.get("SCALA", "1"))
 BARRA_TITOLO, CORNICE = 19, 1  # pixels around a window, for its picture
 PAZIENZA = 60.0  # seconds that a condition may take before the day is given up
 
@@ -42,6 +44,13 @@ def xdotool(*argomenti):
                           stdout=subprocess.PIPE).stdout.strip()
 
 
+def area_di(oggetto):
+    """Where it stands on the screen: left, top, width, height in pixels."""
+    area = oggetto.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+    # The program tells its own, magnified pixels.
+    return [round(lato * SCALA) for lato in (area.x, area.y, area.width, area.height)]
+
+
 class Schermo:
     def __init__(self, programma, diario, cartella_foto):
         self.programma = programma
@@ -53,11 +62,17 @@ class Schermo:
 
     def applicazione(self):
         # Asked anew each time: what is known of it goes stale when its windows come and go.
+        # The last of that name: one that has just ended may still be listed before it.
+        trovata = None
         for app in pyatspi.Registry.getDesktop(0):
-            if app is not None and app.name == self.programma:
-                app.clear_cache()
-                return app
-        return None
+            try:
+                if app is not None and app.name == self.programma:
+                    trovata = app
+            except Exception:  # GLib's error: that one is gone
+                continue
+        if trovata:
+            trovata.clear_cache()
+        return trovata
 
     def finestra(self, titolo):
         """The shown window whose title begins so."""
@@ -90,8 +105,8 @@ class Schermo:
 
     def vai(self, controllo, dx=0.5, dy=0.5):
         """Moves the pointer over a control, to a part of its width and height."""
-        area = controllo.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-        xdotool("mousemove", area.x + int(area.width * dx), area.y + int(area.height * dy))
+        x, y, larghezza, altezza = area_di(controllo)
+        xdotool("mousemove", x + int(larghezza * dx), y + int(altezza * dy))
 
     def clic(self, controllo, dx=0.5, dy=0.5, volte=1):
         self.vai(controllo, dx, dy)
@@ -103,7 +118,9 @@ class Schermo:
 
     def menu(self, titolo, *voci):
         """Takes an entry of a menu, through its submenus."""
-        for voce in voci:
+        for passo, voce in enumerate(voci):
+            if passo:
+                self.foto("menu")
             self.clic(self.controllo(titolo, "menu item", voce))
 
     def tieni(self, tasto, fatto, intanto=None):
@@ -130,6 +147,7 @@ class Schermo:
         """Answers a file dialog with a name."""
         attendi(f"dialog {titolo!r}", lambda: self.finestra(titolo))
         self.in_primo_piano(titolo)
+        self.foto("dialogo")
         self.tasti("ctrl+a")
         self.scrivi(nome)
         self.tasti("Return")
@@ -146,13 +164,13 @@ class Schermo:
                           [self.finestra(f) if isinstance(f, str) else f for f in finestre])
 
     def ritaglia(self, intera, nome, finestre):
-        aree = [f.queryComponent().getExtents(pyatspi.DESKTOP_COORDS) for f in finestre]
+        aree = [area_di(f) for f in finestre]
         senza_cornice = finestre[0].name == self.programma
         lato, sopra = (0, 0) if senza_cornice else (CORNICE, BARRA_TITOLO)
-        sinistra = min(a.x for a in aree) - lato
-        alto = min(a.y for a in aree) - sopra
-        larghezza = max(a.x + a.width for a in aree) + lato - sinistra
-        altezza = max(a.y + a.height for a in aree) + lato - alto
+        sinistra = min(x for x, _, _, _ in aree) - lato
+        alto = min(y for _, y, _, _ in aree) - sopra
+        larghezza = max(x + w for x, _, w, _ in aree) + lato - sinistra
+        altezza = max(y + h for _, y, _, h in aree) + lato - alto
         subprocess.run(["convert", intera, "-crop", f"{larghezza}x{altezza}+{sinistra}+{alto}",
                         "+repage", f"{self.cartella_foto}/manuale/{nome}.png"], check=True)
 

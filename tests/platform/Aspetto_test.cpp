@@ -1,10 +1,13 @@
 // One look on every desktop.
 #include "Aspetto.h"
 #include "Contrasto.h"
+#include "Disegni.h"
 
 #include <QApplication>
 #include <QLineEdit>
 #include <QPalette>
+#include <QProxyStyle>
+#include <QPushButton>
 #include <QStyle>
 #include <QToolTip>
 #include <gmock/gmock.h>
@@ -35,7 +38,9 @@ TEST(Aspetto, a_dark_desktops_colours_do_not_come_in)
     EXPECT_EQ(QApplication::palette(), nostra);
     EXPECT_EQ(QToolTip::palette(), nostra);
     EXPECT_EQ(QLineEdit().palette().color(QPalette::Base), QColor(Qt::white));
-    EXPECT_EQ(QApplication::style()->name(), u"fusion"_s);
+    const auto *stile = qobject_cast<const QProxyStyle *>(QApplication::style());
+    ASSERT_TRUE(stile);
+    EXPECT_EQ(stile->baseStyle()->name(), u"fusion"_s);
 }
 
 TEST(Aspetto, no_colour_is_left_to_the_desktop)
@@ -49,6 +54,44 @@ TEST(Aspetto, no_colour_is_left_to_the_desktop)
             }
         }
     }
+}
+
+TEST(Aspetto, the_pictures_of_boxes_and_dialogs_are_sharp_and_ours)
+{
+    const QStyle &stile = *QApplication::style();
+    const std::pair<QStyle::StandardPixmap, QString> casi[] = {
+        {QStyle::SP_MessageBoxInformation, u"messaggio_informazione"_s},
+        {QStyle::SP_MessageBoxQuestion, u"messaggio_domanda"_s},
+        {QStyle::SP_MessageBoxCritical, u"messaggio_stop"_s},
+        {QStyle::SP_MessageBoxWarning, u"messaggio_attenzione"_s},
+        {QStyle::SP_ArrowBack, u"dialogo_indietro"_s},
+        {QStyle::SP_ArrowForward, u"dialogo_avanti"_s},
+        {QStyle::SP_FileDialogToParent, u"dialogo_su"_s},
+        {QStyle::SP_FileDialogNewFolder, u"dialogo_cartella_nuova"_s},
+        {QStyle::SP_FileDialogListView, u"dialogo_elenco"_s},
+        {QStyle::SP_FileDialogDetailedView, u"dialogo_dettagli"_s},
+        {QStyle::SP_DirIcon, u"cartella"_s},
+        {QStyle::SP_FileIcon, u"documento"_s},
+        {QStyle::SP_ComputerIcon, u"computer"_s},
+    };
+    for (const auto &[quale, nome] : casi) {
+        const QIcon icona = stile.standardIcon(quale);
+        const QSize naturale = Disegni::icona(nome).availableSizes().constFirst();
+        for (const int scala : {1, 2, 3}) {
+            const QImage resa = icona.pixmap(naturale, scala).toImage();
+            EXPECT_EQ(resa, Disegni::icona(nome).pixmap(naturale, scala).toImage())
+                << nome.toStdString();
+            EXPECT_EQ(resa.size(), naturale * scala) << nome.toStdString();
+        }
+    }
+    EXPECT_EQ(stile.styleHint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons), 0);
+}
+
+TEST(Aspetto, a_long_text_has_room_at_the_sides_of_its_button)
+{
+    const QPushButton pulsante(u"Un testo assai lungo per un pulsante"_s);
+    EXPECT_GE(pulsante.sizeHint().width(),
+              pulsante.fontMetrics().horizontalAdvance(pulsante.text()) + 24);
 }
 
 TEST(Aspetto, every_text_stands_out_from_its_ground)

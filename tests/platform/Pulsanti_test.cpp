@@ -2,6 +2,7 @@
 
 #include "Aiuti.h"
 #include "CasellaTesto.h"
+#include "Contrasto.h"
 
 #include <QToolButton>
 
@@ -272,4 +273,27 @@ TEST_F(PulsantiTest, the_arrow_keys_spin_from_the_box_beside)
     testo.clear();
     QTest::keyClick(&testo, Qt::Key_Up);
     EXPECT_EQ(testo.Text(), QString()) << "a box that stays empty has no number to start from";
+}
+
+TEST_F(PulsantiTest, the_mark_of_a_check_box_stands_out_from_the_ground_that_it_was_given)
+{
+    CasellaSpunta casella(u"opz"_s, &finestra, u"Attivato"_s);
+    const QColor fondo(0x1B, 0x2A, 0x20);
+    casella.setForeColor(QColor(0, 0xC0, 0), fondo);
+    finestra.show();
+    casella.show();
+    casella.resize(casella.sizeHint());
+    // Of all that is painted left of the text.
+    const auto massimo = [&] {
+        const QImage immagine = casella.grab(QRect(4, 4, 20, casella.height() - 8)).toImage();
+        double trovato = 1;
+        for (int y = 0; y < immagine.height(); ++y)
+            for (int x = 0; x < immagine.width(); ++x)
+                trovato = std::max(trovato, contrasto(immagine.pixelColor(x, y), fondo));
+        return trovato;
+    };
+    const double vuota = massimo();
+    casella.setValue(1);
+    EXPECT_GE(massimo(), 4.5);
+    EXPECT_LT(vuota, massimo());
 }

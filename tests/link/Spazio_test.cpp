@@ -1,0 +1,18 @@
+// The port's question has room for its texts with every desktop's font.
+#include "Ritaglio.h"
+#include "Scritte.h"
+#include "frmImpostaPorta.h"
+
+#include <gmock/gmock.h>
+
+using namespace Qt::StringLiterals;
+
+TEST(Spazio, ThePortsQuestionHasIt)
+{
+    for (const double punti : caratteriUsuali) {
+        const ConCarattere carattere(punti);
+        frmImpostaPorta finestra;
+        finestra.Mostra();
+        EXPECT_THAT(guarda(finestra, u"porta"_s), testing::IsEmpty()) << punti;
+    }
+}
