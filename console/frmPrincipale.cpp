@@ -254,9 +254,11 @@ void frmPrincipale::apri(Finestra *finestra)
 {
     if (!finestra)
         return;
-    finestra->Mostra();
-    // Where it is open already, nothing else happens to it.
-    finestra->raise();
+    // To a window that is open already nothing else happens.
+    if (finestra->Visible())
+        finestra->raise();
+    else
+        finestra->Mostra();
 }
 
 void frmPrincipale::sceltaModo(CasellaOpzione &scelta)
