@@ -44,7 +44,7 @@ FASI = [
     ("robot's storage fails", ["--stato-apertura", "7"], True),
     ("reading fails", ["--stato-lettura", "9"], True),
     ("wrong lengths", ["--delta-lunghezza", "3"], True),
-    ("flood", ["--alluvione"], True),
+    ("flood", ["--alluvione", "--baud", "9600"], True),
     ("real speed", ["--baud", "9600"], False),
 ]
 
@@ -55,8 +55,9 @@ CRESCITA_RESIDENTE = 128 * 1024  # bytes a round: the allocator's own pools fill
 
 
 class Prova:
-    def __init__(self, casa, out, minuti, seme, pagina=0):
+    def __init__(self, casa, out, minuti, seme, pagina=0, fasi=""):
         self.pagina = pagina
+        self.fasi = [f for f in FASI if not fasi or f[0] in fasi.split(",")]
         self.casa, self.out, self.minuti, self.seme = casa, out, minuti, seme
         self.registro = open(os.path.join(out, "registro.txt"), "w", encoding="utf-8", buffering=1)
         self.inizio = time.monotonic()
@@ -241,7 +242,7 @@ class Prova:
                 u.vigila(salvate[0], gradi, vera)
         if self.caso.random() < 0.7:
             u.camera()
-        if self.caso.random() < 0.7 and nome != "flood":
+        if self.caso.random() < 0.7:
             u.sfoglia(self.caso.random() < 0.8)
         if self.caso.random() < 0.5:
             u.modifica()
@@ -424,9 +425,9 @@ class Prova:
         while time.monotonic() < fine or numero == 0:
             numero += 1
             if not mazzo:
-                mazzo = FASI[1:]
+                mazzo = self.fasi[1:]
                 self.caso.shuffle(mazzo)
-                mazzo.insert(0, FASI[0])
+                mazzo.insert(0, self.fasi[0])
             fase = mazzo.pop(0)
             try:
                 self.giro(numero, fase)
@@ -483,7 +484,7 @@ class Prova:
         righe += ["", f"seed                      {self.seme}",
                   f"duration                  {minuti:.1f} min",
                   f"rounds                    {len(self.fasi_fatte)}",
-                  f"phases                    {len(set(self.fasi_fatte))} of {len(FASI)}",
+                  f"phases                    {len(set(self.fasi_fatte))} of {len(self.fasi)}",
                   f"the user's deeds          {self.u.azioni}",
                   f"commands, bytes to robot  {self.comandi}, {self.byte}",
                   f"message boxes             {sum(avvisi.values())}",
@@ -511,14 +512,16 @@ def principale():
     # The page costs memory itself: for the search of a growth that was found.
     lettore.add_argument("--pagina", type=int, default=0, help="each so many rounds the sanitizers' "
                          "log tells who holds the memory")
+    lettore.add_argument("--fasi", default="", help="only these phases, with commas")
     o = lettore.parse_args()
-    prova = Prova(o.casa, o.out, o.minuti, o.seme, o.pagina)
+    prova = Prova(o.casa, o.out, o.minuti, o.seme, o.pagina, o.fasi)
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit("stopped from outside"))
     prova.dettagli(f"seed {o.seme}")
     print(f"seed {o.seme}", flush=True)
     try:
         prova.svolgi()
         prova.finisci()
-    except Exception as errore:  # whatever it is, the table is told
+    except (Exception, SystemExit) as errore:  # whatever it is, the table is told
         prova.guaio(f"{type(errore).__name__} {errore}")
         prova.dettagli(traceback.format_exc())
         if prova.u.processo and prova.u.processo.poll() is None:

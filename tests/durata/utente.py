@@ -115,7 +115,7 @@ class Utente(Schermo):
 
     def stesso_riquadro(self, testo):
         r = self.riquadro()
-        return r is not None and self.testo_riquadro(r) == testo
+        return r is not None and testo in self.testo_riquadro(r)
 
     def entro_senza_avvisi(self, secondi, condizione):
         fine = time.monotonic() + secondi
@@ -134,8 +134,11 @@ class Utente(Schermo):
                 premuto = self.premi_nel_riquadro(riquadro, risposte)
                 self.avvisi.append(testo)
                 self.dettagli(f"  box [{testo}] -> {premuto}")
-                if not self.entro_senza_avvisi(20, lambda: not self.stesso_riquadro(testo)):
-                    raise Guaio(f"the box stays: {testo}")
+                # A click on a box that the window manager is just placing falls beside it.
+                while not self.entro_senza_avvisi(5, lambda: not self.stesso_riquadro(testo)):
+                    if time.monotonic() > fine:
+                        raise Guaio(f"the box stays: {testo}")
+                    self.prova(lambda: self.premi_nel_riquadro(self.riquadro(), risposte))
                 return
             if self.processo.poll() is not None:
                 raise Guaio(f"the program has ended: {self.processo.returncode}")
