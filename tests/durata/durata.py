@@ -18,7 +18,7 @@ import time
 import traceback
 
 import memoria
-from lavori import SALVARE_LISTA, Lavori
+from lavori import NON_COLLEGATO, Lavori
 from linea import Ascolto, ByteSbagliato
 from schermo import mostrato
 from utente import CONSOLE, RISORSE, SEQUOR, Guaio
@@ -329,8 +329,13 @@ class Prova:
             u.posti.pop(CONSOLE, None)
         if self.caso.random() < 0.5:
             # The port is not there: the program says so, says it is connected, then gives up.
+            # Its polls, too, say that there is no robot.
+            u.avvisi_ammessi = (NON_COLLEGATO,)
             self.collega_invano(SENZA_PORTA)
-            self.aspetta_la_rinuncia()
+            u.attendi("given up", lambda: "Disconnesso" in u.etichette(CONSOLE) and
+                      not u.riquadro() and u.stato() == "Non connesso", 240)
+            u.posti.pop(CONSOLE, None)
+            u.avvisi_ammessi = ()
         u.giudica_lista("the return of the port")
         self.riattacca(numero)
 
