@@ -22,7 +22,7 @@ static void *rispondi(void *senza)
     char domanda;
     while (domande >= 0 && read(domande, &domanda, 1) == 1) {
         if (domanda == 'p' && __sanitizer_print_memory_profile)
-            __sanitizer_print_memory_profile(95, 40);
+            __sanitizer_print_memory_profile(100, 1000);
         dprintf(risposte, "%zu\n",
                 __sanitizer_get_current_allocated_bytes
                     ? __sanitizer_get_current_allocated_bytes()
