@@ -37,10 +37,9 @@ void frmEditor::collegaGestori()
         [this](int Button, int, double, double) { lstMosse_MouseMove(Button); });
 
     pulCanc.Click.collega(this, &frmEditor::pulCanc_Click);
+    // The second half of a double click is a Click of its own.
     pulSu.Click.collega(this, &frmEditor::pulSu_Click);
-    pulSu.DblClick.collega(this, &frmEditor::pulSu_Click);
     pulGiu.Click.collega(this, &frmEditor::pulGiu_Click);
-    pulGiu.DblClick.collega(this, &frmEditor::pulGiu_Click);
     pulPausa.Click.collega([this] {
         pulPausa.setPicture(2);
         inserisciValore(u"Pausa"_s);
