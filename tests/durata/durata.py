@@ -26,7 +26,7 @@ from utente import CONSOLE, Guaio
 
 # Growth that is still none: what is in use varies by some rows of a list and by what the
 # accessibility bus keeps of the windows that it has met; a leak of one small box each round is more.
-CRESCITA_IN_USO = 4 * 1024  # bytes a round, median
+CRESCITA_IN_USO = 16 * 1024  # bytes a round, median
 CRESCITA_RESIDENTE = 128 * 1024  # bytes a round: the allocator's own pools fill up slowly
 
 

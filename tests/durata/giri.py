@@ -310,7 +310,8 @@ class Giri:
             gia = u.ascolto.quanti(27)
             return not u.entro(1.5, lambda: u.ascolto.quanti(27) > gia)
 
-        u.attendi("the silence", tace)
+        # On a busy machine it may be over before one looks.
+        u.attendi("the silence", lambda: u.ascolto.silenzio > 10000 or tace())
         u.modifica()
         # The keep-alive may give up in this time or find the robot again.
         torna = u.ascolto.quanti(27)

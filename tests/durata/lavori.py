@@ -6,7 +6,7 @@ import pyatspi
 from linea import comandi_della_lista, comandi_della_riga, durata_della_lista
 from lista import Lista
 from schermo import raccogli, xdotool
-from utente import CONSOLE, SEQUOR, Guaio, Utente
+from utente import CONSOLE, PAZIENZA, SEQUOR, Guaio, Utente
 
 SALVARE_LISTA = ("Vuoi salvare la lista?", "Vuoi salvare le ultime modifiche?")
 NON_COLLEGATO = "Non sono collegato al robot"
@@ -155,7 +155,7 @@ class Lavori(Utente):
 
     def giudica_lista(self, dopo):
         """The editor's rows are the model's."""
-        if not self.entro(30, lambda: self.righe() == self.lista.righe):
+        if not self.entro(PAZIENZA, lambda: self.righe() == self.lista.righe):
             raise Guaio(f"list after {dopo}: {self.prova(self.righe)}, must be {self.lista.righe}")
 
     def apri_sequor(self):
