@@ -23,8 +23,8 @@ class Finestre(Lavori):
         self.dice(f"runner: {nome} at {gradi} degrees, {'starts' if vera else 'waits'}")
         self.menu(VIGILIO, "Opzioni", "Deseleziona le liste una volta eseguite")
         self.attendi("the list's row", lambda: self.riga_vigilio(nome))
-        self.clic(self.riga_vigilio(nome), dx=0.3, volte=2)
-        self.attendi(CONDIZIONE, lambda: self.finestra(CONDIZIONE))
+        self.doppio_clic(lambda: self.riga_vigilio(nome), 0.3, CONDIZIONE,
+                         lambda: self.finestra(CONDIZIONE))
         self.in_primo_piano(CONDIZIONE)
         trovate = []
         raccogli(self.finestra(CONDIZIONE), "combo box", None, trovate)
@@ -107,7 +107,8 @@ class Finestre(Lavori):
         if riga and preleva:
             self.scorda_la_foto()
             self.attese.append(self.giudicabile((40, 1, len(FOTO), *FOTO.encode())))
-            self.clic(riga, dx=0.05, volte=2)
+            self.doppio_clic(lambda: riga, 0.05, "the fetch", lambda: len(
+                self.ascolto.azioni()) >= len(self.attese))
             self.attendi_comandi("the fetch")
             if self.sporca:
                 self.entro(5, lambda: os.path.exists(presa))
