@@ -104,6 +104,10 @@ class Finestre(Lavori):
         riga = self.entro(20 if not self.sporca else 4, voce)
         if not riga and not self.sporca:
             raise Guaio("the listing did not come")
+        if not self.sporca:
+            # Who fetches sooner leaves the listing's channel open.
+            self.attendi("the listing's end", lambda: (41,) in [
+                c[:1] for c in self.ascolto.scelti(RICHIESTE, SESSIONE)[gia:]])
         if riga and preleva:
             self.scorda_la_foto()
             self.attese.append(self.giudicabile((40, 1, len(FOTO), *FOTO.encode())))
