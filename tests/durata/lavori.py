@@ -1,16 +1,14 @@
-"""What the user of the soak does in a round, each deed judged at once."""
+"""What the user of the soak does by hand and with a list, each deed judged at once."""
 
-import hashlib
 import os
 
+import pyatspi
 from linea import comandi_della_lista, comandi_della_riga, durata_della_lista
 from lista import Lista
 from schermo import raccogli, xdotool
-from utente import (CAMERA, CONDIZIONE, CONSOLE, OPZIONI, RISORSE, SEQUOR, VIGILIO, Guaio, Utente)
+from utente import CONSOLE, PAZIENZA, SEQUOR, Guaio, Utente
 
 SALVARE_LISTA = ("Vuoi salvare la lista?", "Vuoi salvare le ultime modifiche?")
-SALVARE_PROGETTO = ("Vuoi salvare le impostazioni delle liste?",
-                    "Vuoi salvare le ultime modifiche?")
 NON_COLLEGATO = "Non sono collegato al robot"
 
 # A control of the console, the mouse button, the list line that says the same.
@@ -157,7 +155,7 @@ class Lavori(Utente):
 
     def giudica_lista(self, dopo):
         """The editor's rows are the model's."""
-        if not self.entro(30, lambda: self.righe() == self.lista.righe):
+        if not self.entro(PAZIENZA, lambda: self.righe() == self.lista.righe):
             raise Guaio(f"list after {dopo}: {self.prova(self.righe)}, must be {self.lista.righe}")
 
     def apri_sequor(self):
@@ -191,6 +189,11 @@ class Lavori(Utente):
                 scelte += [self.scegli, self.togli, self.sposta, self.dal_tasto]
         self.caso.choice(scelte)()
         self.giudica_lista("that")
+
+    def almeno_una_riga(self):
+        if not self.lista.righe:
+            self.dal_menu()
+            self.giudica_lista("a line")
 
     def dalla_console(self):
         nome, bottone, riga = self.caso.choice(CONSOLE_CLIC)
@@ -356,120 +359,9 @@ class Lavori(Utente):
 
     def scelta_vera(self):
         elenco = self.controllo(SEQUOR, "list")
-        import pyatspi
         for i in range(elenco.childCount):
             riga = elenco.getChildAtIndex(i)
             riga.clear_cache()
             if riga.getState().contains(pyatspi.STATE_SELECTED):
                 return i
         return -1
-
-    # The runner.
-
-    def vigila(self, nome, gradi, vera):
-        """A condition on the temperature for a saved list: it starts by itself where the robot has
-        that temperature, and does not where it has another."""
-        self.apri("Accedi al Vigilio", VIGILIO)
-        self.dice(f"runner: {nome} at {gradi} degrees, {'starts' if vera else 'waits'}")
-        self.menu(VIGILIO, "Opzioni", "Deseleziona le liste una volta eseguite")
-        self.attendi("the list's row", lambda: self.riga_vigilio(nome))
-        self.clic(self.riga_vigilio(nome), dx=0.3, volte=2)
-        self.attendi(CONDIZIONE, lambda: self.finestra(CONDIZIONE))
-        self.in_primo_piano(CONDIZIONE)
-        trovate = []
-        raccogli(self.finestra(CONDIZIONE), "combo box", None, trovate)
-        casella = next(c for c in trovate if c.name == "25")
-        self.clic(casella)
-        self.controllo(CONDIZIONE, "list item", str(gradi))
-        self.scrivi(str(gradi))
-        self.tasti("Return")
-        self.premi(CONDIZIONE, "OK")
-        self.attendi("the dialog gone", lambda: not self.finestra(CONDIZIONE))
-        righe = self.su_disco[nome].decode("cp1252").split("\r\n")[1:-1]
-        if vera:
-            self.attese += comandi_della_lista(righe)
-        self.davanti(VIGILIO)
-        self.premi(VIGILIO, "AVVIA")
-        if vera:
-            self.attendi_comandi("the list that starts by itself",
-                                 PAZIENZA_COMANDO + 3 * durata_della_lista(righe))
-            # The last line has its wait, too.
-            self.attendi("the run's end", lambda: self.bottone(SEQUOR, "ESEGUI"))
-            self.attendi("nothing left to wait for", lambda: self.bottone(VIGILIO, "AVVIA"))
-            self.lista.caricata(nome, righe)
-            self.lista.scelta = len(righe) - 1
-            self.giudica_lista("the runner's run")
-        else:
-            self.controllo(VIGILIO, "push button", "STOP")
-            self.sincronizza()
-            self.davanti(VIGILIO)
-            self.premi(VIGILIO, "STOP")
-            self.controllo(VIGILIO, "push button", "AVVIA")
-        self.giudica_comandi()
-        self.chiudi(VIGILIO, "Vuoi salvare le impostazioni delle liste?")
-
-    def riga_vigilio(self, nome):
-        trovate = []
-        for ruolo in ("list item", "check box"):
-            raccogli(self.finestra(VIGILIO), ruolo, None, trovate)
-        return next((r for r in trovate if r.name.startswith(nome)), None)
-
-    # The other windows.
-
-    def opzioni(self):
-        self.apri("Accedi alle opzioni", OPZIONI)
-        bottone = self.caso.choice(["OK", "Annulla"])
-        self.dice(f"options: {bottone}")
-        self.premi(OPZIONI, bottone)
-        self.attendi("the options gone", lambda: not self.finestra(OPZIONI))
-        with open(self.percorso("Porta COM"), "rb") as file:
-            if file.read() != b"1\r\n":
-                raise Guaio("the port's file is spoilt")
-
-    def camera(self):
-        self.dice("camera")
-        self.attese += [(10, 10, 128, 0), (11, 160, 0)]
-        self.apri("Accedi alla visione della Videocamera di Tessaro", CAMERA)
-        self.attendi_comandi("video")
-        self.sincronizza()
-        self.attese.append((12,))
-        self.chiudi(CAMERA)
-        self.attendi_comandi("video off")
-        self.sincronizza()
-
-    def sfoglia(self, preleva):
-        """Lists the robot's storage; fetches a photo. True where the photo came."""
-        self.dice(f"storage{', fetch' if preleva else ''}")
-        self.attese.append((40, 16, 0))
-        self.apri("Esplora i file all'interno di Tessaro", RISORSE)
-        self.attendi_comandi("the listing")
-        presa = self.percorso("salotto.jpg")
-        esito = False
-
-        def voce():
-            trovati = []
-            raccogli(self.finestra(RISORSE), "list item", "salotto.jpg", trovati)
-            return trovati[0] if trovati else None
-
-        riga = self.entro(20 if not self.sporca else 4, voce)
-        if not riga and not self.sporca:
-            raise Guaio("the listing did not come")
-        if riga and preleva:
-            if os.path.exists(presa):
-                os.remove(presa)
-            nome = b"salotto.jpg"
-            self.attese.append(self.giudicabile((40, 1, len(nome), *nome)))
-            self.clic(riga, dx=0.05, volte=2)
-            self.attendi_comandi("the fetch")
-            vera = impronta(os.path.join(self.memoria, "disk", "salotto.jpg"))
-            esito = bool(self.entro(5 if self.sporca else 30, lambda: os.path.exists(presa) and (
-                self.sporca or impronta(presa) == vera)))
-        self.davanti(RISORSE)
-        self.tasti("alt+F4")
-        self.attendi("the file window gone", lambda: not self.finestra(RISORSE))
-        return esito
-
-
-def impronta(percorso):
-    with open(percorso, "rb") as file:
-        return hashlib.sha256(file.read()).hexdigest()

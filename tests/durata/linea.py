@@ -87,6 +87,8 @@ class Ascolto:
         self.coda = b""
         self.comandi = []
         self.byte = 0
+        self.ultimo = None
+        self.silenzio = 0  # ms, the longest that nothing came from the program
 
     def aggiorna(self):
         try:
@@ -100,6 +102,10 @@ class Ascolto:
         for riga in nuovo.splitlines():
             parti = riga.split()
             if len(parti) > 2 and parti[1] == b">":
+                ora = int(parti[0])
+                self.silenzio = max(self.silenzio, ora - (ora if self.ultimo is None
+                                                          else self.ultimo))
+                self.ultimo = ora
                 self.coda += bytes(map(int, parti[2:]))
                 self.byte += len(parti) - 2
         while self.coda:

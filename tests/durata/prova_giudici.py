@@ -52,6 +52,10 @@ class Linea(unittest.TestCase):
         self.assertEqual(ascolto.coda, b"\x13")
         self.assertEqual(ascolto.byte, 11)
 
+    def test_the_longest_silence_of_the_program_is_known(self):
+        ascolto = self.ascolta("5 > 27 70\n20000 < 31 24\n", "305 > 27 70\n", "20700 > 27 70\n")
+        self.assertEqual(ascolto.silenzio, 20395)
+
     def test_a_lost_byte_is_seen(self):
         with self.assertRaises(ByteSbagliato):
             self.ascolta("0 > 19 65 27 70\n")

@@ -224,6 +224,14 @@ class Utente(Schermo):
         self.attendi(f"{titolo!r} gone", lambda: not self.finestra(titolo))
         self.avvisi_ammessi = prima
 
+    def doppio_clic(self, controllo, dx, cosa, fatto):
+        """Until it has done its work: on a busy machine the two halves may come too far apart."""
+        for _ in range(4):
+            self.clic(controllo(), dx=dx, volte=2)
+            if self.entro(25, fatto):
+                return
+        raise Guaio(f"a double click did nothing: {cosa}")
+
     def file(self, titolo, nome):
         self.attendi(f"dialog {titolo!r}", lambda: self.finestra(titolo))
         self.in_primo_piano(titolo)
