@@ -64,7 +64,9 @@ class Schermo:
         # Asked anew each time: what is known of it goes stale when its windows come and go.
         # The last of that name: one that has just ended may still be listed before it.
         trovata = None
-        for app in pyatspi.Registry.getDesktop(0):
+        desktop = pyatspi.Registry.getDesktop(0)
+        desktop.clear_cache()
+        for app in desktop:
             try:
                 if app is not None and app.name == self.programma:
                     trovata = app
