@@ -13,3 +13,8 @@ QString programmaDiProva(const CartellaDiProva &cartella, const QString &nome)
         QFile::copy(QCoreApplication::applicationDirPath() + u"/" PROGRAMMA_DI_PROVA ""_s, copia));
     return copia;
 }
+
+bool programmaFinito(const CartellaDiProva &cartella)
+{
+    return QFile(cartella.percorso(u"esito.txt"_s)).open(QIODevice::ReadOnly);
+}

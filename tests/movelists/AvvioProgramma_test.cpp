@@ -60,7 +60,7 @@ TEST(AvvioProgramma, AProgramWithABlankInItsPathIsStarted)
 {
     const CartellaDiProva cartella;
     ASSERT_TRUE(avviaProgramma(programmaDiProva(cartella, u"il mio programma.exe"_s)));
-    EXPECT_TRUE(aspetta([&] { return cartella.contiene(u"esito.txt"_s); }));
+    EXPECT_TRUE(aspetta([&] { return programmaFinito(cartella); }));
     EXPECT_EQ(cartella.leggi(u"esito.txt"_s), "");
 }
 
@@ -69,6 +69,6 @@ TEST(AvvioProgramma, ArgumentsReachTheProgramUntouchedByAShell)
     const CartellaDiProva cartella;
     const QString programma = programmaDiProva(cartella, u"prova.exe"_s);
     ASSERT_TRUE(avviaProgramma(programma + u" \"a b\" $HOME ; * `ls` | x"_s));
-    EXPECT_TRUE(aspetta([&] { return cartella.contiene(u"esito.txt"_s); }));
+    EXPECT_TRUE(aspetta([&] { return programmaFinito(cartella); }));
     EXPECT_EQ(cartella.leggi(u"esito.txt"_s), "a b\n$HOME\n;\n*\n`ls`\n|\nx\n");
 }

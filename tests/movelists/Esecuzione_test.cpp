@@ -229,7 +229,7 @@ TEST_F(EsecuzioneTest, AProgramIsStartedAndNotWaitedFor)
     EXPECT_FALSE(cartella.contiene(u"esito.txt"_s));
     // Now it may go on.
     QFile::remove(u"attendi"_s);
-    EXPECT_TRUE(aspetta([this] { return cartella.contiene(u"esito.txt"_s); }));
+    EXPECT_TRUE(aspetta([this] { return programmaFinito(cartella); }));
 }
 
 TEST_F(EsecuzioneTest, AProgramThatCannotBeStartedSaysNothing)
