@@ -7,5 +7,6 @@
 // "attendi" in the current folder, and then writes its arguments, one a line, into "esito.txt".
 QString programmaDiProva(const CartellaDiProva &cartella, const QString &nome);
 
-// Whether "esito.txt" is there and can be read: on Windows a file that is just being renamed cannot.
+// Whether "esito.txt" is there and can be read: on Windows a file that is just being renamed
+// cannot.
 bool programmaFinito(const CartellaDiProva &cartella);
