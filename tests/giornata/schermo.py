@@ -62,19 +62,11 @@ class Schermo:
 
     def applicazione(self):
         # Asked anew each time: what is known of it goes stale when its windows come and go.
-        # The last of that name: one that has just ended may still be listed before it.
-        trovata = None
-        desktop = pyatspi.Registry.getDesktop(0)
-        desktop.clear_cache()
-        for app in desktop:
-            try:
-                if app is not None and app.name == self.programma:
-                    trovata = app
-            except Exception:  # GLib's error: that one is gone
-                continue
-        if trovata:
-            trovata.clear_cache()
-        return trovata
+        for app in pyatspi.Registry.getDesktop(0):
+            if app is not None and app.name == self.programma:
+                app.clear_cache()
+                return app
+        return None
 
     def finestra(self, titolo):
         """The shown window whose title begins so."""
