@@ -81,9 +81,10 @@ void frmPrincipale::componiMenuMovimenti()
     QList<std::pair<VoceMenu *, CasellaOpzione *>> modi;
     for (const auto &[testo, opzione] : {std::pair{u"Controlla la &base"_s, &opzBase},
                                          {u"Controlla le b&raccia"_s, &opzBraccia},
-                                         {u"Controlla la &testa"_s, &opzTesta}})
-        modi.append(
-            {&voce(modo, testo, *opzione, [opzione] { opzione->setValue(true); }), opzione});
+                                         {u"Controlla la &testa"_s, &opzTesta}}) {
+        CasellaOpzione *quale = opzione;
+        modi.append({&voce(modo, testo, *quale, [quale] { quale->setValue(true); }), quale});
+    }
     connect(modo, &QMenu::aboutToShow, this, [modi] {
         for (const auto &[scelta, opzione] : modi)
             scelta->setChecked(opzione->Value());

@@ -29,7 +29,7 @@ QString trovaCartellaProgramma(const QString &accanto, const QString &utente)
     // The administrator may write beside an installed program, too, but nothing of his belongs
     // there.
     const bool installato = QFileInfo::exists(installati);
-    const QString cartella = !installato && scrivibile(accanto) ? accanto : utente;
+    QString cartella = !installato && scrivibile(accanto) ? accanto : utente;
     QDir().mkpath(cartella);
     portaEsempi(installato ? installati : conSeparatore(accanto) + u"liste"_s, cartella);
     return cartella;
