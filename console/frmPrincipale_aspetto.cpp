@@ -115,10 +115,10 @@ void frmPrincipale::disponiMovimenti()
     metti(cbStepO, 212, 124, 72, 26);
     metti(Image1, 184, 88, 24, 24);
     metti(Image2, 184, 124, 24, 24);
-    for (const QString &voce : {u"piano"_s, u"veloce"_s})
-        cbVelocità.AddItem(voce);
-    for (const QString &voce : {u"½"_s, u"¼"_s, u"~"_s})
-        cbModGiro.AddItem(voce);
+    for (const QString &testo : {u"piano"_s, u"veloce"_s})
+        cbVelocità.AddItem(testo);
+    for (const QString &testo : {u"½"_s, u"¼"_s, u"~"_s})
+        cbModGiro.AddItem(testo);
     suggerimento(cbVelocità, u"Velocità"_s);
     suggerimento(cbModGiro, u"Tipo di rotazione su sé stesso"_s);
     cbModGiro.lineEdit()->setAccessibleName(cbModGiro.accessibleName());
