@@ -21,8 +21,8 @@ import memoria
 from finestre import Finestre
 from giri import FASI, Giri
 from linea import ByteSbagliato
-from schermo import mostrato
-from utente import CONSOLE, Guaio
+from schermo import CONSOLE, mostrato
+from utente import Guaio
 
 # Growth that is still none, bytes a round, the median of the slopes over the second half. In use:
 # what the boxes and the accessibility bus hold at the end of a round is some ten kB more or less from

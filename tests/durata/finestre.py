@@ -6,8 +6,8 @@ import os
 
 from lavori import PAZIENZA_COMANDO, Lavori
 from linea import RICHIESTE, SESSIONE, comandi_della_lista, durata_della_lista
-from schermo import raccogli
-from utente import CAMERA, CONDIZIONE, CONSOLE, OPZIONI, RISORSE, SEQUOR, VIGILIO, Guaio
+from schermo import CAMERA, CONDIZIONE, CONSOLE, OPZIONI, RISORSE, SEQUOR, VIGILIO, raccogli
+from utente import Guaio
 
 SALVARE_PROGETTO = "Vuoi salvare le impostazioni delle liste?"
 FOTO = "salotto.jpg"
@@ -26,13 +26,7 @@ class Finestre(Lavori):
         self.doppio_clic(lambda: self.riga_vigilio(nome), 0.3, CONDIZIONE,
                          lambda: self.finestra(CONDIZIONE))
         self.in_primo_piano(CONDIZIONE)
-        trovate = []
-        raccogli(self.finestra(CONDIZIONE), "combo box", None, trovate)
-        casella = next(c for c in trovate if c.name == "25")
-        self.clic(casella)
-        self.controllo(CONDIZIONE, "list item", str(gradi))
-        self.scrivi(str(gradi))
-        self.tasti("Return")
+        self.scegli_gradi(gradi)
         self.premi(CONDIZIONE, "OK")
         self.attendi("the dialog gone", lambda: not self.finestra(CONDIZIONE))
         righe = self.su_disco[nome].decode("cp1252").split("\r\n")[1:-1]

@@ -7,7 +7,8 @@ import subprocess
 
 from linea import Ascolto, comandi_della_lista
 from lavori import NON_COLLEGATO
-from utente import CONSOLE, SEQUOR, Guaio
+from schermo import CONSOLE, SEQUOR
+from utente import Guaio
 
 NON_RIUSCITO = "Collegamento non riuscito!"
 SENZA_PORTA = "La porta non esiste"

@@ -5,8 +5,8 @@ import os
 import pyatspi
 from linea import comandi_della_lista, comandi_della_riga, durata_della_lista
 from lista import Lista
-from schermo import raccogli, xdotool
-from utente import CONSOLE, PAZIENZA, SEQUOR, Guaio, Utente
+from schermo import CONSOLE, SEQUOR, raccogli, xdotool
+from utente import PAZIENZA, Guaio, Utente
 
 SALVARE_LISTA = ("Vuoi salvare la lista?", "Vuoi salvare le ultime modifiche?")
 NON_COLLEGATO = "Non sono collegato al robot"

@@ -6,16 +6,8 @@ import time
 
 import pyatspi
 
-from schermo import Schermo, mostrato, raccogli, xdotool
+from schermo import CONSOLE, Schermo, mostrato, raccogli, xdotool
 
-SPLASH = "Lumbra"
-CONSOLE = "Lumbra Tessaro"
-OPZIONI = "Opzioni"
-SEQUOR = "Sequor"
-VIGILIO = "Vigilio"
-CONDIZIONE = "Imposta condizione di avvio"
-CAMERA = "Videocamera"
-RISORSE = "Esplora Risorse"
 PAZIENZA = 90.0
 
 

@@ -10,16 +10,9 @@ import os
 import subprocess
 import sys
 
-from schermo import Schermo, attendi, raccogli, xdotool
+from schermo import (CAMERA, CONDIZIONE, CONSOLE, OPZIONI, RISORSE, SEQUOR, SPLASH, VIGILIO,
+                     Schermo, attendi, raccogli, xdotool)
 
-SPLASH = "Lumbra"
-CONSOLE = "Lumbra Tessaro"
-OPZIONI = "Opzioni"
-SEQUOR = "Sequor"
-VIGILIO = "Vigilio"
-CONDIZIONE = "Imposta condizione di avvio"
-CAMERA = "Videocamera"
-RISORSE = "Esplora Risorse"
 NOME = "Dai un nome all'immagine"
 
 programma, cartella, diario, foto = sys.argv[1:]
@@ -151,7 +144,7 @@ def vigila():
     s.clic(riga, dx=0.3, volte=2)
     attendi(CONDIZIONE, lambda: s.finestra(CONDIZIONE))
     s.in_primo_piano(CONDIZIONE)
-    gradi(24)
+    s.scegli_gradi(24)
     s.foto("condizione", CONDIZIONE)
     s.premi(CONDIZIONE, "OK")
     attendi("the dialog gone", lambda: not s.finestra(CONDIZIONE))
@@ -170,17 +163,6 @@ def vigila():
     davanti(VIGILIO)
     s.tasti("alt+F4")
     attendi("the runner gone", lambda: not s.finestra(VIGILIO))
-
-
-def gradi(quanti):
-    """Chooses in the one combo box that holds degrees."""
-    trovate = []
-    raccogli(s.finestra(CONDIZIONE), "combo box", None, trovate)
-    temperatura = next(casella for casella in trovate if casella.name == "25")
-    s.clic(temperatura)
-    s.controllo(CONDIZIONE, "list item", str(quanti))
-    s.scrivi(str(quanti))
-    s.tasti("Return")
 
 
 def guarda():

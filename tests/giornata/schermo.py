@@ -8,6 +8,16 @@ import time
 import pyatspi
 
 SCALA = float(os.environ.get("SCALA", "1"))
+# The titles of the program's windows.
+SPLASH = "Lumbra"
+CONSOLE = "Lumbra Tessaro"
+OPZIONI = "Opzioni"
+SEQUOR = "Sequor"
+VIGILIO = "Vigilio"
+CONDIZIONE = "Imposta condizione di avvio"
+CAMERA = "Videocamera"
+RISORSE = "Esplora Risorse"
+
 BARRA_TITOLO, CORNICE = 19, 1  # pixels around a window, for its picture
 PAZIENZA = 60.0  # seconds that a condition may take before the day is given up
 
@@ -146,6 +156,15 @@ class Schermo:
         self.scrivi(nome)
         self.tasti("Return")
         attendi(f"dialog {titolo!r} gone", lambda: not self.finestra(titolo))
+
+    def scegli_gradi(self, quanti):
+        """Chooses in the one combo box of the condition dialog that holds degrees."""
+        trovate = []
+        raccogli(self.finestra(CONDIZIONE), "combo box", None, trovate)
+        self.clic(next(casella for casella in trovate if casella.name == "25"))
+        self.controllo(CONDIZIONE, "list item", str(quanti))
+        self.scrivi(str(quanti))
+        self.tasti("Return")
 
     def foto(self, nome, *finestre):
         """A picture of the screen, and one of these windows (or titles), their frames included,

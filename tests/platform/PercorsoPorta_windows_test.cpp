@@ -20,14 +20,3 @@ TEST(PortaAsio, what_is_no_serial_line_cannot_be_opened)
         EXPECT_FALSE(porta.aperta());
     }
 }
-
-TEST(PortaAsio, closed_it_reads_nothing_and_closing_again_does_no_harm)
-{
-    PortaAsio porta;
-    porta.chiudi();
-    EXPECT_EQ(porta.leggi(10), "");
-    EXPECT_EQ(erroreDi([&] { porta.scrivi("x"); }), Errore::LineaPersa);
-    porta.sorveglia(true);
-    porta.chiudi();
-    EXPECT_FALSE(porta.aperta());
-}

@@ -222,17 +222,6 @@ TEST(PortaAsio, reading_takes_no_more_than_it_is_asked_for)
     EXPECT_EQ(porta.leggi(100), "");
 }
 
-TEST(PortaAsio, closed_it_reads_nothing_and_closing_again_does_no_harm)
-{
-    PortaAsio porta;
-    porta.chiudi();
-    EXPECT_EQ(porta.leggi(10), "");
-    EXPECT_EQ(erroreDi([&] { porta.scrivi("x"); }), Errore::LineaPersa);
-    porta.sorveglia(true);
-    porta.chiudi();
-    EXPECT_FALSE(porta.aperta());
-}
-
 TEST(PortaAsio, can_be_closed_and_opened_many_times)
 {
     PseudoTerminale capo;
