@@ -336,10 +336,13 @@ class Lavori(Utente):
         self.attese += comandi_della_lista(self.lista.righe)
         self.davanti(SEQUOR)
         self.premi(SEQUOR, "ESEGUI")
-        self.controllo(SEQUOR, "push button", "STOP")
+        # A short run may be over before its button is seen: then the robot has been told something.
+        self.attendi("the run", lambda: self.bottone(SEQUOR, "STOP")
+                     or len(self.ascolto.azioni()) > prima)
         if ferma:
             self.entro(10, lambda: len(self.ascolto.azioni()) > prima + 2)
-            self.premi(SEQUOR, "STOP")
+            if self.bottone(SEQUOR, "STOP"):
+                self.premi(SEQUOR, "STOP")
         tempo = PAZIENZA_COMANDO + 3 * durata_della_lista(self.lista.righe)
         self.attendi("the run's end", lambda: self.bottone(SEQUOR, "ESEGUI"), tempo)
         self.sincronizza()
