@@ -3,11 +3,14 @@
 #include "Abilita_Disabilita.h"
 #include "Archivio.h"
 #include "Codifica.h"
+#include "Comandi.h"
 #include "Gest_File.h"
 #include "Messaggi.h"
 #include "Numeri.h"
 #include "Pompa.h"
 #include "VisErrori.h"
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -45,10 +48,74 @@ Sessione::Sessione(ControlloSeriale &com, const ControlliSessione &controlli,
     c.tmrChiusuraAutomatica.Timer.collega(this, &Sessione::tmrChiusuraAutomatica_Timer);
     c.tmrControllaConn.Timer.collega(this, &Sessione::tmrControllaConn_Timer);
     c.tmrSensori.Timer.collega(this, &Sessione::tmrSensori_Timer);
+    impostaUltimoAtto([this] { ComandiTessaro::ChiudiSessione(COM); });
 }
 
-void Sessione::Collega()
+Sessione::~Sessione()
 {
+    impostaUltimoAtto({});
+}
+
+bool Sessione::passa(Stato nuovo)
+{
+    using enum Stato;
+    const bool collegata = m_stato == Collegata || m_stato == InRicerca;
+    bool permesso = false;
+    switch (nuovo) {
+    case Scollegata:
+        permesso = m_stato != Scollegata;
+        break;
+    case InTentativo:
+        permesso = m_stato == Scollegata;
+        break;
+    case Collegata:
+        permesso = m_stato != Scollegata;
+        break;
+    case InRicerca:
+        permesso = collegata;
+        break;
+    }
+    if (!permesso)
+        return false;
+    if (nuovo == InTentativo) {
+        ++m_turno;
+        m_portaChiusaRiferita = false;
+    }
+    m_stato = nuovo;
+    return true;
+}
+
+bool Sessione::dura(Turno turno) const
+{
+    return turno == m_turno && (m_stato == Stato::Collegata || m_stato == Stato::InRicerca);
+}
+
+void Sessione::sonda(Sondaggio quale)
+{
+    if (!COM.PortOpen() && std::exchange(m_portaChiusaRiferita, true))
+        return;
+    switch (quale) {
+    case Sondaggio::Sensori:
+        ComandiTessaro::RichiediSensori(COM);
+        break;
+    case Sondaggio::StatoA:
+        ComandiTessaro::RichiediStatoA(COM);
+        break;
+    case Sondaggio::StatoB:
+        ComandiTessaro::RichiediStatoB(COM);
+        break;
+    }
+}
+
+bool Sessione::Collega()
+{
+    if (staTentando() || collegato())
+        return collegato();
+    if (m_stato != Stato::Scollegata)
+        Scollega();
+    // The windows that were unloaded may have let somebody else begin.
+    if (!passa(Stato::InTentativo))
+        return collegato();
     const MotoreRicezione::Fermo fermo(m_motore);
     PulsanteBarra &pulsante = c.BarraPulsanti.Buttons(1);
     if (m_splash.Visible())
@@ -74,6 +141,7 @@ void Sessione::Collega()
         connesso();
     else
         nonRiuscito();
+    return collegato();
 }
 
 bool Sessione::aspettaRobot()
@@ -95,16 +163,18 @@ bool Sessione::aspettaRobot()
 void Sessione::connesso()
 {
     PulsanteBarra &pulsante = c.BarraPulsanti.Buttons(1);
+    passa(Stato::Collegata);
+    const Turno turno = m_turno;
     c.tmrChiusuraAutomatica.setEnabled(false);
     pulsante.setEnabled(true);
     pulsante.setImage(Disconnetti);
     pulsante.setToolTipText(u"Disconnetti"_s);
     ImpostaAbilitati(true, c.tmrControllaConn, c.tmrElabInput, c.tmrSensori);
-    ComandiTessaro::RichiediStatoA(COM);
-    ComandiTessaro::RichiediStatoB(COM);
-    // Where there is no port these two open their box, and the keep-alive may have ended it all
-    // before the user closed it.
-    if (!c.tmrControllaConn.Enabled())
+    sonda(Sondaggio::StatoA);
+    sonda(Sondaggio::StatoB);
+    // If there is no port, the first of the two opens its box, and the keep-alive may have ended it
+    // all before the user closed it.
+    if (!dura(turno))
         return;
     m_motore.LeggiIngresso();
     ImpostaVisibili(true, t.imgLivBattLogica, t.imgLivBattMotori);
@@ -124,6 +194,7 @@ void Sessione::nonRiuscito()
         pompa();
     }
     COM.setPortOpen(false);
+    passa(Stato::Scollegata);
     c.BarraStato.setPanels(1, u"Non connesso"_s);
     c.BarraStato.setPanels(3, {});
 }
@@ -167,13 +238,20 @@ void Sessione::ChiediPorta()
 
 void Sessione::Scollega()
 {
+    if (staTentando())
+        return;
+    const Turno turno = m_turno;
     passaErrori([&] { m_finestre.scaricaCamera(); });
     passaErrori([&] { m_finestre.scaricaEsploraFile(); });
     if (m_finestre.vigilioAvviato())
         passaErrori([&] { m_finestre.stoppaVigilio(); });
+    // What waited in there may have ended this connection, and begun another one.
+    if (turno != m_turno)
+        return;
     ImpostaAbilitati(false, c.tmrControllaConn, c.tmrElabInput, c.tmrSensori);
     ComandiTessaro::ChiudiSessione(COM);
     COM.setPortOpen(false);
+    passa(Stato::Scollegata);
     c.BarraStato.setPanels(1, u"Non connesso"_s);
     c.BarraStato.setPanels(2, u"<>"_s);
     c.BarraStato.setPanels(3, u"Disconnesso"_s);
@@ -192,14 +270,16 @@ void Sessione::MostraInvio(const QString &testo)
     if (!COM.PortOpen())
         return;
     const MotoreRicezione::Fermo fermo(m_motore);
+    const Turno turno = m_turno;
     BarraDiCaricamento &barra = c.BarraCaricamento;
     barra.setValore(1);
     while (true) {
         // A wait inside this one may have left the bar at its end.
         passaErrori([&] { barra.setValore(barra.Value() + 1); });
         pompa();
-        // The user may have disconnected meanwhile: what the robot does is no longer asked.
-        if (!COM.PortOpen()) {
+        // The user may have disconnected meanwhile, and connected anew: what the robot does is no
+        // longer asked.
+        if (!COM.PortOpen() || turno != m_turno) {
             barra.setValore(1);
             return;
         }
@@ -241,26 +321,33 @@ void Sessione::tmrChiusuraAutomatica_Timer()
 void Sessione::tmrControllaConn_Timer()
 {
     const MotoreRicezione::Fermo fermo(m_motore);
-    ComandiTessaro::RichiediStatoA(COM);
-    ComandiTessaro::RichiediStatoB(COM);
+    const Turno turno = m_turno;
+    sonda(Sondaggio::StatoA);
+    sonda(Sondaggio::StatoB);
     QByteArray risposta;
     for (int giri = 1; risposta.isEmpty() && giri <= giriMassimi; ++giri) {
         pompa();
-        // The user may have disconnected meanwhile: there is nothing left to search for.
-        if (!c.tmrControllaConn.Enabled()) {
+        // The user may have disconnected meanwhile, and connected anew: there is nothing left to
+        // search for.
+        if (!dura(turno)) {
             c.BarraCaricamento.setValore(1);
             return;
         }
         if (giri > giriRicerca) {
+            passa(Stato::InRicerca);
             c.BarraStato.setPanels(1, u"Ricerca..."_s);
             passaErrori([&] { c.BarraCaricamento.setValore(giri); });
             pompa();
         }
-        passaErrori([&] { risposta = COM.Input(); });
+        if (dura(turno))
+            passaErrori([&] { risposta = COM.Input(); });
     }
-    if (!risposta.isEmpty()) {
+    if (!dura(turno)) {
+        c.BarraCaricamento.setValore(1);
+    } else if (!risposta.isEmpty()) {
         c.tmrElabInput.accumulatore.aggiungi(risposta);
         m_mancato = false;
+        passa(Stato::Collegata);
         c.BarraCaricamento.setValore(1);
         c.BarraStato.setPanels(1, u"Connesso"_s);
     } else if (!m_mancato) {
@@ -269,7 +356,7 @@ void Sessione::tmrControllaConn_Timer()
         c.BarraStato.setPanels(3, u"Robot non trovato, chiusura della connessione in corso..."_s);
         pompa();
         // Where the user was quicker, the button would connect again.
-        if (c.tmrControllaConn.Enabled())
+        if (dura(turno))
             passaErrori([&] { m_finestre.BarraPulsanti_ButtonClick(c.BarraPulsanti.Buttons(1)); });
         m_mancato = false;
         c.BarraCaricamento.setValore(1);
@@ -278,5 +365,5 @@ void Sessione::tmrControllaConn_Timer()
 
 void Sessione::tmrSensori_Timer()
 {
-    ComandiTessaro::RichiediSensori(COM);
+    sonda(Sondaggio::Sensori);
 }

@@ -1,8 +1,6 @@
 #include "frmImpostaPorta.h"
 
 #include <QGridLayout>
-#include <QGuiApplication>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -32,37 +30,24 @@ frmImpostaPorta::frmImpostaPorta()
     griglia->addWidget(&pulOK, 1, 3);
     resize(320, 110);
     Disegno();
-    pulOK.MouseDown.collega(this, &frmImpostaPorta::pulOK_MouseDown);
+    m_numeroPorta.conOK(pulOK);
     pulOK.Click.collega(this, &frmImpostaPorta::pulOK_Click);
 }
 
 void frmImpostaPorta::Disegno()
 {
     setTag({});
-    m_dettoAlClick = false;
     txtPorta.setText(u"1"_s);
     SuGiu.setValue(1);
 }
 
-void frmImpostaPorta::pulOK_MouseDown()
+void frmImpostaPorta::Activate()
 {
-    // The press took the focus from an empty box, and the message was shown then. Where the button
-    // was let go over the message no click follows, and the next OK is a try of its own.
-    m_dettoAlClick = Tag() == u"Errore"_s && (QGuiApplication::mouseButtons() & Qt::LeftButton);
+    m_numeroPorta.inizia();
 }
 
 void frmImpostaPorta::pulOK_Click()
 {
-    // Once is enough for one click; and a mark that is left from a box put right since is not held
-    // against it.
-    const bool vuota = txtPorta.Text().isEmpty();
-    const bool giaDetto = std::exchange(m_dettoAlClick, false) && vuota;
-    if (!giaDetto) {
-        setTag({});
-        m_numeroPorta.txtPorta_LostFocus();
-    }
-    if (Tag() == u"Errore"_s)
-        setTag({});
-    else
+    if (m_numeroPorta.conferma() == NumeroPorta::Conferma::Valido)
         Nascondi();
 }

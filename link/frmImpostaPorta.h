@@ -19,11 +19,10 @@ public:
 
 protected:
     void Disegno() override;
+    void Activate() override;
 
 private:
-    void pulOK_MouseDown();
     void pulOK_Click();
 
     NumeroPorta m_numeroPorta;
-    bool m_dettoAlClick = false;
 };

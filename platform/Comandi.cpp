@@ -3,11 +3,20 @@
 #include "Errore.h"
 #include "Evento.h"
 #include "Messaggi.h"
+#include "Temporizzatore.h"
 
 #include <cstdio>
 #include <cstdlib>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// An error that nobody handled is ending the program.
+bool finisce = false;
+std::function<void()> ultimoAtto;
+
+} // namespace
 
 void terminaProgramma(int esito)
 {
@@ -15,14 +24,29 @@ void terminaProgramma(int esito)
     std::_Exit(esito);
 }
 
+void impostaUltimoAtto(std::function<void()> atto)
+{
+    ultimoAtto = std::move(atto);
+}
+
+// Nothing else of the program goes on while the box is open: a timer that ticks or a byte that
+// arrives would meet what the error left behind, and fail in its turn.
 static void erroreNonGestito(const QString &descrizione)
 {
+    finisce = true;
+    Temporizzatore::fermaTutti();
     messaggio(descrizione + u"\n\nIl programma verrà chiuso."_s, Icona::Stop);
+    passaErrori([] {
+        if (ultimoAtto)
+            ultimoAtto();
+    });
     terminaProgramma(1);
 }
 
 void eseguiGestore(const std::function<void()> &gestore)
 {
+    if (finisce)
+        return;
     try {
         gestore();
     } catch (const Errore &errore) {

@@ -5,7 +5,7 @@
 #include <utility>
 
 // Runs a handler. No exception leaves it: an error that nobody handled is shown in a message box,
-// and the program ends.
+// and the program ends. From that error on no handler runs any more.
 void eseguiGestore(const std::function<void()> &gestore);
 
 // While one of these lives no event is raised: a window puts its design values back, which no

@@ -5,6 +5,7 @@
 #include "Errore.h"
 #include "LineaSeriale.h"
 #include "PermessiPorta.h"
+#include "Presenza.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -24,20 +25,33 @@ struct PortaAsio::Linea
     asio::io_context contesto;
     asio::serial_port porta{contesto};
     std::unique_ptr<QSocketNotifier> avvisatore;
-    // The far end went away: open in name, but nothing is read or waited for any more.
-    bool persa = false;
+    Presenza presenza;
     bool sorvegliata = false;
 
+    Linea()
+    {
+        presenza.perduta = [this] { aggiornaAvvisatore(); };
+    }
     bool staccata()
     {
         pollfd attesa{porta.native_handle(), 0, 0};
         return ::poll(&attesa, 1, 0) > 0 && (attesa.revents & (POLLHUP | POLLERR)) != 0;
     }
-    void aggiornaAvvisatore() { avvisatore->setEnabled(sorvegliata && !persa); }
-    void perdi()
+    void aggiornaAvvisatore() { avvisatore->setEnabled(sorvegliata && !presenza.persa()); }
+    // Asio opens the line so that no write waits.
+    Presenza::Scrittura scrivi(QByteArrayView byte)
     {
-        persa = true;
-        aggiornaAvvisatore();
+        while (!byte.isEmpty()) {
+            const ssize_t scritti =
+                ::write(porta.native_handle(), byte.data(), static_cast<size_t>(byte.size()));
+            if (scritti > 0)
+                byte = byte.sliced(scritti);
+            else if (scritti < 0 && errno == EAGAIN)
+                return Presenza::Scrittura::SenzaPosto;
+            else if (scritti == 0 || errno != EINTR)
+                return Presenza::Scrittura::Mancata;
+        }
+        return Presenza::Scrittura::Presa;
     }
 };
 
@@ -101,14 +115,14 @@ void PortaAsio::apri(const QString &percorso)
     int linee = TIOCM_DTR | TIOCM_RTS;
     ::ioctl(porta.native_handle(), TIOCMBIS, &linee);
 
-    m_linea->persa = false;
+    m_linea->presenza.ricomincia();
     m_linea->avvisatore =
         std::make_unique<QSocketNotifier>(porta.native_handle(), QSocketNotifier::Read);
     QObject::connect(m_linea->avvisatore.get(), &QSocketNotifier::activated,
                      m_linea->avvisatore.get(), [this] {
                          // A line whose far end went away is ready to be read for ever.
                          if (m_linea->staccata())
-                             m_linea->perdi();
+                             m_linea->presenza.perdi();
                          else if (arrivo)
                              arrivo();
                      });
@@ -136,19 +150,14 @@ bool PortaAsio::aperta() const
 
 void PortaAsio::scrivi(QByteArrayView byte)
 {
-    while (!byte.isEmpty()) {
-        const ssize_t scritti =
-            ::write(m_linea->porta.native_handle(), byte.data(), static_cast<size_t>(byte.size()));
-        if (scritti > 0)
-            byte = byte.sliced(scritti);
-        else if (scritti == 0 || errno != EINTR)
-            throw Errore(Errore::LineaPersa);
-    }
+    if (!aperta())
+        throw Errore(Errore::LineaPersa);
+    m_linea->presenza.scrivi([&] { return m_linea->scrivi(byte); });
 }
 
 QByteArray PortaAsio::leggi(qsizetype massimo)
 {
-    if (!aperta() || m_linea->persa || massimo <= 0)
+    if (!aperta() || m_linea->presenza.persa() || massimo <= 0)
         return {};
     QByteArray letti(massimo, Qt::Uninitialized);
     ssize_t quanti = 0;
@@ -160,7 +169,7 @@ QByteArray PortaAsio::leggi(qsizetype massimo)
         return letti;
     }
     if (quanti == 0 || errno != EAGAIN)
-        m_linea->perdi();
+        m_linea->presenza.perdi();
     return {};
 }
 

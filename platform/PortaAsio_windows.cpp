@@ -5,6 +5,7 @@
 
 #include "Errore.h"
 #include "LineaSeriale.h"
+#include "Presenza.h"
 
 #include <QWinEventNotifier>
 #include <asio/io_context.hpp>
@@ -68,30 +69,40 @@ struct PortaAsio::Linea
     Operazione attesa;
     char primo = 0;
     std::unique_ptr<QWinEventNotifier> avvisatore;
-    // The far end went away: open in name, but nothing is read or waited for any more.
-    bool persa = false;
+    Presenza presenza;
     bool sorvegliata = false;
 
-    void aggiornaAvvisatore() { avvisatore->setEnabled(sorvegliata && !persa); }
-    void perdi()
+    Linea()
     {
-        persa = true;
-        aggiornaAvvisatore();
+        presenza.perduta = [this] { aggiornaAvvisatore(); };
+    }
+    void aggiornaAvvisatore() { avvisatore->setEnabled(sorvegliata && !presenza.persa()); }
+    // Waits until the system has sent the bytes: it drops what it has not sent when the program
+    // ends.
+    Presenza::Scrittura scrivi(QByteArrayView byte)
+    {
+        Operazione scrittura;
+        const bool presa =
+            avviata(::WriteFile(porta.native_handle(), byte.data(), static_cast<DWORD>(byte.size()),
+                                nullptr, scrittura.nuova())) &&
+            scrittura.esito(porta.native_handle()) == byte.size();
+        // A far end that does not take them keeps the window waiting: once is enough.
+        return presa ? Presenza::Scrittura::Presa : Presenza::Scrittura::Mancata;
     }
     void aspettaUnByte()
     {
         if (!avviata(
                 ::ReadFile(porta.native_handle(), &primo, sizeof primo, nullptr, attesa.nuova())))
-            perdi();
+            presenza.perdi();
     }
     // Whether the read that waits has brought its byte.
     bool arrivato()
     {
-        if (persa || !attesa.finita())
+        if (presenza.persa() || !attesa.finita())
             return false;
         const qint64 quanti = attesa.esito(porta.native_handle());
         if (quanti < 0)
-            perdi();
+            presenza.perdi();
         else if (quanti == 0)
             aspettaUnByte();
         return quanti > 0;
@@ -152,7 +163,7 @@ void PortaAsio::apri(const QString &percorso)
         throw Errore(Errore::PortaInesistente);
     }
 
-    m_linea->persa = false;
+    m_linea->presenza.ricomincia();
     m_linea->avvisatore = std::make_unique<QWinEventNotifier>(m_linea->attesa.evento());
     QObject::connect(m_linea->avvisatore.get(), &QWinEventNotifier::activated,
                      m_linea->avvisatore.get(), [this] {
@@ -170,7 +181,8 @@ void PortaAsio::chiudi()
     // The notifier may be the one whose call we are in.
     m_linea->avvisatore->setEnabled(false);
     m_linea->avvisatore.release()->deleteLater();
-    if (!m_linea->persa)
+    // Also on a lost line a read may still wait.
+    if (!m_linea->attesa.finita())
         m_linea->attesa.annulla(m_linea->porta.native_handle());
     asio::error_code ignorato;
     m_linea->porta.close(ignorato);
@@ -181,18 +193,13 @@ bool PortaAsio::aperta() const
     return m_linea->porta.is_open();
 }
 
-// The system drops what it has not sent when the program ends: the write has to be over.
 void PortaAsio::scrivi(QByteArrayView byte)
 {
     if (byte.isEmpty())
         return;
-    const HANDLE linea = m_linea->porta.native_handle();
-    Operazione scrittura;
-    if (!aperta() || m_linea->persa ||
-        !avviata(::WriteFile(linea, byte.data(), static_cast<DWORD>(byte.size()), nullptr,
-                             scrittura.nuova())) ||
-        scrittura.esito(linea) != byte.size())
+    if (!aperta())
         throw Errore(Errore::LineaPersa);
+    m_linea->presenza.scrivi([&] { return m_linea->scrivi(byte); });
 }
 
 QByteArray PortaAsio::leggi(qsizetype massimo)

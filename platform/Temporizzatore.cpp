@@ -2,11 +2,31 @@
 
 #include "Errore.h"
 
+#include <QSet>
+
+namespace {
+
+QSet<Temporizzatore *> vivi;
+
+} // namespace
+
 Temporizzatore::Temporizzatore(const QString &nome, QObject *finestra) : QObject(finestra)
 {
     setObjectName(nome);
     m_timer.setTimerType(Qt::PreciseTimer);
     connect(&m_timer, &QTimer::timeout, this, &Temporizzatore::scatta);
+    vivi.insert(this);
+}
+
+Temporizzatore::~Temporizzatore()
+{
+    vivi.remove(this);
+}
+
+void Temporizzatore::fermaTutti()
+{
+    for (Temporizzatore *timer : std::as_const(vivi))
+        timer->setEnabled(false);
 }
 
 void Temporizzatore::setInterval(int millisecondi)

@@ -16,6 +16,10 @@ class Temporizzatore : public QObject
 
 public:
     Temporizzatore(const QString &nome, QObject *finestra);
+    ~Temporizzatore() override;
+
+    // Disables every timer of the program.
+    static void fermaTutti();
 
     // 0 to 65535 ms, else Errore::ProprietaNonValida and the old value stays. 0 stops the ticks and
     // leaves Enabled as it is. Setting it starts the period anew.

@@ -3,6 +3,9 @@
 #include "Messaggi.h"
 #include "Numeri.h"
 
+#include <QGuiApplication>
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 NumeroPorta::NumeroPorta(Finestra &finestra, CasellaTesto &testo, SuGiu &suGiu)
@@ -12,6 +15,38 @@ NumeroPorta::NumeroPorta(Finestra &finestra, CasellaTesto &testo, SuGiu &suGiu)
     txtPorta.LostFocus.collega(this, &NumeroPorta::txtPorta_LostFocus);
     m_suGiu.conFrecce(txtPorta);
     m_suGiu.Change.collega([this] { txtPorta.setText(QString::number(m_suGiu.Value())); });
+}
+
+void NumeroPorta::conOK(Pulsante &pulsante)
+{
+    pulsante.MouseDown.collega(this, &NumeroPorta::pulOK_MouseDown);
+}
+
+void NumeroPorta::pulOK_MouseDown()
+{
+    // The press took the focus from an empty box, and the message was shown then. If the button was
+    // let go over the message no click follows, and the next OK is a try of its own.
+    m_dettoAlClick =
+        m_finestra.Tag() == u"Errore"_s && (QGuiApplication::mouseButtons() & Qt::LeftButton);
+}
+
+NumeroPorta::Conferma NumeroPorta::conferma()
+{
+    // A mark that is left from a box put right since is not held against it.
+    const bool giaDetto = std::exchange(m_dettoAlClick, false) && txtPorta.Text().isEmpty();
+    m_finestra.setTag({});
+    if (giaDetto)
+        return Conferma::GiaDetto;
+    txtPorta_LostFocus();
+    const bool vuoto = m_finestra.Tag() == u"Errore"_s;
+    m_finestra.setTag({});
+    return vuoto ? Conferma::Vuoto : Conferma::Valido;
+}
+
+void NumeroPorta::inizia()
+{
+    passaErrori([&] { txtPorta.SetFocus(); });
+    txtPorta.selectAll();
 }
 
 void NumeroPorta::txtPorta_LostFocus()

@@ -7,6 +7,7 @@
 #include "Numeri.h"
 
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -29,7 +30,9 @@ frmOpzioni::frmOpzioni()
 {
     disponi();
     Disegno();
+    m_numeroPorta.conOK(pulOK);
     pulOK.Click.collega(this, &frmOpzioni::pulOK_Click);
+    pulAnnulla.MouseDown.collega(this, &frmOpzioni::pulAnnulla_MouseDown);
     pulAnnulla.Click.collega(this, &frmOpzioni::pulAnnulla_Click);
 }
 
@@ -84,6 +87,12 @@ void frmOpzioni::Disegno()
 
 void frmOpzioni::Activate()
 {
+    leggiFile();
+    m_numeroPorta.inizia();
+}
+
+void frmOpzioni::leggiFile()
+{
     QByteArray testo;
     try {
         Archivio::apri(1, u"Porta COM"_s, Archivio::Modo::Lettura);
@@ -107,6 +116,9 @@ void frmOpzioni::Activate()
 
 void frmOpzioni::pulOK_Click()
 {
+    // After a click that has said it already, the Tag is not looked at.
+    if (m_numeroPorta.conferma() == NumeroPorta::Conferma::Vuoto)
+        return;
     passaErrori([&] { ScriviFile(u"Porta COM"_s, Codifica::inByte(txtPorta.Text()) + "\r\n"); });
     QByteArray testo;
     passaErrori([&] { testo = LeggiFile(u"prog.dat"_s, 0); });
@@ -115,6 +127,14 @@ void frmOpzioni::pulOK_Click()
                                                       CampiProgDat::condizione(testo)));
     });
     Scarica();
+}
+
+void frmOpzioni::pulAnnulla_MouseDown(int Button, int, double, double)
+{
+    // The press took the focus from an empty box. If the button was let go over the message no
+    // click follows, though the user has clicked.
+    if (Button == 1 && !(QGuiApplication::mouseButtons() & Qt::LeftButton))
+        pulAnnulla_Click();
 }
 
 void frmOpzioni::pulAnnulla_Click()

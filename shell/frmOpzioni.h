@@ -28,7 +28,9 @@ protected:
 
 private:
     void disponi();
+    void leggiFile();
     void pulOK_Click();
+    void pulAnnulla_MouseDown(int Button, int Shift, double X, double Y);
     void pulAnnulla_Click();
 
     NumeroPorta m_numeroPorta;

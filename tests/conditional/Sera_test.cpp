@@ -8,6 +8,7 @@
 #include "frmProcessor.h"
 
 #include <gmock/gmock.h>
+#include <iostream>
 
 namespace {
 
@@ -287,3 +288,58 @@ TEST_F(Sera, AListDeletedMeanwhileEndsTheProgramWithAMessage)
     };
     EXPECT_EXIT(finisci(), testing::ExitedWithCode(1), "Impossibile trovare il file \\(53\\)");
 }
+
+namespace {
+
+struct ListaIlleggibile
+{
+    const char *nome;
+    // Nothing: the file is not there any more.
+    const char *contenuto;
+    const char *errore;
+};
+
+class SeraGuasta : public Sera, public testing::WithParamInterface<ListaIlleggibile>
+{
+protected:
+    // The runner starts a list that cannot be read, while more telemetry comes.
+    [[noreturn]] void guasta()
+    {
+        RispondiMessaggi messaggi;
+        messaggi.mentreAperto = [](const QMessageBox &box) {
+            gira(500);
+            std::cerr << box.text().toStdString() << "|" << std::endl;
+        };
+        principale.Mostra();
+        pulsante(6);
+        processor.lstCondizioni.setList(0, u"no,no,31,no,no"_s);
+        processor.lstFile.setSelected(0, true);
+        pulsante(1);
+        processor.pulAvvia.click();
+        if (GetParam().contenuto)
+            cartella.scrivi(u"caldo.sqm"_s, GetParam().contenuto);
+        else
+            QFile::remove(cartella.percorso(u"caldo.sqm"_s));
+        robot.robot().impostaTemperatura(31);
+        static_cast<void>(aspetta([] { return false; }));
+        std::_Exit(77);
+    }
+};
+
+} // namespace
+
+TEST_P(SeraGuasta, AListThatCannotBeReadEndsTheProgramWithItsErrorAloneAndTheSession)
+{
+    crea(u"caldo.sqm"_s, Caldo);
+    EXPECT_EXIT(guasta(), testing::ExitedWithCode(1), GetParam().errore);
+    // What the program sent last of all is still on the line.
+    EXPECT_TRUE(aspetta([this] { return robot.diario().conta(u"ChiudiSessione"_s) == 1; }));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Sera, SeraGuasta,
+    testing::Values(ListaIlleggibile{"Missing", nullptr,
+                                     "Impossibile trovare il file \\(53\\)[^|]*\\|\n$"},
+                    ListaIlleggibile{"TooShort", " 5 \r\nFrase 1\r\n",
+                                     "Il file finisce prima del previsto \\(62\\)[^|]*\\|\n$"}),
+    [](const auto &caso) { return caso.param.nome; });

@@ -46,6 +46,20 @@ TEST_F(ImpostaPorta, StartsAt1Within1And99)
     EXPECT_EQ(finestra.pulOK.Caption(), u"OK"_s);
 }
 
+TEST_F(ImpostaPorta, SelectsItsNumberWhenItOpens)
+{
+    finestra.close();
+    finestra.Mostra();
+    EXPECT_EQ(finestra.focusWidget(), &finestra.txtPorta);
+    QTest::keyClicks(finestra.focusWidget(), u"7"_s);
+    EXPECT_EQ(finestra.txtPorta.Text(), u"7"_s);
+    // Also where it was hidden by its button.
+    clicca();
+    finestra.Mostra();
+    EXPECT_EQ(finestra.focusWidget(), &finestra.txtPorta);
+    EXPECT_EQ(finestra.txtPorta.selectedText(), u"7"_s);
+}
+
 TEST_F(ImpostaPorta, OkHidesItAndKeepsTheText)
 {
     batti(u"7"_s);

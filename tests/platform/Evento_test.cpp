@@ -1,4 +1,6 @@
 #include "Aiuti.h"
+#include "Comandi.h"
+#include "Temporizzatore.h"
 
 namespace {
 
@@ -100,6 +102,47 @@ TEST(Gestore, a_foreign_exception_ends_the_program_the_same_way)
                     std::_Exit(77);
                 }),
                 ::testing::ExitedWithCode(1), "Errore imprevisto: guasto");
+}
+
+TEST(Gestore, while_the_box_of_an_error_is_open_no_timer_ticks_and_no_handler_runs)
+{
+    EXPECT_EXIT(
+        {
+            // What meets the state that the error left behind fails in its turn.
+            Temporizzatore timer(u"tmrProva"_s, nullptr);
+            timer.Timer.collega([] { throw Errore(Errore::FileGiaAperto); });
+            timer.setInterval(1);
+            timer.setEnabled(true);
+            int visite = 0;
+            const ManoSuiMessaggi mano([&](QMessageBox &box) {
+                eseguiGestore([] { throw Errore(Errore::FileNonAperto); });
+                if (++visite < 50)
+                    return;
+                std::cerr << box.text().toStdString() << "|ticks " << timer.Enabled() << std::endl;
+                premiOK(box);
+            });
+            eseguiGestore([] { throw Errore(Errore::FileNonTrovato); });
+            std::_Exit(77);
+        },
+        ::testing::ExitedWithCode(1), "Impossibile trovare il file \\(53\\)[^|]*\\|ticks 0\n$");
+}
+
+TEST(Gestore, the_last_act_of_the_program_comes_after_the_box)
+{
+    EXPECT_EXIT(conMessaggioLetto([] {
+                    impostaUltimoAtto([] { std::cerr << "last act" << std::endl; });
+                    eseguiGestore([] { throw Errore(Errore::FileNonTrovato); });
+                }),
+                ::testing::ExitedWithCode(1), "\\(53\\)[^|]*\nlast act\n$");
+}
+
+TEST(Gestore, a_last_act_that_fails_is_passed_over)
+{
+    EXPECT_EXIT(conMessaggioLetto([] {
+                    impostaUltimoAtto([] { throw Errore(Errore::LineaPersa); });
+                    eseguiGestore([] { throw Errore(Errore::FileNonTrovato); });
+                }),
+                ::testing::ExitedWithCode(1), "\\(53\\)");
 }
 
 TEST(Gestore, an_error_from_a_click_does_not_cross_the_event_dispatch)

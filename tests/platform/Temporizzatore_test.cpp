@@ -264,3 +264,18 @@ TEST_F(TemporizzatoreTest, disabled_during_a_suspended_tick_it_stays_silent_behi
     pompaPer(20);
     EXPECT_EQ(scatti, 0);
 }
+
+TEST_F(TemporizzatoreTest, all_of_them_can_be_stopped_at_once)
+{
+    auto andato = std::make_unique<Temporizzatore>(u"tmrAndato"_s, nullptr);
+    andato.reset();
+    Temporizzatore altro(u"tmrAltro"_s, nullptr);
+    altro.setEnabled(true);
+    timer.setInterval(1);
+    timer.setEnabled(true);
+    Temporizzatore::fermaTutti();
+    EXPECT_FALSE(timer.Enabled());
+    EXPECT_FALSE(altro.Enabled());
+    pompaPer(20);
+    EXPECT_EQ(scatti, 0);
+}

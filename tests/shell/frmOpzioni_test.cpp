@@ -225,6 +225,85 @@ TEST_F(Opzioni, OkDoesNotLookAtTheTagOfAnEmptyField)
     EXPECT_EQ(cartella.leggi(u"Porta COM"_s), "\r\n");
 }
 
+TEST_F(Opzioni, EnterAppliesTheRulesOfLeavingTheFieldFirst)
+{
+    apri();
+    batti(u"150"_s);
+    QTest::keyClick(&opzioni.txtPorta, Qt::Key_Return);
+    EXPECT_EQ(cartella.leggi(u"Porta COM"_s), "99\r\n");
+    EXPECT_FALSE(opzioni.Visible());
+}
+
+TEST_F(Opzioni, EnterWithAnEmptyFieldSaysSoEachTimeStoresNothingAndStays)
+{
+    cartella.scrivi(u"Porta COM"_s, "2\r\n");
+    cartella.scrivi(u"prog.dat"_s, "0;resto");
+    apri();
+    svuotaCampo();
+    for (int volta = 1; volta <= 2; ++volta) {
+        QTest::keyClick(&opzioni.txtPorta, Qt::Key_Return);
+        EXPECT_EQ(messaggi.testi(), QStringList(volta, u"Devi impostare un numero di porta!"_s));
+        EXPECT_TRUE(opzioni.Visible());
+        EXPECT_EQ(opzioni.focusWidget(), &opzioni.txtPorta);
+    }
+    EXPECT_EQ(cartella.leggi(u"Porta COM"_s), "2\r\n");
+    EXPECT_EQ(cartella.leggi(u"prog.dat"_s), "0;resto");
+}
+
+TEST_F(Opzioni, AClickOnCancelClosesThemThoughTheFieldIsEmpty)
+{
+    cartella.scrivi(u"Porta COM"_s, "2\r\n");
+    apri();
+    svuotaCampo();
+    QTest::mouseClick(&opzioni.pulAnnulla, Qt::LeftButton);
+    EXPECT_EQ(messaggi.visti().size(), 1);
+    EXPECT_FALSE(opzioni.Visible());
+    EXPECT_EQ(cartella.leggi(u"Porta COM"_s), "2\r\n");
+}
+
+TEST_F(Opzioni, AClickOnCancelWhoseReleaseWentToTheMessageClosesThemToo)
+{
+    apri();
+    svuotaCampo();
+    // The message comes up at the press, and the user lets the button go over it.
+    messaggi.mentreAperto = [&](const QMessageBox &) {
+        QTest::mouseRelease(&opzioni, Qt::LeftButton);
+    };
+    QTest::mousePress(&opzioni.pulAnnulla, Qt::LeftButton);
+    EXPECT_EQ(messaggi.visti().size(), 1);
+    EXPECT_FALSE(opzioni.Visible());
+    opzioni.Mostra();
+    EXPECT_TRUE(aspetta([&] { return !opzioni.pulAnnulla.isDown(); }));
+    EXPECT_EQ(messaggi.visti().size(), 1);
+}
+
+TEST_F(Opzioni, ARightPressOnCancelClosesNothing)
+{
+    apri();
+    QTest::mouseClick(&opzioni.pulAnnulla, Qt::RightButton);
+    EXPECT_TRUE(opzioni.Visible());
+}
+
+TEST_F(Opzioni, EscWithAnEmptyFieldClosesThemWithoutAMessage)
+{
+    apri();
+    svuotaCampo();
+    QTest::keyClick(&opzioni.txtPorta, Qt::Key_Escape);
+    gira(100);
+    EXPECT_FALSE(opzioni.Visible());
+    EXPECT_TRUE(messaggi.visti().isEmpty());
+}
+
+TEST_F(Opzioni, SelectTheirNumberWhenTheyOpen)
+{
+    cartella.scrivi(u"Porta COM"_s, "17\r\n");
+    apri();
+    EXPECT_EQ(opzioni.focusWidget(), &opzioni.txtPorta);
+    EXPECT_EQ(opzioni.txtPorta.selectedText(), u"17"_s);
+    QTest::keyClicks(opzioni.focusWidget(), u"8"_s);
+    EXPECT_EQ(opzioni.txtPorta.Text(), u"8"_s);
+}
+
 TEST_F(Opzioni, TypingDropsAllButDigitsAndBackspace)
 {
     apri();
