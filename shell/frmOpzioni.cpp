@@ -92,7 +92,7 @@ void frmOpzioni::Activate()
         Archivio::chiudi();
         SuGiu.setValue(Numeri::Intero(txtPorta.Text()));
     } catch (const Errore &) {
-        Archivio::chiudi();
+        Archivio::abbandona();
         if (!testo.isEmpty())
             return;
         lblAttenzionePorta.show();
@@ -102,7 +102,7 @@ void frmOpzioni::Activate()
         Archivio::apri(1, u"Prog.dat"_s, Archivio::Modo::Lettura);
         opzCollegaAut.setValue(Numeri::Byte(Archivio::leggiNumero(1)));
     });
-    Archivio::chiudi();
+    Archivio::abbandona();
 }
 
 void frmOpzioni::pulOK_Click()
