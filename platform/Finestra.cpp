@@ -97,9 +97,9 @@ void Finestra::Mostra()
         riportaDavanti();
         return;
     }
+    impostaPulsanti();
     if (!carica())
         return;
-    impostaPulsanti();
     show();
     Resize();
     ricordaAttiva(this);
@@ -124,22 +124,21 @@ void Finestra::impostaPulsanti()
     Qt::WindowFlags come = Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
     come |= m_dialogo ? Qt::Dialog : Qt::Window | Qt::WindowMinimizeButtonHint;
-    if (come == windowFlags())
-        return;
-    // Qt forgets that the window was given a place.
-    const bool collocata = testAttribute(Qt::WA_Moved);
-    setWindowFlags(come);
-    setAttribute(Qt::WA_Moved, collocata);
+    // A window that is there already would be made anew.
+    if (come != windowFlags())
+        setWindowFlags(come);
 }
 
 void Finestra::MostraModale()
 {
-    if (Visible() || !carica())
+    if (Visible())
+        return;
+    setDialogo();
+    impostaPulsanti();
+    if (!carica())
         return;
     const QWidget *sotto = Davanti();
     setWindowModality(Qt::ApplicationModal);
-    setDialogo();
-    impostaPulsanti();
     winId();
     if (sotto && sotto != this && sotto->windowHandle())
         windowHandle()->setTransientParent(sotto->windowHandle());

@@ -41,6 +41,7 @@ void frmOpzioni::disponi()
     lblAttenzionePorta.setWordWrap(true);
     lblSpiegazioneCOM.setWordWrap(true);
     lblAttenzionePorta.setForeColor(QColor(0xB0, 0x1C, 0x1C));
+    setDialogo();
     setPredefinito(&pulOK);
     setAnnulla(&pulAnnulla);
 
