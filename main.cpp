@@ -1,8 +1,7 @@
 // Builds the windows, ties them together, starts.
-#include "Aspetto.h"
+#include "Applicazione.h"
 #include "Cartella.h"
 #include "Comandi.h"
-#include "Italiano.h"
 #include "PortaAsio.h"
 #include "VigilioVicino.h"
 #include "frmCamera.h"
@@ -72,11 +71,8 @@ public:
 int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
-    installaItaliano(app);
     QApplication::setApplicationName(u"Lumbra"_s);
-    impostaAspetto();
-    QApplication::setDesktopFileName(u"lumbra"_s);
-    QApplication::setWindowIcon(Disegni::icona(u"lumbra"));
+    preparaApplicazione(app);
     const QString cartella = trovaCartellaProgramma();
 
     frmPrincipale principale(

@@ -280,8 +280,8 @@ void frmImpCondizioni::pulOK_Click()
         setTag(u"OK"_s);
         Nascondi();
     } catch (const Errore &) {
-        // The dialog stays, with all that was set.
-        Archivio::chiudi();
+        // The dialog stays, with all that was set. Half a file is dropped: to close it could fail.
+        Archivio::abbandona();
     }
 }
 

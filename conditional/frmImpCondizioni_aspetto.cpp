@@ -46,6 +46,7 @@ void frmImpCondizioni::disponi()
     // Two lines, so that a long name moves nothing.
     constexpr int respiro = 4; // a wrapped text takes a little more than its lines
     lblSpiegazione.setMinimumHeight(2 * lblSpiegazione.fontMetrics().lineSpacing() + respiro);
+    setDialogo();
     setPredefinito(&pulOK);
     setAnnulla(&pulAnnulla);
     disponiPannelli();

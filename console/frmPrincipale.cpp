@@ -140,7 +140,7 @@ void frmPrincipale::changeEvent(QEvent *evento)
     if (evento->type() == QEvent::ActivationChange && isActiveWindow() && !m_incorniciata) {
         m_incorniciata = true;
         if (frameGeometry() != geometry())
-            colloca();
+            eseguiGestore([this] { colloca(); });
     }
 }
 
@@ -154,7 +154,7 @@ void frmPrincipale::Resize()
     if (!m_finestre.frmEditor)
         return;
     Finestra &frmEditor = *m_finestre.frmEditor;
-    if (WindowState() == 0 && frmEditor.Tag() == u"Aperto"_s)
+    if (WindowState() == 0 && frmEditor.Tag() == u"Aperto"_s && !frmEditor.Visible())
         frmEditor.Mostra();
     if (frmEditor.Visible() && WindowState() == 1) {
         frmEditor.Nascondi();
@@ -252,12 +252,7 @@ void frmPrincipale::esegui(int Image)
 
 void frmPrincipale::apri(Finestra *finestra)
 {
-    if (!finestra)
-        return;
-    // To a window that is open already nothing else happens.
-    if (finestra->Visible())
-        finestra->raise();
-    else
+    if (finestra)
         finestra->Mostra();
 }
 

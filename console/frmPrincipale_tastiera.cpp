@@ -34,7 +34,8 @@ void frmPrincipale::componiMenu()
 {
     mnuTastiera.setObjectName(u"mnuTastiera"_s);
     mnuTastiera.setAccessibleName(u"Comandi della console"_s);
-    connect(&mnuTastiera, &QMenu::aboutToShow, this, [this] { aggiornaMenu(&mnuTastiera); });
+    connect(&mnuTastiera, &QMenu::aboutToShow, this,
+            [this] { eseguiGestore([this] { aggiornaMenu(&mnuTastiera); }); });
     componiMenuMovimenti();
     componiMenuTesta();
     componiMenuVoce();
@@ -86,8 +87,10 @@ void frmPrincipale::componiMenuMovimenti()
         modi.append({&voce(modo, testo, *quale, [quale] { quale->setValue(true); }), quale});
     }
     connect(modo, &QMenu::aboutToShow, this, [modi] {
-        for (const auto &[scelta, opzione] : modi)
-            scelta->setChecked(opzione->Value());
+        eseguiGestore([&modi] {
+            for (const auto &[scelta, opzione] : modi)
+                scelta->setChecked(opzione->Value());
+        });
     });
     modo->addSeparator();
     voceLista(modo, u"&Velocità..."_s, cbVelocità);
@@ -182,8 +185,10 @@ void frmPrincipale::componiMenuFinestre()
     };
     VoceMenu *collegamento = pulsante({}, 1);
     connect(&mnuTastiera, &QMenu::aboutToShow, this, [this, collegamento] {
-        const bool collegata = BarraPulsanti.Buttons(1).Image() != 1;
-        collegamento->setCaption(collegata ? u"Disco&nnetti"_s : u"&Connetti ad Tessaro"_s);
+        eseguiGestore([this, collegamento] {
+            const bool collegata = BarraPulsanti.Buttons(1).Image() != 1;
+            collegamento->setCaption(collegata ? u"Disco&nnetti"_s : u"&Connetti ad Tessaro"_s);
+        });
     });
     pulsante(u"&Opzioni"_s, 2);
     pulsante(u"Videoc&amera"_s, 4);

@@ -17,6 +17,7 @@ frmImpostaPorta::frmImpostaPorta()
     txtPorta.setFixedWidth(48);
     txtPorta.setAlignment(Qt::AlignRight);
     SuGiu.setFixedHeight(txtPorta.sizeHint().height());
+    setDialogo();
     setPredefinito(&pulOK);
 
     auto *griglia = new QGridLayout(this);

@@ -27,6 +27,7 @@ void frmValore::disponi()
     cbInfo.setMaxVisibleItems(16);
     cbInfo.setAccessibleName(u"Informazioni"_s);
     lblInfo.setBuddy(&cbInfo);
+    setDialogo();
     setPredefinito(&pulOK);
 
     auto *scelta = new QVBoxLayout;

@@ -2,6 +2,7 @@
 
 #include "Codifica.h"
 #include "Finestra.h"
+#include "UnaRiga.h"
 
 #include <QApplication>
 #include <QInputMethodEvent>
@@ -10,6 +11,7 @@
 CasellaTesto::CasellaTesto(const QString &nome, QWidget *dentro, const QString &testo)
     : Controllo(nome, dentro)
 {
+    setValidator(new UnaRiga(this));
     setText(testo);
     connect(this, &QLineEdit::textChanged, this, [this] { Change(); });
     connect(qApp, &QApplication::focusChanged, this,

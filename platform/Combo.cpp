@@ -1,5 +1,7 @@
 #include "Combo.h"
 
+#include "UnaRiga.h"
+
 #include <QKeyEvent>
 #include <QLineEdit>
 
@@ -9,6 +11,7 @@ Combo::Combo(const QString &nome, QWidget *dentro, Stile stile) : Controllo(nome
     if (isEditable()) {
         setInsertPolicy(QComboBox::NoInsert);
         setCompleter(nullptr);
+        setValidator(new UnaRiga(this));
         // Leaving the box would look the typed text up in the list and select a row.
         disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
         connect(lineEdit(), &QLineEdit::textEdited, this, [this] {

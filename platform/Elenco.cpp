@@ -159,6 +159,8 @@ void Elenco::mousePressEvent(QMouseEvent *evento)
     const bool sinistro = evento->button() == Qt::LeftButton;
     m_clickDovuto = sinistro && sotto && sullaSpunta(sotto, punto);
     const int prima = currentRow();
+    m_premuta = indexAt(punto);
+    ++m_pressioni;
     {
         const QScopedValueRollback zitto(m_zitto, m_zitto || m_clickDovuto);
         Controllo::mousePressEvent(evento);
@@ -169,6 +171,22 @@ void Elenco::mousePressEvent(QMouseEvent *evento)
     // A click on the row that is selected already is a click as well.
     if (sinistro && !m_clickDovuto && sotto && itemAt(punto) == sotto && row(sotto) == prima)
         Click();
+}
+
+void Elenco::mouseDoubleClickEvent(QMouseEvent *evento)
+{
+    const QModelIndex sotto = indexAt(evento->position().toPoint());
+    const bool sullaRiga =
+        evento->button() == Qt::LeftButton && sotto.isValid() && m_premuta == sotto;
+    // Qt makes an ordinary press of it beside the rows and on another row.
+    const unsigned prima = m_pressioni;
+    QListWidget::mouseDoubleClickEvent(evento);
+    evento->accept();
+    if (m_pressioni == prima)
+        MouseDown(numeroPulsante(evento->button()), numeroMaiuscole(evento->modifiers()),
+                  evento->position().x() * unitaPerPixel, evento->position().y() * unitaPerPixel);
+    if (sullaRiga)
+        DblClick();
 }
 
 void Elenco::mouseReleaseEvent(QMouseEvent *evento)

@@ -47,6 +47,8 @@ public:
     // The height of a row in layout units.
     double AltezzaRiga() const;
 
+    // DblClick comes with the left button and on a row only, both presses on the same one. The
+    // second press is a MouseDown as well, and no Click.
     // When ListIndex or a check mark changes, by the user or by code, and at a press on a row.
     Evento<> Click;
     // KeyCode and Shift, before the list; a handler that sets KeyCode to 0 keeps the key from it.
@@ -57,6 +59,7 @@ protected:
                                                          const QEvent *evento) const override;
     void mousePressEvent(QMouseEvent *evento) override;
     void mouseReleaseEvent(QMouseEvent *evento) override;
+    void mouseDoubleClickEvent(QMouseEvent *evento) override;
     void keyPressEvent(QKeyEvent *evento) override;
     void focusInEvent(QFocusEvent *evento) override;
 
@@ -69,4 +72,8 @@ private:
     bool m_zitto = false;
     // A press on a check mark: the mark changes, and Click comes, when the button is released.
     bool m_clickDovuto = false;
+    // The row of the last press; invalid beside the rows, and when that row has gone.
+    QPersistentModelIndex m_premuta;
+    // How many presses there were, to be compared.
+    unsigned m_pressioni = 0;
 };

@@ -8,12 +8,38 @@
 #include <QKeyEvent>
 #include <QPointer>
 #include <QWindow>
+#include <algorithm>
 
 namespace {
 
 // The window of the program that was activated last: coming back to it from a message box or from
 // another program is no activation.
 QPointer<Finestra> ultimaAttiva;
+
+// All windows of the program, the one that was active last first.
+QList<Finestra *> &perAttivita()
+{
+    static QList<Finestra *> finestre;
+    return finestre;
+}
+
+void ricordaAttiva(Finestra *finestra)
+{
+    ultimaAttiva = finestra;
+    perAttivita().removeOne(finestra);
+    perAttivita().prepend(finestra);
+}
+
+// A window that is just going away is hidden already, though Qt calls it visible still.
+bool siVede(const QWidget &finestra)
+{
+    return finestra.isVisible() && !finestra.isHidden();
+}
+
+bool eAperta(const QWidget &finestra)
+{
+    return siVede(finestra) && !finestra.isMinimized();
+}
 
 } // namespace
 
@@ -22,12 +48,33 @@ Finestra::Finestra(const QString &nome, const QString &titolo) : m_titolo(titolo
     setObjectName(nome);
     setWindowTitle(titolo);
     setMouseTracking(true);
-    setAttribute(Qt::WA_QuitOnClose, false);
+    perAttivita().append(this);
+}
+
+Finestra::~Finestra()
+{
+    perAttivita().removeOne(this);
 }
 
 Finestra *Finestra::Ultima()
 {
-    return ultimaAttiva && ultimaAttiva->isVisible() ? ultimaAttiva.data() : nullptr;
+    const auto trovata = std::ranges::find_if(perAttivita(), [](auto *f) { return siVede(*f); });
+    return trovata == perAttivita().end() ? nullptr : *trovata;
+}
+
+QWidget *Finestra::Davanti()
+{
+    QWidget *modale = QApplication::activeModalWidget();
+    if (modale && siVede(*modale))
+        return modale;
+    QWidget *attiva = QApplication::activeWindow();
+    if (attiva && eAperta(*attiva) && attiva->windowType() != Qt::Popup)
+        return attiva;
+    const auto aperta = std::ranges::find_if(perAttivita(), [](auto *f) { return eAperta(*f); });
+    if (aperta != perAttivita().end())
+        return *aperta;
+    Finestra *ultima = Ultima();
+    return ultima ? ultima : perAttivita().value(0);
 }
 
 bool Finestra::carica()
@@ -46,29 +93,62 @@ bool Finestra::carica()
 
 void Finestra::Mostra()
 {
-    if (Visible() || !carica())
+    if (Visible()) {
+        riportaDavanti();
+        return;
+    }
+    impostaPulsanti();
+    if (!carica())
         return;
     show();
     Resize();
-    ultimaAttiva = this;
+    ricordaAttiva(this);
     Activate();
+}
+
+void Finestra::riportaDavanti()
+{
+    if (isMinimized())
+        QWidget::setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+}
+
+// The buttons of the title bar. A window system adds what it likes unless it is told.
+void Finestra::impostaPulsanti()
+{
+    if (windowType() == Qt::SplashScreen)
+        return;
+    const bool fissa = minimumSize() == maximumSize();
+    if (!m_dialogo && !fissa)
+        return;
+    Qt::WindowFlags come = Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                           Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+    come |= m_dialogo ? Qt::Dialog : Qt::Window | Qt::WindowMinimizeButtonHint;
+    // A window that is there already would be made anew.
+    if (come != windowFlags())
+        setWindowFlags(come);
 }
 
 void Finestra::MostraModale()
 {
-    if (Visible() || !carica())
+    if (Visible())
         return;
-    const QWidget *sopra = QApplication::activeWindow();
+    setDialogo();
+    impostaPulsanti();
+    if (!carica())
+        return;
+    const QWidget *sotto = Davanti();
     setWindowModality(Qt::ApplicationModal);
-    setWindowFlag(Qt::Dialog);
     winId();
-    if (sopra && sopra != this && sopra->windowHandle())
-        windowHandle()->setTransientParent(sopra->windowHandle());
+    if (sotto && sotto != this && sotto->windowHandle())
+        windowHandle()->setTransientParent(sotto->windowHandle());
     Mostra();
     QEventLoop attesa;
     while (Visible())
         attesa.processEvents(QEventLoop::WaitForMoreEvents);
     setWindowModality(Qt::NonModal);
+    // The next time it may belong to another window, and that one to this.
+    windowHandle()->setTransientParent(nullptr);
 }
 
 void Finestra::Scarica()
@@ -138,7 +218,7 @@ void Finestra::attiva()
 {
     if (ultimaAttiva == this || !Visible())
         return;
-    ultimaAttiva = this;
+    ricordaAttiva(this);
     eseguiGestore([this] { Activate(); });
 }
 

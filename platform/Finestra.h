@@ -20,6 +20,8 @@ public:
     enum class Chiusura { Utente = 0, Codice = 1 };
 
     explicit Finestra(const QString &nome, const QString &titolo);
+    ~Finestra() override;
+    Q_DISABLE_COPY_MOVE(Finestra)
 
     // The window's own text; it outlives unloading.
     QString Tag() const { return m_tag; }
@@ -30,13 +32,20 @@ public:
     bool Visible() const { return !isHidden(); }
     bool Caricata() const { return m_caricata; }
 
-    // Loads the window where it is not, and shows it; nothing where it is visible already.
+    // Loads the window if it is not loaded, and shows it. If it is open already, it is restored if
+    // minimised, and raised: nothing else.
     void Mostra();
-    // The same as a dialog: returns when the window is hidden or unloaded.
+    // The same as a dialog, without the buttons that minimise and maximise: returns when the window
+    // is hidden or unloaded; at once if it is open already.
     void MostraModale();
-    // The window that was active last, while it is visible: a window system gives the activity back
-    // only some time after a message box or a file dialog has closed. nullptr where there is none.
+    // The window of the program that is or was active last, of those that are visible: a window
+    // system gives the activity back only some time after a message box or a file dialog has
+    // closed, and not at all while another program is in front. nullptr if none is visible.
     static Finestra *Ultima();
+    // What a message box or a dialog stands over: the modal window in front, else the window that
+    // was active last, not a minimised one if there is another; one that is hidden only if all are.
+    // nullptr only if the program has no window at all.
+    static QWidget *Davanti();
     // Keeps the window's state.
     void Nascondi() { hide(); }
     // Asks QueryUnload and Unload; where neither refuses, hides the window and puts its design
@@ -54,6 +63,8 @@ public:
     double Height() const { return Unita::unita(frameGeometry().height()); }
     void Move(double left, double top) { move(Unita::pixel(left), Unita::pixel(top)); }
 
+    // A dialog, also if it is not shown modally.
+    void setDialogo() { m_dialogo = true; }
     // Enter clicks this button unless another button has the focus, Esc clicks the other one.
     void setPredefinito(Pulsante *pulsante);
     void setAnnulla(Pulsante *pulsante) { m_annulla = pulsante; }
@@ -89,6 +100,8 @@ private:
     bool carica();
     void scarica(Chiusura come);
     void attiva();
+    void riportaDavanti();
+    void impostaPulsanti();
 
     QString m_tag;
     QString m_titolo;
@@ -97,4 +110,5 @@ private:
     Pulsante *m_annulla = nullptr;
     bool m_inizializzata = false;
     bool m_caricata = false;
+    bool m_dialogo = false;
 };

@@ -4,9 +4,9 @@
 #include "Errore.h"
 #include "Finestra.h"
 
-#include <QApplication>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QPointer>
 #include <QSplitter>
 #include <QTreeView>
 
@@ -54,23 +54,26 @@ void FinestraFile::ShowSave()
 void FinestraFile::mostra(QFileDialog::AcceptMode modo)
 {
     const bool apre = modo == QFileDialog::AcceptOpen;
-    QWidget *sopra = QApplication::activeWindow();
     DisegniDeiFile disegni;
-    QFileDialog dialogo(sopra ? sopra : Finestra::Ultima());
+    // Not on the stack: it belongs to the window beneath, which may go first.
+    const QPointer<QFileDialog> dialogo = new QFileDialog(Finestra::Davanti());
     // The system's own dialog speaks the system's language.
-    dialogo.setOption(QFileDialog::DontUseNativeDialog);
-    dialogo.setOption(QFileDialog::DontConfirmOverwrite);
-    dialogo.setAcceptMode(modo);
-    dialogo.setFileMode(apre ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-    dialogo.setWindowTitle(apre ? u"Apri"_s : u"Salva con nome"_s);
-    dialogo.setNameFilters(filtriQt(m_filtro));
-    dialogo.setIconProvider(&disegni);
-    disponi(dialogo);
+    dialogo->setOption(QFileDialog::DontUseNativeDialog);
+    dialogo->setOption(QFileDialog::DontConfirmOverwrite);
+    dialogo->setAcceptMode(modo);
+    dialogo->setFileMode(apre ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    dialogo->setWindowTitle(apre ? u"Apri"_s : u"Salva con nome"_s);
+    dialogo->setNameFilters(filtriQt(m_filtro));
+    dialogo->setIconProvider(&disegni);
+    disponi(*dialogo);
     if (!m_file.isEmpty()) {
-        dialogo.setDirectory(QFileInfo(m_file).path());
-        dialogo.selectFile(m_file);
+        dialogo->setDirectory(QFileInfo(m_file).path());
+        dialogo->selectFile(m_file);
     }
-    if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty())
+    const bool accettato = dialogo->exec() == QDialog::Accepted;
+    const QStringList scelti = accettato && dialogo ? dialogo->selectedFiles() : QStringList();
+    delete dialogo;
+    if (scelti.isEmpty())
         throw Errore(Errore::Annullato);
-    m_file = dialogo.selectedFiles().constFirst();
+    m_file = scelti.constFirst();
 }

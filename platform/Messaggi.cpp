@@ -2,10 +2,10 @@
 
 #include "Finestra.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -36,20 +36,21 @@ private:
     bool senzaUscita() const { return standardButtons() == (Yes | No); }
 };
 
-} // namespace
-
-Risposta messaggio(const QString &testo, Icona icona, Pulsanti pulsanti, const QString &titolo)
+// What counts when the box went away with the window beneath it.
+Risposta senzaRisposta(Pulsanti pulsanti)
 {
-    QWidget *sopra = QApplication::activeModalWidget();
-    if (!sopra)
-        sopra = QApplication::activeWindow();
-    if (!sopra)
-        sopra = Finestra::Ultima();
-    Riquadro box(sopra);
-    box.setObjectName(u"Messaggio"_s);
-    box.setWindowTitle(titolo.isEmpty() ? u"Lumbra"_s : titolo);
-    box.setTextFormat(Qt::PlainText);
-    box.setText(testo);
+    switch (pulsanti) {
+    case Pulsanti::SiNo:
+        return Risposta::No;
+    case Pulsanti::SiNoAnnulla:
+        return Risposta::Annulla;
+    default:
+        return Risposta::OK;
+    }
+}
+
+void mostraIcona(QMessageBox &box, Icona icona)
+{
     switch (icona) {
     case Icona::Nessuna:
         break;
@@ -63,6 +64,10 @@ Risposta messaggio(const QString &testo, Icona icona, Pulsanti pulsanti, const Q
         box.setIcon(QMessageBox::Critical);
         break;
     }
+}
+
+void mostraPulsanti(QMessageBox &box, Pulsanti pulsanti)
+{
     switch (pulsanti) {
     case Pulsanti::OK:
         box.setStandardButtons(QMessageBox::Ok);
@@ -74,7 +79,25 @@ Risposta messaggio(const QString &testo, Icona icona, Pulsanti pulsanti, const Q
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
         break;
     }
-    switch (box.exec()) {
+}
+
+} // namespace
+
+Risposta messaggio(const QString &testo, Icona icona, Pulsanti pulsanti, const QString &titolo)
+{
+    // Not on the stack: it belongs to the window beneath, which may go first.
+    const QPointer<Riquadro> box = new Riquadro(Finestra::Davanti());
+    box->setObjectName(u"Messaggio"_s);
+    box->setWindowTitle(titolo.isEmpty() ? u"Lumbra"_s : titolo);
+    box->setTextFormat(Qt::PlainText);
+    box->setText(testo);
+    mostraIcona(*box, icona);
+    mostraPulsanti(*box, pulsanti);
+    const int premuto = box->exec();
+    if (!box)
+        return senzaRisposta(pulsanti);
+    delete box;
+    switch (premuto) {
     case QMessageBox::Yes:
         return Risposta::Si;
     case QMessageBox::No:

@@ -44,6 +44,7 @@ void frmOpzioni::disponi()
     lblAttenzionePorta.setWordWrap(true);
     lblSpiegazioneCOM.setWordWrap(true);
     lblAttenzionePorta.setForeColor(QColor(0xB0, 0x1C, 0x1C));
+    setDialogo();
     setPredefinito(&pulOK);
     setAnnulla(&pulAnnulla);
 
@@ -101,7 +102,7 @@ void frmOpzioni::leggiFile()
         Archivio::chiudi();
         SuGiu.setValue(Numeri::Intero(txtPorta.Text()));
     } catch (const Errore &) {
-        Archivio::chiudi();
+        Archivio::abbandona();
         if (!testo.isEmpty())
             return;
         lblAttenzionePorta.show();
@@ -111,7 +112,7 @@ void frmOpzioni::leggiFile()
         Archivio::apri(1, u"Prog.dat"_s, Archivio::Modo::Lettura);
         opzCollegaAut.setValue(Numeri::Byte(Archivio::leggiNumero(1)));
     });
-    Archivio::chiudi();
+    Archivio::abbandona();
 }
 
 void frmOpzioni::pulOK_Click()

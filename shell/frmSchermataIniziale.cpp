@@ -91,6 +91,11 @@ void frmSchermataIniziale::Load()
         u"Versione %1.%2.%3"_s.arg(Versione::Major).arg(Versione::Minor).arg(Versione::Revision));
 }
 
+void frmSchermataIniziale::QueryUnload(bool &Cancel, Chiusura UnloadMode)
+{
+    Cancel = UnloadMode == Chiusura::Utente;
+}
+
 void frmSchermataIniziale::pulNonCollegare_Click()
 {
     pulNonCollegare.setTag(Numeri::TestoLogico(true));

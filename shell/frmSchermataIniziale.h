@@ -28,6 +28,8 @@ public:
 protected:
     void Disegno() override;
     void Load() override;
+    // It goes with the start, and only then.
+    void QueryUnload(bool &Cancel, Chiusura UnloadMode) override;
 
 private:
     void disponi();

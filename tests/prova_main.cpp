@@ -1,19 +1,17 @@
-// The main of every test program: offscreen unless told otherwise, and the same locale everywhere.
-#include "Aspetto.h"
+// The main of every test program: offscreen unless told otherwise, and else set up as the program
+// itself.
+#include "Applicazione.h"
 
 #include <QApplication>
-#include <QLocale>
 #include <gmock/gmock.h>
 
 int main(int argc, char **argv)
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
     ::testing::InitGoogleMock(&argc, argv);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("lumbra-prova"));
-    QApplication::setQuitOnLastWindowClosed(false);
-    impostaAspetto();
+    preparaApplicazione(app);
     return RUN_ALL_TESTS();
 }

@@ -57,6 +57,7 @@ private:
     void Schermo_MouseUp();
     void Schermo_DblClick();
 
+    bool tasto(const QKeyEvent &evento);
     void muoviMirino(int colonne, int righe);
     void mostraMirino();
     void spazio();

@@ -13,8 +13,17 @@ constexpr int passoLungo = 10;
 
 void frmCamera::keyPressEvent(QKeyEvent *evento)
 {
-    const int passo = evento->modifiers().testFlag(Qt::ControlModifier) ? passoLungo : 1;
-    switch (Tasti::codice(*evento)) {
+    bool suo = false;
+    eseguiGestore([&] { suo = tasto(*evento); });
+    if (!suo)
+        Finestra::keyPressEvent(evento);
+}
+
+// Whether the picture takes the key.
+bool frmCamera::tasto(const QKeyEvent &evento)
+{
+    const int passo = evento.modifiers().testFlag(Qt::ControlModifier) ? passoLungo : 1;
+    switch (Tasti::codice(evento)) {
     case Tasti::Sinistra:
         muoviMirino(-passo, 0);
         break;
@@ -28,8 +37,8 @@ void frmCamera::keyPressEvent(QKeyEvent *evento)
         muoviMirino(0, passo);
         break;
     case Tasti::Spazio:
-        if (!evento->isAutoRepeat())
-            eseguiGestore([this] { spazio(); });
+        if (!evento.isAutoRepeat())
+            spazio();
         break;
     case Tasti::Esc:
         if (m_traccia)
@@ -37,12 +46,13 @@ void frmCamera::keyPressEvent(QKeyEvent *evento)
         lasciaMirino();
         break;
     case Tasti::F5:
-        if (!evento->isAutoRepeat())
-            eseguiGestore([this] { Schermo_DblClick(); });
+        if (!evento.isAutoRepeat())
+            Schermo_DblClick();
         break;
     default:
-        Finestra::keyPressEvent(evento);
+        return false;
     }
+    return true;
 }
 
 // In pixels of the frame; the first move begins at the middle.

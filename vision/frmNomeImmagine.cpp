@@ -51,6 +51,7 @@ void frmNomeImmagine::disponi()
     QFont corsivo = lblAttesa.font();
     corsivo.setItalic(true);
     lblAttesa.setFont(corsivo);
+    setDialogo();
     setPredefinito(&pulOK);
     setAnnulla(&pulAnnulla);
 

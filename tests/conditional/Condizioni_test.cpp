@@ -45,6 +45,30 @@ TEST_F(CondizioniTest, ADoubleClickAsksForTheConditionOfItsLine)
     EXPECT_FALSE(dialogo.Caricata());
 }
 
+TEST_F(CondizioniTest, ADoubleClickBelowTheLinesOrWithAnotherButtonAsksNothing)
+{
+    mostraVigilio({u"a.sqm"_s});
+    imposta(0, fabbrica);
+    scegli(0);
+    processor.lstFile.setListIndex(0);
+    int dialoghi = 0;
+    const ConModale utente(u"frmImpCondizioni"_s, [&] {
+        ++dialoghi;
+        dialogo.pulAnnulla.click();
+    });
+    const QWidget &dove = *processor.lstFile.viewport();
+    const QPoint riga(120,
+                      processor.lstFile.visualItemRect(processor.lstFile.item(0)).center().y());
+    const QPoint sotto(120, dove.height() - 5);
+    ASSERT_EQ(processor.lstFile.itemAt(sotto), nullptr);
+    for (const auto &[pulsante, punto] :
+         {std::pair(Qt::LeftButton, sotto), std::pair(Qt::RightButton, riga),
+          std::pair(Qt::MiddleButton, riga), std::pair(Qt::RightButton, sotto)})
+        QTest::mouseDClick(processor.windowHandle(), pulsante, {}, dove.mapTo(&processor, punto));
+    EXPECT_EQ(dialoghi, 0);
+    EXPECT_EQ(scelte(), QList<bool>{true});
+}
+
 TEST_F(CondizioniTest, CancellingTakesTheCheckMarkAwayAndKeepsTheCondition)
 {
     mostraVigilio({u"a.sqm"_s});

@@ -113,6 +113,14 @@ TEST_F(MotoreTest, StoppingWhenNothingIsStartedTouchesOnlyTheFontAndTheTag)
     EXPECT_FALSE(editor.Visible());
 }
 
+TEST_F(MotoreTest, TheStartBringsAMinimisedEditorBack)
+{
+    editor.Mostra();
+    editor.setWindowState(1);
+    avvia({{u"a.sqm"_s, u"no,no,25,no,no"_s}});
+    EXPECT_EQ(editor.WindowState(), 0);
+}
+
 TEST_F(MotoreTest, WithoutAConnectionItAsksAndNoEndsIt)
 {
     const RispondiMessaggi messaggi(QMessageBox::No);

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 #include <gmock/gmock.h>
 
 TEST(AvvioConsole, ConnectsWhereTheFileSaysOne)
@@ -114,6 +115,26 @@ TEST(AvvioConsole, AnAttemptThatFailsSaysSoAndThenTheConsoleComesUp)
     EXPECT_EQ(c.pannello(1), u"Non connesso"_s);
     EXPECT_FALSE(c.finestra.COM.PortOpen());
     EXPECT_FALSE(c.finestra.splash.Visible());
+}
+
+TEST(AvvioConsole, ItsBoxesStandOverTheSplashThoughAnotherProgramIsInFront)
+{
+    RispondiMessaggi messaggi;
+    ConsoleInProva c;
+    c.cartella.scrivi(u"prog.dat"_s, "1;");
+    c.robot.guasti().silenzio = true;
+    c.finestra.tmrChiusuraAutomatica.setInterval(20);
+    QWindow altro;
+    altro.resize(100, 100);
+    QTimer::singleShot(0, &altro, [&] {
+        altro.show();
+        altro.requestActivate();
+    });
+    const QWidget *sopra = nullptr;
+    messaggi.mentreAperto = [&](const QMessageBox &box) { sopra = box.parentWidget(); };
+    c.mostra();
+    EXPECT_EQ(messaggi.testi(), QStringList{u"Collegamento non riuscito!"_s});
+    EXPECT_EQ(sopra, &c.finestra.splash);
 }
 
 TEST(AvvioConsole, AMissingPortFileAsksForThePortOverTheSplash)

@@ -94,6 +94,21 @@ TEST(BarraPulsanti, AWindowThatIsVisibleAlreadyIsNotLoadedAgain)
     EXPECT_EQ(c.frmProcessor.caricamenti, 1);
 }
 
+TEST(BarraPulsanti, AWindowThatIsMinimisedComesBack)
+{
+    ConsoleInProva c;
+    c.mostra();
+    for (const int numero : {5, 6}) {
+        Finestra &finestra = numero == 5 ? static_cast<Finestra &>(c.frmEditor) : c.frmProcessor;
+        c.clicca(pulsante(c, numero));
+        finestra.setWindowState(1);
+        c.clicca(pulsante(c, numero));
+        EXPECT_TRUE(finestra.Visible()) << numero;
+        EXPECT_EQ(finestra.WindowState(), 0) << numero;
+    }
+    EXPECT_EQ(c.frmProcessor.caricamenti, 1);
+}
+
 TEST(BarraPulsanti, WithoutAConnectionTheFilesCannotBeSeen)
 {
     RispondiMessaggi messaggi;

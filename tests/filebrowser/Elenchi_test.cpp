@@ -387,6 +387,30 @@ TEST_F(Elenchi, ADoubleClickBesideTheRowsDoesNothing)
     EXPECT_TRUE(esplora.isEnabled());
 }
 
+TEST_F(Elenchi, ADoubleClickBesideTheRowsOrWithAnotherButtonLeavesTheChosenRowAlone)
+{
+    apri({"foto"}, {"a.jpg"});
+    scritti();
+    for (Elenco *lista : {&esplora.lstCartelle, &esplora.lstFile}) {
+        lista->setListIndex(0);
+        QWidget &sopra = *lista->viewport();
+        const QPoint riga = lista->visualItemRect(lista->item(0)).center();
+        const QPoint sotto(riga.x(), sopra.height() - 5);
+        ASSERT_EQ(lista->itemAt(sotto), nullptr);
+        for (const auto &[pulsante, punto] :
+             {std::pair(Qt::LeftButton, sotto), std::pair(Qt::RightButton, riga),
+              std::pair(Qt::MiddleButton, riga), std::pair(Qt::RightButton, sotto)}) {
+            QTest::mouseClick(&sopra, pulsante, {}, punto);
+            QMouseEvent secondo(QEvent::MouseButtonDblClick, punto, sopra.mapToGlobal(punto),
+                                pulsante, pulsante, Qt::NoModifier);
+            QApplication::sendEvent(&sopra, &secondo);
+        }
+    }
+    EXPECT_EQ(scritti(), QByteArray());
+    EXPECT_TRUE(esplora.isEnabled());
+    EXPECT_EQ(esplora.lstFile.ListCount(), 1);
+}
+
 TEST_F(Elenchi, ClosedInTheMiddleOfAListingTheRestIsTakenAndAsksForNothing)
 {
     esplora.Mostra();

@@ -332,6 +332,8 @@ TEST_F(EsecuzioneTest, TheMouseCannotMoveTheSelectionOfARun)
     EXPECT_EQ(lista.ListIndex(), 1);
     QTest::mouseDClick(editor.windowHandle(), Qt::LeftButton, {}, posto(3));
     EXPECT_EQ(lista.ListIndex(), 1);
+    // The second press would have brought the focus back, and the keyboard would move the run.
+    EXPECT_TRUE(editor.pulEsegui.hasFocus());
 }
 
 TEST_F(EsecuzioneTest, AtRestTheMouseMovesTheSelection)

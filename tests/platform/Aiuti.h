@@ -96,6 +96,8 @@ public:
     }
 
     QStringList diario;
+    // How many times it was brought before the others.
+    int alzate = 0;
     std::function<void()> inLoad;
     std::function<void()> inKeyDown;
     bool rifiutaQuery = false;
@@ -114,6 +116,12 @@ public:
     qsizetype volte(const QString &riga) const { return diario.count(riga); }
 
 protected:
+    bool event(QEvent *evento) override
+    {
+        if (evento->type() == QEvent::ZOrderChange)
+            ++alzate;
+        return Finestra::event(evento);
+    }
     void Initialize() override { diario += u"Initialize"_s; }
     void Load() override
     {

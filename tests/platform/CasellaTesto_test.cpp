@@ -4,7 +4,9 @@
 #include "Messaggi.h"
 
 #include <QClipboard>
+#include <QDropEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <memory>
 
 namespace {
@@ -170,6 +172,54 @@ TEST_F(CasellaTestoTest, pasted_text_is_not_filtered)
     EXPECT_EQ(testo.Text(), u"abc"_s);
     EXPECT_EQ(volte, 0);
     EXPECT_EQ(modifiche, QStringList{u"abc"_s});
+}
+
+TEST_F(CasellaTestoTest, a_line_break_becomes_a_blank_however_it_comes)
+{
+    pronta();
+    const QString conRotture = u"a\r\nb\nc\rd\u2028e\u2029f\u0085g\vh\fi"_s;
+    const QString senza = u"a b c d e f g h i"_s;
+    const std::pair<const char *, std::function<void()>> strade[] = {
+        {"pasted by key",
+         [&] {
+             QApplication::clipboard()->setText(conRotture);
+             QTest::keySequence(&testo, QKeySequence::Paste);
+         }},
+        {"pasted from the menu",
+         [&] {
+             QApplication::clipboard()->setText(conRotture);
+             testo.paste();
+         }},
+        {"dropped",
+         [&] {
+             QMimeData dati;
+             dati.setText(conRotture);
+             QDropEvent evento({2, 2}, Qt::CopyAction, &dati, Qt::LeftButton, {});
+             QApplication::sendEvent(&testo, &evento);
+         }},
+        {"composed",
+         [&] {
+             QInputMethodEvent composto;
+             composto.setCommitString(conRotture);
+             QApplication::sendEvent(&testo, &composto);
+         }},
+        {"by code", [&] { testo.setText(conRotture); }},
+        {"in its middle",
+         [&] {
+             testo.setText(u"ai"_s);
+             testo.setCursorPosition(1);
+             testo.insert(u"\nb\nc\nd\ne\nf\ng\nh\n"_s);
+         }},
+    };
+    for (const auto &[nome, strada] : strade) {
+        SCOPED_TRACE(nome);
+        testo.clear();
+        modifiche.clear();
+        strada();
+        EXPECT_EQ(testo.Text(), senza);
+        for (const QString &visto : modifiche)
+            EXPECT_FALSE(visto.contains(u'\n')) << "a handler has seen it";
+    }
 }
 
 TEST_F(CasellaTestoTest, a_character_composed_by_an_input_method_is_filtered_too)

@@ -23,6 +23,15 @@ struct ElencoTest : ::testing::Test
     {
         QTest::mouseClick(quale.viewport(), Qt::LeftButton, con, punto(quale, riga));
     }
+    // The second press alone, as the window system gives it.
+    static void doppioClick(Elenco &quale, Qt::MouseButton pulsante, QPoint dove)
+    {
+        QWidget &sopra = *quale.viewport();
+        QMouseEvent premuto(QEvent::MouseButtonDblClick, dove, sopra.mapToGlobal(dove), pulsante,
+                            pulsante, {});
+        QApplication::sendEvent(&sopra, &premuto);
+        QTest::mouseRelease(&sopra, pulsante, {}, dove);
+    }
     static QStringList righe(const Elenco &quale)
     {
         QStringList tutte;
@@ -327,6 +336,56 @@ TEST_F(ElencoTest, a_double_click_raises_its_event)
     premi(lista, 1);
     QTest::mouseDClick(lista.viewport(), Qt::LeftButton, {}, punto(lista, 1));
     EXPECT_EQ(doppi, 1);
+}
+
+TEST_F(ElencoTest, a_double_click_counts_with_the_left_button_and_on_a_row_only)
+{
+    finestra.mostraAttiva();
+    int doppi = 0;
+    lista.DblClick.collega([&] { ++doppi; });
+    const auto doppio = [&](Qt::MouseButton pulsante, QPoint dove, QPoint secondo) {
+        doppi = 0;
+        QTest::mouseClick(lista.viewport(), pulsante, {}, dove);
+        doppioClick(lista, pulsante, secondo);
+        return doppi;
+    };
+    const QPoint accanto(100, 190);
+    EXPECT_EQ(doppio(Qt::LeftButton, punto(lista, 1), punto(lista, 1)), 1);
+    EXPECT_EQ(doppio(Qt::RightButton, punto(lista, 1), punto(lista, 1)), 0);
+    EXPECT_EQ(doppio(Qt::MiddleButton, punto(lista, 1), punto(lista, 1)), 0);
+    EXPECT_EQ(doppio(Qt::LeftButton, accanto, accanto), 0);
+    EXPECT_EQ(doppio(Qt::RightButton, accanto, accanto), 0);
+    // Two quick clicks on neighbours.
+    EXPECT_EQ(doppio(Qt::LeftButton, punto(lista, 1), punto(lista, 2)), 0);
+    EXPECT_EQ(doppio(Qt::LeftButton, accanto, punto(lista, 2)), 0);
+    EXPECT_EQ(doppio(Qt::LeftButton, punto(lista, 2), accanto), 0);
+}
+
+TEST_F(ElencoTest, a_row_that_went_between_the_presses_is_not_double_clicked)
+{
+    finestra.mostraAttiva();
+    int doppi = 0;
+    lista.DblClick.collega([&] { ++doppi; });
+    premi(lista, 1);
+    lista.RemoveItem(1);
+    doppioClick(lista, Qt::LeftButton, punto(lista, 1));
+    EXPECT_EQ(doppi, 0);
+}
+
+TEST_F(ElencoTest, the_second_press_of_a_double_click_is_a_press)
+{
+    finestra.mostraAttiva();
+    QStringList eventi;
+    lista.MouseDown.collega(
+        [&](int quale, int, double, double) { eventi += u"giu %1"_s.arg(quale); });
+    lista.DblClick.collega([&] { eventi += u"doppio"_s; });
+    premi(lista, 1);
+    doppioClick(lista, Qt::LeftButton, punto(lista, 1));
+    EXPECT_EQ(eventi, (QStringList{u"giu 1"_s, u"giu 1"_s, u"doppio"_s}));
+    EXPECT_EQ(click, QList<int>{1}) << "the row is chosen by the first press";
+    eventi.clear();
+    doppioClick(lista, Qt::RightButton, {100, 190});
+    EXPECT_EQ(eventi, QStringList{u"giu 2"_s});
 }
 
 TEST_F(ElencoConSpunteTest, a_check_mark_set_by_code_raises_click_once)

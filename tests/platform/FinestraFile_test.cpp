@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <memory>
 
 using ManoSuiFile = Mano<QFileDialog>;
 
@@ -197,4 +198,29 @@ TEST_F(FinestraFileTest, speaks_italian_whatever_the_systems_language_is)
             std::_Exit(0);
         },
         ::testing::ExitedWithCode(0), "Apri\\|Apri\\|Annulla\\|Salva con nome\\|Salva\\|Annulla$");
+}
+
+TEST_F(FinestraFileTest, stands_over_a_window_of_the_program)
+{
+    FinestraDiProva altra(u"frmAltra"_s);
+    finestra.mostraAttiva();
+    altra.mostraAttiva();
+    altra.Scarica();
+    const AltroProgramma altro;
+    QWidget *sopra = nullptr;
+    const ManoSuiFile mano([&](QFileDialog &dialogo) {
+        sopra = dialogo.parentWidget();
+        dialogo.reject();
+    });
+    EXPECT_EQ(erroreDi([&] { finestre.ShowOpen(); }), 32755);
+    EXPECT_EQ(sopra, &finestra);
+}
+
+TEST_F(FinestraFileTest, a_window_that_goes_beneath_it_cancels_it)
+{
+    auto sotto = std::make_unique<FinestraDiProva>(u"frmAltra"_s);
+    sotto->mostraAttiva();
+    const ManoSuiFile mano([&](QFileDialog &) { sotto.reset(); });
+    EXPECT_EQ(erroreDi([&] { finestre.ShowSave(); }), 32755);
+    EXPECT_EQ(finestre.FileName(), QString());
 }

@@ -69,6 +69,80 @@ TEST_F(FinestraTest, showing_it_again_does_nothing)
     EXPECT_EQ(finestra.diario, dopoMostra());
 }
 
+TEST_F(FinestraTest, shown_again_while_it_is_open_it_is_raised_and_nothing_else)
+{
+    finestra.mostraAttiva();
+    finestra.diario.clear();
+    finestra.alzate = 0;
+    finestra.Mostra();
+    EXPECT_EQ(finestra.alzate, 1);
+    EXPECT_TRUE(finestra.diario.isEmpty());
+}
+
+TEST_F(FinestraTest, shown_again_while_it_is_minimised_it_comes_back_as_it_was)
+{
+    finestra.mostraAttiva();
+    for (const bool ingrandita : {false, true}) {
+        finestra.setWindowState(ingrandita ? 2 : 0);
+        static_cast<QWidget &>(finestra).setWindowState(finestra.windowState() |
+                                                        Qt::WindowMinimized);
+        ASSERT_EQ(finestra.WindowState(), 1);
+        finestra.diario.clear();
+        finestra.alzate = 0;
+        finestra.Mostra();
+        EXPECT_EQ(finestra.WindowState(), ingrandita ? 2 : 0);
+        EXPECT_EQ(finestra.alzate, 1);
+        EXPECT_TRUE(finestra.diario.isEmpty());
+    }
+}
+
+TEST_F(FinestraTest, can_be_maximised_only_if_it_can_be_resized)
+{
+    FinestraDiProva fissa(u"frmPrincipale"_s);
+    fissa.setFixedSize(300, 200);
+    for (Finestra *quale : std::initializer_list<Finestra *>{&finestra, &fissa}) {
+        quale->Mostra();
+        EXPECT_EQ(quale->windowType(), Qt::Window);
+        const Qt::WindowFlags pulsanti = quale->windowFlags();
+        EXPECT_TRUE(pulsanti.testFlag(Qt::WindowMinimizeButtonHint));
+        EXPECT_TRUE(pulsanti.testFlag(Qt::WindowCloseButtonHint));
+        EXPECT_EQ(pulsanti.testFlag(Qt::WindowMaximizeButtonHint), quale == &finestra);
+    }
+}
+
+TEST_F(FinestraTest, as_a_dialog_it_has_neither_minimise_nor_maximise)
+{
+    Qt::WindowFlags pulsanti;
+    QTimer::singleShot(20, &finestra, [&] {
+        pulsanti = finestra.windowFlags();
+        finestra.Nascondi();
+    });
+    finestra.MostraModale();
+    EXPECT_EQ(pulsanti & Qt::WindowType_Mask, Qt::Dialog);
+    EXPECT_FALSE(pulsanti.testFlag(Qt::WindowMinimizeButtonHint));
+    EXPECT_FALSE(pulsanti.testFlag(Qt::WindowMaximizeButtonHint));
+    EXPECT_TRUE(pulsanti.testFlag(Qt::WindowCloseButtonHint));
+    // Without this the window system adds what it likes.
+    EXPECT_TRUE(pulsanti.testFlag(Qt::CustomizeWindowHint));
+}
+
+TEST_F(FinestraTest, a_dialog_belongs_to_the_window_beneath_though_another_program_is_in_front)
+{
+    FinestraDiProva altra(u"frmAltra"_s);
+    finestra.mostraAttiva();
+    altra.mostraAttiva();
+    altra.Scarica();
+    FinestraDiProva dialogo(u"frmDialogo"_s);
+    const AltroProgramma altro;
+    const QWindow *sopra = nullptr;
+    QTimer::singleShot(20, &dialogo, [&] {
+        sopra = dialogo.windowHandle()->transientParent();
+        dialogo.Nascondi();
+    });
+    dialogo.MostraModale();
+    EXPECT_EQ(sopra, finestra.windowHandle());
+}
+
 TEST_F(FinestraTest, hidden_it_keeps_its_state_and_is_not_loaded_anew)
 {
     CasellaTesto testo(u"txt"_s, &finestra, u"1"_s);

@@ -3,6 +3,9 @@
 #include "Aiuti.h"
 #include "Italiano.h"
 
+#include <QPointer>
+#include <memory>
+
 namespace {
 
 QString nudo(const QString &testo)
@@ -20,6 +23,26 @@ Risposta risposta(Pulsanti pulsanti, const std::function<void(QMessageBox &)> &g
 void premi(QMessageBox &box, QMessageBox::StandardButton quale)
 {
     QTest::mouseClick(box.button(quale), Qt::LeftButton);
+}
+
+// What the box stands over.
+QWidget *genitore()
+{
+    QWidget *sopra = nullptr;
+    const ManoSuiMessaggi mano([&](QMessageBox &box) {
+        sopra = box.parentWidget();
+        premiOK(box);
+    });
+    messaggio(u"Collegamento non riuscito!"_s);
+    return sopra;
+}
+
+// A dialog that is shown and gone again.
+void passa(Finestra &dialogo)
+{
+    QTimer::singleShot(0, &dialogo, [&] { dialogo.Nascondi(); });
+    dialogo.MostraModale();
+    dialogo.Scarica();
 }
 
 } // namespace
@@ -123,4 +146,176 @@ TEST(Messaggi, the_standard_buttons_speak_italian_whatever_the_systems_language_
             std::_Exit(0);
         },
         ::testing::ExitedWithCode(0), "Sì\\|No\\|Annulla\\|OK$");
+}
+
+TEST(Messaggi, stands_over_the_active_window)
+{
+    FinestraDiProva console(u"frmPrincipale"_s);
+    FinestraDiProva altra(u"frmEditor"_s);
+    altra.mostraAttiva();
+    console.mostraAttiva();
+    EXPECT_EQ(genitore(), &console);
+}
+
+TEST(Messaggi, with_another_program_in_front_stands_over_the_window_that_was_active_last)
+{
+    FinestraDiProva console(u"frmPrincipale"_s);
+    FinestraDiProva editor(u"frmEditor"_s);
+    FinestraDiProva camera(u"frmCamera"_s);
+    for (FinestraDiProva *finestra : {&console, &editor, &camera})
+        finestra->mostraAttiva();
+    const AltroProgramma altro;
+    EXPECT_EQ(genitore(), &camera);
+    // One after the other goes, without another one coming to the front.
+    camera.Scarica();
+    EXPECT_EQ(genitore(), &editor);
+    editor.Nascondi();
+    EXPECT_EQ(genitore(), &console);
+}
+
+TEST(Messaggi, after_a_dialog_it_stands_over_the_window_beneath)
+{
+    FinestraDiProva vigilio(u"frmProcessor"_s);
+    FinestraDiProva dialogo(u"frmImpCondizioni"_s);
+    vigilio.mostraAttiva();
+    passa(dialogo);
+    const AltroProgramma altro;
+    EXPECT_EQ(genitore(), &vigilio);
+}
+
+TEST(Messaggi, stands_over_a_window_that_is_not_minimised_if_there_is_one)
+{
+    FinestraDiProva editor(u"frmEditor"_s);
+    FinestraDiProva console(u"frmPrincipale"_s);
+    editor.mostraAttiva();
+    console.mostraAttiva();
+    const AltroProgramma altro;
+    console.setWindowState(1);
+    EXPECT_EQ(genitore(), &editor);
+    editor.setWindowState(1);
+    EXPECT_NE(genitore(), nullptr);
+}
+
+TEST(Messaggi, has_a_parent_though_no_window_is_on_the_screen)
+{
+    FinestraDiProva console(u"frmPrincipale"_s);
+    FinestraDiProva splash(u"frmSchermataIniziale"_s);
+    splash.Mostra();
+    EXPECT_EQ(genitore(), &splash);
+    splash.Scarica();
+    EXPECT_NE(genitore(), nullptr);
+}
+
+TEST(Messaggi, stands_over_a_dialog_that_is_open)
+{
+    FinestraDiProva console(u"frmPrincipale"_s);
+    FinestraDiProva dialogo(u"frmOpzioni"_s);
+    console.mostraAttiva();
+    QWidget *sopra = nullptr;
+    QTimer::singleShot(0, &dialogo, [&] {
+        const AltroProgramma altro;
+        sopra = genitore();
+        dialogo.Nascondi();
+    });
+    dialogo.MostraModale();
+    EXPECT_EQ(sopra, &dialogo);
+}
+
+TEST(Messaggi, a_second_box_stands_over_the_first_and_each_gives_its_own_answer)
+{
+    FinestraDiProva console(u"frmPrincipale"_s);
+    console.mostraAttiva();
+    QPointer<QMessageBox> prima;
+    bool sopraLaPrima = false;
+    Risposta seconda = Risposta::OK;
+    const ManoSuiMessaggi mano([&](QMessageBox &box) {
+        prima = &box;
+        seconda = messaggio(u"seconda"_s, Icona::Domanda, Pulsanti::SiNo);
+        premi(box, QMessageBox::Cancel);
+    });
+    // The hand on the first box is busy until the second is answered.
+    const ManoSuiMessaggi altra([&](QMessageBox &box) {
+        if (!prima || &box == prima)
+            return;
+        sopraLaPrima = box.parentWidget() == prima;
+        premi(box, QMessageBox::Yes);
+    });
+    EXPECT_EQ(messaggio(u"prima"_s, Icona::Domanda, Pulsanti::SiNoAnnulla), Risposta::Annulla);
+    EXPECT_EQ(seconda, Risposta::Si);
+    EXPECT_TRUE(sopraLaPrima);
+}
+
+TEST(Messaggi, a_first_box_that_is_closed_beneath_the_second_leaves_the_second)
+{
+    FinestraDiProva console(u"frmPrincipale"_s);
+    console.mostraAttiva();
+    QPointer<QMessageBox> prima;
+    bool secondaRimasta = false;
+    Risposta seconda = Risposta::OK;
+    const ManoSuiMessaggi mano([&](QMessageBox &box) {
+        prima = &box;
+        seconda = messaggio(u"seconda"_s, Icona::Domanda, Pulsanti::SiNo);
+    });
+    const ManoSuiMessaggi altra([&](QMessageBox &box) {
+        if (!prima || &box == prima)
+            return;
+        prima->close();
+        secondaRimasta = box.isVisible();
+        premi(box, QMessageBox::Yes);
+    });
+    EXPECT_EQ(messaggio(u"prima"_s, Icona::Domanda, Pulsanti::SiNoAnnulla), Risposta::Annulla);
+    EXPECT_TRUE(secondaRimasta);
+    EXPECT_EQ(seconda, Risposta::Si);
+}
+
+TEST(Messaggi, a_window_that_goes_while_its_box_stands_takes_it_along_as_cancelled)
+{
+    FinestraDiProva console(u"frmPrincipale"_s);
+    const std::pair<Pulsanti, Risposta> casi[] = {{Pulsanti::OK, Risposta::OK},
+                                                  {Pulsanti::SiNo, Risposta::No},
+                                                  {Pulsanti::SiNoAnnulla, Risposta::Annulla}};
+    for (const auto &[pulsanti, attesa] : casi) {
+        auto finestra = std::make_unique<FinestraDiProva>();
+        finestra->mostraAttiva();
+        EXPECT_EQ(risposta(pulsanti, [&](auto &) { finestra.reset(); }), attesa);
+    }
+}
+
+TEST(Messaggi, can_be_answered_over_a_window_that_is_disabled)
+{
+    FinestraDiProva esplora(u"frmEsploraFile"_s);
+    esplora.mostraAttiva();
+    esplora.setEnabled(false);
+    EXPECT_EQ(genitore(), &esplora);
+}
+
+TEST(Messaggi, closing_a_box_ends_the_program_in_no_state_of_its_windows)
+{
+    // In a process of its own: what would end is the program.
+    EXPECT_EXIT(
+        {
+            FinestraDiProva console(u"frmPrincipale"_s);
+            FinestraDiProva splash(u"frmSchermataIniziale"_s);
+            FinestraDiProva dialogo(u"frmImpostaPorta"_s);
+            QTimer::singleShot(0, qApp, [&] {
+                genitore();
+                splash.Mostra();
+                genitore();
+                passa(dialogo);
+                genitore();
+                splash.Scarica();
+                genitore();
+                console.Mostra();
+                const AltroProgramma altro;
+                genitore();
+                console.setWindowState(1);
+                genitore();
+                console.Nascondi();
+                genitore();
+                QTimer::singleShot(50, qApp, [] { std::_Exit(7); });
+            });
+            QApplication::exec();
+            std::_Exit(0);
+        },
+        ::testing::ExitedWithCode(7), "");
 }

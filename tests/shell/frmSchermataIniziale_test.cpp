@@ -85,6 +85,18 @@ TEST(SchermataIniziale, TheAnimationRunsByItsTimer)
     EXPECT_TRUE(aspetta([&] { return splash.imgAttesa.Picture() == 1; }));
 }
 
+TEST(SchermataIniziale, TheUserCannotCloseIt)
+{
+    // It is the only window of the start: boxes stand over it.
+    frmSchermataIniziale splash;
+    splash.Mostra();
+    splash.close();
+    EXPECT_TRUE(splash.Visible());
+    EXPECT_EQ(splash.pulNonCollegare.Tag(), u"0"_s);
+    splash.Scarica();
+    EXPECT_FALSE(splash.Caricata());
+}
+
 TEST(SchermataIniziale, UnloadingStopsTheAnimation)
 {
     frmSchermataIniziale splash;

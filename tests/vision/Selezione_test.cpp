@@ -6,7 +6,9 @@
 #include "Scritte.h"
 
 #include <QTest>
+#include <cstdlib>
 #include <gtest/gtest.h>
+#include <iostream>
 
 namespace {
 
@@ -319,6 +321,23 @@ TEST_F(Selezione, ADisconnectionWhileADuplicateNameIsToldIsSurvived)
     EXPECT_FALSE(nome.Visible());
     EXPECT_FALSE(camera.Visible());
     EXPECT_EQ(banco.cartella.leggi(u"Immagini.dat"_s), "\"Palla\",1,1,5");
+}
+
+TEST_F(Selezione, AFailureInAKeysHandlerIsShownAndEndsTheProgramAsAnyOther)
+{
+    portaTasti();
+    EXPECT_EXIT(
+        {
+            RispondiMessaggi risposte;
+            risposte.mentreAperto = [](const QMessageBox &box) {
+                std::cerr << box.text().toStdString();
+            };
+            QTest::keyClick(&Schermo, Qt::Key_Space);
+            camera.setTag(u"ciao"_s);
+            QTest::keyClick(&Schermo, Qt::Key_Right);
+            std::_Exit(0);
+        },
+        testing::ExitedWithCode(1), "Tipo non corrispondente");
 }
 
 TEST_F(Selezione, TheKeyboardSelectsWhatTheMouseSelects)
