@@ -462,8 +462,8 @@ TEST_F(Conversazione, AListingWhoseBytesAreThrownAwayEndsWithTheSameError)
         EXPECT_EQ(esplora.Tag(), QString());
         EXPECT_FALSE(esplora.imgAttesa.Visible());
         EXPECT_EQ(scritti(), aperta ? b({41, 3}) : chiudiTutti());
-        // Two bytes that the waiting tick takes for the rest of what is gone.
-        robot(b({0, 4}));
+        // The waiting tick takes the next bytes for the rest of what is gone.
+        robotFinito(b({42, 9, 4}));
         premiCasa();
         EXPECT_EQ(scritti(), b({40, 16, 0}));
         robotFinito(stato(1, 0) + cima(1));

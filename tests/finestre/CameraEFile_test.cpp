@@ -9,6 +9,8 @@
 
 namespace {
 
+const QString erroreLettura = u"Errore nella lettura dei file!"_s;
+
 struct CameraEFile : ::testing::Test
 {
     CameraEFile()
@@ -33,9 +35,8 @@ struct CameraEFile : ::testing::Test
         ASSERT_FALSE(esplora.isEnabled());
         p.comandi();
     }
-    void finitaConErrore()
+    void finita()
     {
-        EXPECT_EQ(p.pannello3(), u"Errore nella lettura dei file!"_s);
         EXPECT_EQ(esplora.Tag(), QString());
         EXPECT_TRUE(esplora.isEnabled());
         EXPECT_FALSE(esplora.imgAttesa.Visible());
@@ -54,7 +55,8 @@ TEST_F(CameraEFile, ClosingTheCameraDuringAFetchEndsItWithItsError)
     preleva();
     p.camera.close();
     ASSERT_FALSE(p.camera.Visible());
-    finitaConErrore();
+    EXPECT_EQ(p.pannello3(), erroreLettura);
+    finita();
     // The window is usable: the next fetch succeeds.
     esplora.lstFile.setListIndex(0);
     QTest::keyClick(&esplora.lstFile, Qt::Key_Return);
@@ -64,11 +66,11 @@ TEST_F(CameraEFile, ClosingTheCameraDuringAFetchEndsItWithItsError)
     EXPECT_TRUE(esplora.isEnabled());
 }
 
-TEST_F(CameraEFile, AnewStartOfTheVideoDuringAFetchEndsItWithItsError)
+TEST_F(CameraEFile, AnewStartOfTheVideoDuringAFetchEndsIt)
 {
     preleva();
     p.camera.Schermo.DblClick();
-    finitaConErrore();
+    finita();
 }
 
 TEST_F(CameraEFile, ClosingTheCameraDuringAListingEndsItWithTheSameError)
@@ -77,7 +79,7 @@ TEST_F(CameraEFile, ClosingTheCameraDuringAListingEndsItWithTheSameError)
     p.manda(b({42, 3, 0}));
     p.comandi();
     p.camera.close();
-    EXPECT_EQ(p.pannello3(), u"Errore nella lettura dei file!"_s);
+    EXPECT_EQ(p.pannello3(), erroreLettura);
     EXPECT_EQ(esplora.Tag(), QString());
     EXPECT_FALSE(esplora.imgAttesa.Visible());
     EXPECT_TRUE(p.comandi().contains(b({41, 3})));
