@@ -83,9 +83,9 @@ int main(int argc, char **argv)
     frmCamera camera({principale.COM, principale.BarraPulsanti, principale.BarraStato,
                       principale.tmrElabInput, principale.lstImgCamera, principale.esitoVideo()},
                      nomeImmagine);
-    frmEsploraFile esploraFile(principale.COM, principale.BarraStato);
+    frmEsploraFile esploraFile(principale.COM, principale.BarraStato, cartella);
     principale.motore.ascoltaVideo(&camera);
-    principale.motore.ascoltaFile(&esploraFile);
+    principale.motore.ascoltaFile(&esploraFile.prelievo);
 
     ConsoleVicina console(principale);
     CameraVicina cameraVicina(camera);

@@ -21,18 +21,20 @@ namespace {
 using Orologio = std::chrono::steady_clock;
 using Millisecondi = std::chrono::duration<double, std::milli>;
 
+// A channel that was opened.
+const QByteArray aperto("\x2a\x01\0", 3);
 const QByteArray temperatura = QByteArrayLiteral("\x1f\x15");
 
 struct Banco
 {
     Terminale terminale;
     frmPrincipale console{{std::make_unique<PortaAsio>(), terminale.cartella(), [] {}}};
-    frmEsploraFile esplora{console.COM, console.BarraStato};
+    frmEsploraFile esplora{console.COM, console.BarraStato, terminale.cartella()};
 
     Banco()
     {
         QDir::setCurrent(terminale.cartella());
-        console.motore.ascoltaFile(&esplora);
+        console.motore.ascoltaFile(&esplora.prelievo);
         console.Mostra();
         terminale.scrivi(temperatura + temperatura);
         console.Collega();
@@ -69,6 +71,7 @@ void alPiuPresto(Banco &banco)
     std::vector<double> tempi;
     for (int i = 0; i < prove; ++i) {
         banco.esplora.lstFile.DblClick();
+        banco.terminale.scrivi(aperto);
         banco.scarta();
         std::atomic<Orologio::rep> ultimo = 0;
         std::thread robot([&] {
@@ -92,6 +95,7 @@ void allaVelocitaDellaLinea(Banco &banco)
     constexpr auto passo = std::chrono::milliseconds(10);
     const QByteArray byte = blocco(5000);
     banco.esplora.lstFile.DblClick();
+    banco.terminale.scrivi(aperto);
     banco.scarta();
     std::thread robot([&] {
         auto quando = Orologio::now();

@@ -11,6 +11,9 @@ namespace {
 // A file of one block is small, but a few bytes of it can claim a picture of gigabytes.
 constexpr int latoMassimo = 4096;
 
+// Pixels to a logical one, at most: the same photo is right on each screen that it is moved to.
+constexpr int finezza = 4;
+
 } // namespace
 
 bool nomeDiFoto(const QString &nome)
@@ -31,4 +34,13 @@ QPixmap leggiFoto(const QString &percorso)
     if (foto.isNull())
         throw Errore(Errore::ImmagineNonValida);
     return QPixmap::fromImage(foto);
+}
+
+QPixmap ingrandita(const QPixmap &foto, QSize posto)
+{
+    const QSize pieno = foto.size().scaled(posto * finezza, Qt::KeepAspectRatio);
+    if (foto.width() >= pieno.width())
+        return foto;
+    return foto.scaled(pieno.expandedTo(QSize(1, 1)), Qt::IgnoreAspectRatio,
+                       Qt::SmoothTransformation);
 }

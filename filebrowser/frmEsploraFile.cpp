@@ -1,14 +1,11 @@
 #include "frmEsploraFile.h"
 
 #include "Codifica.h"
-#include "ComandiTessaro.h"
 #include "Foto.h"
 #include "PercorsoRobot.h"
 #include "Tasti.h"
 
 namespace {
-
-enum Modo : quint8 { File = 1, Cartella = 16 };
 
 constexpr quint8 voceCartella = 2;
 // What the length byte of the command can tell.
@@ -24,8 +21,11 @@ double misura(double unita)
 
 } // namespace
 
-frmEsploraFile::frmEsploraFile(ControlloSeriale &com, BarraDiStato &barraStato)
-    : Finestra(u"frmEsploraFile"_s, u"Esplora Risorse"_s), COM(com), BarraStato(barraStato)
+frmEsploraFile::frmEsploraFile(ControlloSeriale &com, BarraDiStato &barraStato,
+                               const QString &cartella)
+    : Finestra(u"frmEsploraFile"_s, u"Esplora Risorse"_s),
+      prelievo(com, barraStato, cartella, *this),
+      BarraStato(barraStato)
 {
     disponi();
     Disegno();
@@ -41,8 +41,7 @@ void frmEsploraFile::Disegno()
     setTag({});
     setEnabled(true);
     lstCartelle.setTag({});
-    lstCartelle.Clear();
-    lstFile.Clear();
+    svuotaElenchi();
     m_fotogramma = 0;
     imgAttesa.setVisible(false);
     imgAttesa.setPicture(0);
@@ -59,13 +58,26 @@ void frmEsploraFile::Activate()
         pulHome_Click();
 }
 
+void frmEsploraFile::Unload(bool &)
+{
+    prelievo.lascia();
+}
+
+void frmEsploraFile::setTag(const QString &tag)
+{
+    using enum Prelievo::Attesa;
+    Finestra::setTag(tag);
+    prelievo.imposta(tag == u"Elenco"_s ? Elenco : tag == u"File"_s ? File : Niente);
+}
+
 void frmEsploraFile::pulHome_Click()
 {
-    setTag(u"Elenco"_s);
+    if (!prelievo.comincia(Prelievo::Attesa::Elenco))
+        return;
     ImmagineAttesa(true);
-    ComandiTessaro::ApriPercorso(COM, Cartella, {});
-    lstCartelle.Clear();
-    lstFile.Clear();
+    if (!prelievo.apri({}))
+        return;
+    svuotaElenchi();
     lstCartelle.setTag({});
 }
 
@@ -74,27 +86,29 @@ void frmEsploraFile::lstCartelle_DblClick()
     if (lstCartelle.ListIndex() == -1)
         return;
     const QString t = lstCartelle.Text();
-    setTag(u"Elenco"_s);
-    ComandiTessaro::ApriPercorso(COM, Cartella, Codifica::inByte(percorsoCartella(t)));
+    if (!prelievo.comincia(Prelievo::Attesa::Elenco) ||
+        !prelievo.apri(Codifica::inByte(percorsoCartella(t))))
+        return;
     lstCartelle.setTag(prefissoCartella(t));
-    lstCartelle.Clear();
-    lstFile.Clear();
+    svuotaElenchi();
 }
 
 void frmEsploraFile::lstFile_DblClick()
 {
-    if (lstFile.ListIndex() == -1)
+    if (lstFile.ListIndex() == -1 || prelievo.inCorso())
         return;
     const QString nome = lstFile.Text();
     const QByteArray percorso = Codifica::inByte(lstCartelle.Tag() + nome);
     if (percorso.size() > percorsoMassimo) {
         // The robot would take the end of such a path for commands.
-        BarraStato.setPanels(3, u"Errore nella lettura dei file!"_s);
+        prelievo.segnalaErrore();
         return;
     }
-    setTag(u"File"_s);
+    if (!prelievo.comincia(Prelievo::Attesa::File, nome))
+        return;
     setEnabled(false);
-    ComandiTessaro::ApriPercorso(COM, File, percorso);
+    if (!prelievo.apri(percorso))
+        return;
     imgFoto.setVisible(nomeDiFoto(nome));
     lblNomeFoto.setVisible(nomeDiFoto(nome));
     Resize();
@@ -118,25 +132,22 @@ void frmEsploraFile::lstFile_KeyDown(int &KeyCode, int)
     }
 }
 
-AscoltatoreFile::Attesa frmEsploraFile::attesa() const
-{
-    if (Tag() == u"Elenco")
-        return Attesa::Elenco;
-    return Tag() == u"File" ? Attesa::File : Attesa::Niente;
-}
-
 void frmEsploraFile::finisciAttesa()
 {
-    setTag({});
+    mostraAttesa({});
     lstCartelle.assesta();
     lstFile.assesta();
 }
 
-void frmEsploraFile::VisualizzaElenco(quint8 k, quint8 x, const QByteArray &corpo)
+void frmEsploraFile::svuotaElenchi()
 {
-    (x == voceCartella ? lstCartelle : lstFile).AddItem(Codifica::daByte(corpo));
-    ImmagineAttesa(true);
-    ComandiTessaro::LeggiElenco(COM, k);
+    lstCartelle.Clear();
+    lstFile.Clear();
+}
+
+void frmEsploraFile::aggiungi(quint8 x, const QString &nome)
+{
+    (x == voceCartella ? lstCartelle : lstFile).AddItem(nome);
 }
 
 void frmEsploraFile::ImmagineAttesa(bool attiva)
@@ -150,7 +161,7 @@ void frmEsploraFile::ImmagineAttesa(bool attiva)
 
 void frmEsploraFile::caricaFoto(const QString &percorso)
 {
-    imgFoto.setDisegno(leggiFoto(percorso));
+    imgFoto.setDisegno(ingrandita(leggiFoto(percorso), imgFoto.size()));
 }
 
 void frmEsploraFile::intitolaFoto(const QString &nome)

@@ -1,25 +1,27 @@
 // Walks the folders of the robot's storage, fetches a file, shows a fetched photo.
 #pragma once
 
-#include "Ascoltatori.h"
-#include "Barre.h"
-#include "ControlloSeriale.h"
 #include "Disegni.h"
 #include "ElencoCrescente.h"
 #include "EtichettaAbbreviata.h"
 #include "Finestra.h"
 #include "Nomi.h"
+#include "Prelievo.h"
 
 using namespace Qt::StringLiterals;
 
 // Tag tells what the robot's answers are for: "Elenco", "File", or nothing.
-class frmEsploraFile : public Finestra, public AscoltatoreFile
+class frmEsploraFile : public Finestra
 {
     Q_OBJECT
 
 public:
-    // The line to the robot, and the status bar whose panel 3 tells of a fetch.
-    frmEsploraFile(ControlloSeriale &COM, BarraDiStato &BarraStato);
+    // The line to the robot, the status bar whose panel 3 tells of a fetch, and the folder where
+    // fetched files go.
+    frmEsploraFile(ControlloSeriale &COM, BarraDiStato &BarraStato, const QString &cartella);
+
+    // A text written from outside says what is awaited.
+    void setTag(const QString &tag) override;
 
     ListaImmagini lstImgAttesa{Disegni::lstImgAttesa()};
 
@@ -33,17 +35,22 @@ public:
     EtichettaAbbreviata lblNomeFoto{u"lblNomeFoto"_s, this};
     Immagine imgFoto{u"imgFoto"_s, this};
 
-    // AscoltatoreFile.
-    bool visibile() const override { return Visible(); }
-    Attesa attesa() const override;
-    void finisciAttesa() override;
-    void VisualizzaElenco(quint8 k, quint8 x, const QByteArray &corpo) override;
-    void ImmagineAttesa(bool attiva) override;
-    QString nomeFile() const override { return lstFile.Text(); }
-    void caricaFoto(const QString &percorso) override;
-    void togliFoto() override { imgFoto.setPicture(0); }
-    void intitolaFoto(const QString &nome) override;
-    void riabilita() override;
+    Prelievo prelievo;
+
+    // What the conversation shows.
+    void mostraAttesa(const QString &tag) { Finestra::setTag(tag); }
+    void finisciAttesa();
+    void svuotaElenchi();
+    // x: 2 for a folder, anything else for a file.
+    void aggiungi(quint8 x, const QString &nome);
+    // Steps the wait animation, or hides it.
+    void ImmagineAttesa(bool attiva);
+    // Errore::ImmagineNonValida where the file is no photo.
+    void caricaFoto(const QString &percorso);
+    void togliFoto() { imgFoto.setPicture(0); }
+    void intitolaFoto(const QString &nome);
+    // The fetch is over: the window may be used again.
+    void riabilita();
 
 protected:
     void Disegno() override;
@@ -51,6 +58,7 @@ protected:
     void Load() override { Disegno(); }
     void Activate() override;
     void Resize() override;
+    void Unload(bool &Cancel) override;
 
 private:
     // How the window looks.
@@ -63,7 +71,6 @@ private:
     void lstCartelle_KeyDown(int &KeyCode, int Shift);
     void lstFile_KeyDown(int &KeyCode, int Shift);
 
-    ControlloSeriale &COM;
     BarraDiStato &BarraStato;
     quint8 m_fotogramma = 0;
 };

@@ -25,7 +25,7 @@ struct Banco
     BarraDiStato BarraStato{u"BarraStato"_s, &console, {10, 10, 0}};
     Etichetta testo{u"testo"_s, &console};
     Forma forma{u"forma"_s, &console};
-    frmEsploraFile esplora{COM, BarraStato};
+    frmEsploraFile esplora{COM, BarraStato, cartella};
 
     Banco()
     {
@@ -92,9 +92,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *dati, size_t quanti)
     TemporizzatoreIngresso timer(u"tmrElabInput"_s, nullptr);
     MotoreRicezione motore(banco.COM, timer,
                            {banco.BarraStato, banco.testo, banco.testo, banco.testo, banco.forma,
-                            banco.forma, banco.forma, banco.forma, banco.forma},
-                           banco.cartella);
-    motore.ascoltaFile(&banco.esplora);
+                            banco.forma, banco.forma, banco.forma, banco.forma});
+    motore.ascoltaFile(&banco.esplora.prelievo);
     // The engine of the run before may have been waiting.
     banco.COM.avvisa(false);
     if (dati[0] & 1)

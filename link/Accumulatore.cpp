@@ -31,6 +31,19 @@ void Accumulatore::svuota()
 {
     m_byte.clear();
     m_tagliati = 0;
+    if (gettato)
+        gettato();
+}
+
+void Accumulatore::sostituisci(const QByteArray &byte)
+{
+    const QByteArray prima = tutto();
+    if (byte.startsWith(prima)) {
+        aggiungi(byte.sliced(prima.size()));
+    } else {
+        svuota();
+        aggiungi(byte);
+    }
 }
 
 QString TemporizzatoreIngresso::Tag() const
@@ -40,6 +53,5 @@ QString TemporizzatoreIngresso::Tag() const
 
 void TemporizzatoreIngresso::setTag(const QString &tag)
 {
-    accumulatore.svuota();
-    accumulatore.aggiungi(Codifica::inByte(tag));
+    accumulatore.sostituisci(Codifica::inByte(tag));
 }

@@ -25,10 +25,15 @@ public:
     void aggiungi(const QByteArray &byte);
     // From the beginning; all of it where there are fewer.
     void taglia(qsizetype quanti);
+    // Throws away what is here.
     void svuota();
+    // Other bytes instead: what they begin with stays, if it is all that was here.
+    void sostituisci(const QByteArray &byte);
 
     // Called after bytes were added.
     std::function<void()> cresciuto;
+    // Called after bytes were thrown away uncut.
+    std::function<void()> gettato;
 
 private:
     QByteArray m_byte;

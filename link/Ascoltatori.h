@@ -18,25 +18,18 @@ public:
 class AscoltatoreFile
 {
 public:
-    // What the window waits for.
-    enum class Attesa { Niente, Elenco, File };
-
     virtual ~AscoltatoreFile() = default;
+    // While this is false, statuses and entries are only consumed.
     virtual bool visibile() const = 0;
-    virtual Attesa attesa() const = 0;
-    virtual void finisciAttesa() = 0;
-    // One entry of a folder: x is 2 for a folder and anything else for a file, corpo the name.
+    virtual void stato(quint8 k, quint8 x) = 0;
+    // One entry of a folder: x is its kind, corpo its name.
     virtual void VisualizzaElenco(quint8 k, quint8 x, const QByteArray &corpo) = 0;
-    // Steps the wait animation, or hides it.
-    virtual void ImmagineAttesa(bool attiva) = 0;
-    // The name of the file that was asked for, without a path.
-    virtual QString nomeFile() const = 0;
-    // Errore::ImmagineNonValida or PercorsoNonTrovato where the file can't be shown.
-    virtual void caricaFoto(const QString &percorso) = 0;
-    virtual void togliFoto() = 0;
-    virtual void intitolaFoto(const QString &nome) = 0;
-    // The fetch is over: the window may be used again.
-    virtual void riabilita() = 0;
+    // A block has begun: once at each look at it, the last one included.
+    virtual void bloccoInArrivo() = 0;
+    // A whole block of a file. May run the pump.
+    virtual void blocco(quint8 k, const QByteArray &contenuto) = 0;
+    // Bytes that were not cut into telegrams yet were thrown away.
+    virtual void byteGettati() = 0;
 };
 
 // Takes telemetry, as the conditions of lists read it.

@@ -1,16 +1,10 @@
 #include "MotoreRicezione.h"
 
 #include "Abilita_Disabilita.h"
-#include "Cartella.h"
-#include "ComandiTessaro.h"
 #include "DescriviBatteria.h"
-#include "Gest_File.h"
 #include "Gest_Variabili.h"
-#include "NomeSicuro.h"
 #include "Pompa.h"
-#include "Se_Casi.h"
 
-#include <QFileInfo>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -33,21 +27,22 @@ constexpr quint8 temperaturaMassima = 50;
 } // namespace
 
 MotoreRicezione::MotoreRicezione(ControlloSeriale &com, TemporizzatoreIngresso &timer,
-                                 const ControlliTelemetria &controlli, const QString &cartella)
-    : COM(com),
-      tmrElabInput(timer),
-      m_accumulatore(timer.accumulatore),
-      c(controlli),
-      m_cartella(cartella)
+                                 const ControlliTelemetria &controlli)
+    : COM(com), tmrElabInput(timer), m_accumulatore(timer.accumulatore), c(controlli)
 {
     tmrElabInput.Timer.collega([this] { tmrElabInput_Timer(); });
     COM.Arrivo.collega(this, &MotoreRicezione::riprendi);
     m_accumulatore.cresciuto = [this] { riprendiPresto(); };
+    m_accumulatore.gettato = [this] {
+        if (m_file)
+            m_file->byteGettati();
+    };
 }
 
 MotoreRicezione::~MotoreRicezione()
 {
     m_accumulatore.cresciuto = nullptr;
+    m_accumulatore.gettato = nullptr;
     COM.avvisa(false);
     COM.Arrivo.collega(std::function<void()>());
     if (m_sospeso)
@@ -99,7 +94,7 @@ Scatto MotoreRicezione::tmrElabInput_Timer()
             consumati = 3;
             if (m_file && m_file->visibile()) {
                 const quint8 x = co_await byte(3);
-                statoMemoria(k, x);
+                m_file->stato(k, x);
             }
             break;
         }
@@ -109,7 +104,7 @@ Scatto MotoreRicezione::tmrElabInput_Timer()
             const quint8 alto = co_await byte(4);
             const qsizetype n = basso + 256 * alto;
             if (m_file)
-                m_file->ImmagineAttesa(true);
+                m_file->bloccoInArrivo();
             // One byte beyond the body is awaited. The line may have more of it than one reading
             // takes.
             for (qsizetype prima = -1;
@@ -119,7 +114,8 @@ Scatto MotoreRicezione::tmrElabInput_Timer()
             }
             if (m_accumulatore.lunghezza() - 5 <= n)
                 co_return;
-            salvaFile(k, n);
+            if (m_file)
+                m_file->blocco(k, m_accumulatore.parte(5, n));
             consumati = n + 5;
             break;
         }
@@ -184,68 +180,6 @@ void MotoreRicezione::riferisci(const QString &testo)
 {
     if (m_telemetria && m_telemetria->avviato())
         m_telemetria->VerificaCondizioni(testo);
-}
-
-void MotoreRicezione::statoMemoria(quint8 k, quint8 x)
-{
-    using enum AscoltatoreFile::Attesa;
-    switch (x) {
-    case 0:
-        if (m_file->attesa() == Elenco) {
-            ComandiTessaro::LeggiElenco(COM, k);
-            c.BarraStato.setPanels(3, {});
-        }
-        if (m_file->attesa() == File)
-            ComandiTessaro::LeggiBlocco(COM, k, 255, 255);
-        break;
-    case 4:
-        break;
-    case 255:
-        if (m_file->attesa() == Elenco) {
-            m_file->finisciAttesa();
-            m_file->ImmagineAttesa(false);
-            ComandiTessaro::ChiudiCanale(COM, k);
-        }
-        break;
-    default:
-        c.BarraStato.setPanels(3, u"Errore nella lettura dei file!"_s);
-        for (quint8 canale = 1; canale <= 9; ++canale)
-            ComandiTessaro::ChiudiCanale(COM, canale);
-    }
-}
-
-void MotoreRicezione::salvaFile(quint8 k, qsizetype n)
-{
-    if (!m_file)
-        return;
-    const QString nome = m_file->nomeFile();
-    const QString percorso = conSeparatore(m_cartella) + nome;
-    // What would be written elsewhere, or over a file of the program's own, is refused before
-    // anything is written; a file that cannot be written is told the same way.
-    const bool scritto = nomeSicuro(nome) && !QFileInfo(percorso).isSymbolicLink() &&
-                         passaErrori([&] { ScriviFile(percorso, m_accumulatore.parte(5, n)); });
-    if (!scritto) {
-        c.BarraStato.setPanels(3, u"Errore nella lettura dei file!"_s);
-    } else {
-        c.BarraStato.setPanels(3, u"File scaricato correttamente!"_s);
-        if (nome.endsWith(u".jpg"_s)) {
-            try {
-                m_file->caricaFoto(percorso);
-            } catch (const Errore &errore) {
-                if (!ContieneValore(errore.numero(), int{Errore::PercorsoNonTrovato},
-                                    int{Errore::ImmagineNonValida}))
-                    throw;
-                pompa();
-                c.BarraStato.setPanels(3, u"Errore nella rappresentazione dell'immagine!"_s);
-                m_file->togliFoto();
-            }
-            m_file->intitolaFoto(nome);
-        }
-    }
-    m_file->finisciAttesa();
-    m_file->riabilita();
-    m_file->ImmagineAttesa(false);
-    ComandiTessaro::ChiudiCanale(COM, k);
 }
 
 bool MotoreRicezione::Byte::await_ready()

@@ -29,10 +29,9 @@ public:
     // A bar of a full battery, in layout units.
     static constexpr qint32 barraPiena = 615;
 
-    // cartella: where fetched files go. The listeners come later; without one its telegrams are
-    // consumed as with its window closed.
+    // The listeners come later; without one its telegrams are consumed as with its window closed.
     MotoreRicezione(ControlloSeriale &COM, TemporizzatoreIngresso &tmrElabInput,
-                    const ControlliTelemetria &controlli, const QString &cartella);
+                    const ControlliTelemetria &controlli);
     ~MotoreRicezione() override;
 
     void ascoltaVideo(AscoltatoreVideo *ascoltatore) { m_video = ascoltatore; }
@@ -73,8 +72,6 @@ private:
     void temperatura(quint8 t);
     void batterie(quint8 l, quint8 m);
     void riferisciUltrasuoni();
-    void statoMemoria(quint8 k, quint8 x);
-    void salvaFile(quint8 k, qsizetype n);
 
     void riprendi();
     void riprendiPresto();
@@ -85,7 +82,6 @@ private:
     TemporizzatoreIngresso &tmrElabInput;
     Accumulatore &m_accumulatore;
     ControlliTelemetria c;
-    QString m_cartella;
     AscoltatoreVideo *m_video = nullptr;
     AscoltatoreFile *m_file = nullptr;
     AscoltatoreTelemetria *m_telemetria = nullptr;

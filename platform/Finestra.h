@@ -25,7 +25,7 @@ public:
 
     // The window's own text; it outlives unloading.
     QString Tag() const { return m_tag; }
-    void setTag(const QString &tag) { m_tag = tag; }
+    virtual void setTag(const QString &tag) { m_tag = tag; }
     QString Caption() const { return windowTitle(); }
     void setCaption(const QString &testo) { setWindowTitle(testo); }
 

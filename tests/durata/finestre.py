@@ -99,7 +99,7 @@ class Finestre(Lavori):
         if not riga and not self.sporca:
             raise Guaio("the listing did not come")
         if not self.sporca:
-            # Who fetches sooner leaves the listing's channel open.
+            # While the listing runs a double click does nothing.
             self.attendi("the listing's end", lambda: (41,) in [
                 c[:1] for c in self.ascolto.scelti(RICHIESTE, SESSIONE)[gia:]])
         if riga and preleva:

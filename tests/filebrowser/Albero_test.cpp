@@ -30,7 +30,7 @@ struct Albero : ::testing::Test
         EXPECT_TRUE(robot.collegaPorta(cartella.percorso(), 1));
         cartella.scrivi(u"Porta COM"_s, "1\r\n");
         cartella.scrivi(u"prog.dat"_s, "0;");
-        console.motore.ascoltaFile(&esplora);
+        console.motore.ascoltaFile(&esplora.prelievo);
         FinestreConsole finestre;
         finestre.frmEsploraFile = &esplora;
         console.impostaFinestre(finestre);
@@ -102,7 +102,7 @@ struct Albero : ::testing::Test
     QTemporaryDir memoria;
     Simulatore robot;
     frmPrincipale console{{std::make_unique<PortaAsio>(), cartella.percorso(), [] {}}};
-    frmEsploraFile esplora{console.COM, console.BarraStato};
+    frmEsploraFile esplora{console.COM, console.BarraStato, cartella.percorso()};
     QStringList prelevati;
 };
 

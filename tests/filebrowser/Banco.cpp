@@ -68,7 +68,7 @@ QStringList voci(const Elenco &lista)
 
 Banco::Banco()
 {
-    console.motore.ascoltaFile(&esplora);
+    console.motore.ascoltaFile(&esplora.prelievo);
     console.COM.setPortOpen(true);
     console.tmrElabInput.setEnabled(true);
 }

@@ -47,5 +47,5 @@ private:
 public:
     PortaFinta &porta = *m_nuova;
     frmPrincipale console{{std::move(m_nuova), cartella.percorso(), [] {}}};
-    frmEsploraFile esplora{console.COM, console.BarraStato};
+    frmEsploraFile esplora{console.COM, console.BarraStato, cartella.percorso()};
 };

@@ -418,6 +418,7 @@ TEST_F(Elenchi, ClosedInTheMiddleOfAListingTheRestIsTakenAndAsksForNothing)
     scritti();
     esplora.close();
     EXPECT_FALSE(esplora.Visible());
+    EXPECT_EQ(scritti(), b({41, 2}));
     robotFinito(voce(2, 1, "a") + stato(2, 255) + b({31, 5}));
     EXPECT_EQ(console.lblTemperatura.Caption(), u"5°"_s);
     EXPECT_EQ(scritti(), QByteArray());
@@ -433,9 +434,15 @@ TEST_F(Elenchi, ARobotThatStopsInTheMiddleLeavesTheWindowToTheUser)
     robot(voce(2, 1, "mai finita").first(6));
     gira(50);
     EXPECT_TRUE(esplora.isEnabled());
+    // One request at a time; opening the window anew is a new one.
     scritti();
     esplora.pulHome.click();
+    EXPECT_EQ(scritti(), QByteArray());
+    esplora.close();
+    EXPECT_EQ(scritti(), b({41, 2}));
+    esplora.Mostra();
     EXPECT_EQ(scritti(), b({40, 16, 0}));
+    EXPECT_EQ(esplora.lstCartelle.ListCount(), 0);
 }
 
 TEST_F(Elenchi, ALongListingHasItsRowsInOrderAndInTheirPlaces)

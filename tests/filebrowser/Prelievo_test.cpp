@@ -17,7 +17,7 @@ const QString scaricato = u"File scaricato correttamente!"_s;
 // A telegram behind the block: the block is taken once a byte beyond it has come.
 const QByteArray seguito = b({31, 20});
 
-struct Prelievo : Banco
+struct PrelievoDiFile : Banco
 {
     // Offers one file, fetches it and lets the robot answer with that content on channel 4.
     void preleva(const QByteArray &nome, const QByteArray &contenuto)
@@ -47,7 +47,7 @@ QByteArray tuttiIByte(qsizetype quanti)
 
 } // namespace
 
-TEST_F(Prelievo, ADoubleClickAsksForTheFileAndDisablesTheWindow)
+TEST_F(PrelievoDiFile, ADoubleClickAsksForTheFileAndDisablesTheWindow)
 {
     apri({"foto"}, {"a.txt"});
     doppioClick(esplora.lstFile, 0);
@@ -60,7 +60,7 @@ TEST_F(Prelievo, ADoubleClickAsksForTheFileAndDisablesTheWindow)
     EXPECT_FALSE(esplora.lblNomeFoto.Visible());
 }
 
-TEST_F(Prelievo, EnterOnAFileFetchesItAsADoubleClickDoes)
+TEST_F(PrelievoDiFile, EnterOnAFileFetchesItAsADoubleClickDoes)
 {
     apri({"foto"}, {"a.txt", "b.jpg"});
     QTest::keyClick(&esplora.lstFile, Qt::Key_Home);
@@ -73,7 +73,7 @@ TEST_F(Prelievo, EnterOnAFileFetchesItAsADoubleClickDoes)
     EXPECT_EQ(pannello(), u"Attendere..."_s);
 }
 
-TEST_F(Prelievo, ThePrefixStandsBeforeTheName)
+TEST_F(PrelievoDiFile, ThePrefixStandsBeforeTheName)
 {
     apri({"foto"}, {});
     doppioClick(esplora.lstCartelle, 0);
@@ -83,7 +83,7 @@ TEST_F(Prelievo, ThePrefixStandsBeforeTheName)
     EXPECT_EQ(scritti(), b({40, 1, 10}) + "foto/x.jpg");
 }
 
-TEST_F(Prelievo, AnOpenChannelIsAskedForOneWholeBlock)
+TEST_F(PrelievoDiFile, AnOpenChannelIsAskedForOneWholeBlock)
 {
     apri({}, {"a.txt"});
     doppioClick(esplora.lstFile, 0);
@@ -93,7 +93,7 @@ TEST_F(Prelievo, AnOpenChannelIsAskedForOneWholeBlock)
     EXPECT_EQ(pannello(), u"Attendere..."_s);
 }
 
-TEST_F(Prelievo, TheBlockIsWrittenIntoTheProgramsFolderUnderItsName)
+TEST_F(PrelievoDiFile, TheBlockIsWrittenIntoTheProgramsFolderUnderItsName)
 {
     preleva("dati.bin", tuttiIByte(1000));
     EXPECT_EQ(cartella.elenco(), QStringList{u"dati.bin"_s});
@@ -101,14 +101,14 @@ TEST_F(Prelievo, TheBlockIsWrittenIntoTheProgramsFolderUnderItsName)
     finito(scaricato);
 }
 
-TEST_F(Prelievo, AFileOfTheLargestBlockIsWrittenWhole)
+TEST_F(PrelievoDiFile, AFileOfTheLargestBlockIsWrittenWhole)
 {
     preleva("dati.bin", tuttiIByte(65535));
     EXPECT_EQ(cartella.leggi(u"dati.bin"_s), tuttiIByte(65535));
     finito(scaricato);
 }
 
-TEST_F(Prelievo, ANameOf255BytesIsFetchedAndReplaced)
+TEST_F(PrelievoDiFile, ANameOf255BytesIsFetchedAndReplaced)
 {
     const QByteArray nome(255, 'n');
     for (const QByteArray &contenuto : {QByteArray("prima"), QByteArray("dopo")}) {
@@ -120,21 +120,29 @@ TEST_F(Prelievo, ANameOf255BytesIsFetchedAndReplaced)
     }
 }
 
-TEST_F(Prelievo, ANameOfBytesAbove127IsWrittenAsItsText)
+TEST_F(PrelievoDiFile, ANameThatIsTooLongForTheDiskIsTold)
+{
+    // 255 characters that the disk keeps in two bytes each.
+    preleva(QByteArray(255, '\xe8'), "lungo");
+    finito(erroreLettura);
+    EXPECT_EQ(cartella.elenco(), QStringList());
+}
+
+TEST_F(PrelievoDiFile, ANameOfBytesAbove127IsWrittenAsItsText)
 {
     preleva("perch\xe9 \x80\x85.txt", "ciao");
     finito(scaricato);
     EXPECT_EQ(cartella.elenco(), QStringList{u"perché €….txt"_s});
 }
 
-TEST_F(Prelievo, AnEmptyFileIsWrittenEmpty)
+TEST_F(PrelievoDiFile, AnEmptyFileIsWrittenEmpty)
 {
     preleva("vuoto.txt", {});
     EXPECT_EQ(cartella.leggi(u"vuoto.txt"_s), QByteArray());
     finito(scaricato);
 }
 
-TEST_F(Prelievo, AnEarlierFileOfThatNameIsReplaced)
+TEST_F(PrelievoDiFile, AnEarlierFileOfThatNameIsReplaced)
 {
     cartella.scrivi(u"a.txt"_s, "molto più lungo di prima");
     preleva("a.txt", "corto");
@@ -142,7 +150,7 @@ TEST_F(Prelievo, AnEarlierFileOfThatNameIsReplaced)
     EXPECT_EQ(cartella.elenco(), QStringList{u"a.txt"_s});
 }
 
-TEST_F(Prelievo, TheBlockIsTakenOnlyOnceAByteBeyondItHasCome)
+TEST_F(PrelievoDiFile, TheBlockIsTakenOnlyOnceAByteBeyondItHasCome)
 {
     apri({}, {"a.txt"});
     chiedi(u"a.txt"_s, 4);
@@ -156,7 +164,7 @@ TEST_F(Prelievo, TheBlockIsTakenOnlyOnceAByteBeyondItHasCome)
     finito(scaricato);
 }
 
-TEST_F(Prelievo, TheSpareByteOfABlockIsTakenWithItWhateverItIs)
+TEST_F(PrelievoDiFile, TheSpareByteOfABlockIsTakenWithItWhateverItIs)
 {
     apri({}, {"a.txt"});
     chiedi(u"a.txt"_s, 4);
@@ -167,7 +175,7 @@ TEST_F(Prelievo, TheSpareByteOfABlockIsTakenWithItWhateverItIs)
     EXPECT_EQ(console.lblTemperatura.Caption(), u"20°"_s);
 }
 
-TEST_F(Prelievo, TheAnimationStepsWhileTheBlockIsIncomplete)
+TEST_F(PrelievoDiFile, TheAnimationStepsWhileTheBlockIsIncomplete)
 {
     apri({}, {"a.txt"});
     chiedi(u"a.txt"_s, 4);
@@ -179,7 +187,7 @@ TEST_F(Prelievo, TheAnimationStepsWhileTheBlockIsIncomplete)
     EXPECT_TRUE(esplora.imgAttesa.Visible());
 }
 
-TEST_F(Prelievo, AFetchedPhotoIsShownUnderItsName)
+TEST_F(PrelievoDiFile, AFetchedPhotoIsShownUnderItsName)
 {
     apri({}, {"a.jpg"});
     doppioClick(esplora.lstFile, 0);
@@ -197,7 +205,7 @@ TEST_F(Prelievo, AFetchedPhotoIsShownUnderItsName)
     EXPECT_LT(colore.blue(), 16);
 }
 
-TEST_F(Prelievo, ThePhotosTipIsItsNameToTheLetter)
+TEST_F(PrelievoDiFile, ThePhotosTipIsItsNameToTheLetter)
 {
     preleva("gatti & cani, &lt;forse&gt;  due.jpg", jpeg({32, 32}));
     EXPECT_EQ(esplora.lblNomeFoto.Caption(), u"gatti & cani, &lt;forse&gt;  due.jpg"_s);
@@ -207,7 +215,7 @@ TEST_F(Prelievo, ThePhotosTipIsItsNameToTheLetter)
     EXPECT_EQ(letto.toPlainText(), u"gatti & cani, &lt;forse&gt;  due.jpg"_s);
 }
 
-TEST_F(Prelievo, APhotoLargerThanItsPlaceIsShownWhole)
+TEST_F(PrelievoDiFile, APhotoLargerThanItsPlaceIsShownWhole)
 {
     preleva("a.jpg", jpeg({1280, 960}, Qt::green));
     const QImage vista = esplora.imgFoto.grab().toImage();
@@ -215,7 +223,20 @@ TEST_F(Prelievo, APhotoLargerThanItsPlaceIsShownWhole)
         EXPECT_GT(vista.pixelColor(punto).green(), 240) << punto.x() << ' ' << punto.y();
 }
 
-TEST_F(Prelievo, ANameInCapitalsIsNoPhoto)
+TEST_F(PrelievoDiFile, APhotoSmallerThanItsPlaceIsEnlargedInItsProportions)
+{
+    // Twice as wide as high: bands above and below.
+    preleva("a.jpg", jpeg({40, 20}, Qt::green));
+    const QImage vista = esplora.imgFoto.grab().toImage();
+    for (const QPoint &punto :
+         {QPoint(6, 120), QPoint(313, 120), QPoint(160, 46), QPoint(160, 193)})
+        EXPECT_GT(vista.pixelColor(punto).green(), 240) << punto.x() << ' ' << punto.y();
+    const QColor fondo = esplora.palette().color(QPalette::Window);
+    for (const QPoint &punto : {QPoint(160, 34), QPoint(160, 205)})
+        EXPECT_EQ(vista.pixelColor(punto), fondo) << punto.y();
+}
+
+TEST_F(PrelievoDiFile, ANameInCapitalsIsNoPhoto)
 {
     preleva("a.JPG", jpeg({32, 32}));
     finito(scaricato);
@@ -224,7 +245,7 @@ TEST_F(Prelievo, ANameInCapitalsIsNoPhoto)
     EXPECT_EQ(esplora.lblNomeFoto.Caption(), QString());
 }
 
-TEST_F(Prelievo, AFileThatIsNoPhotoHidesTheOneBefore)
+TEST_F(PrelievoDiFile, AFileThatIsNoPhotoHidesTheOneBefore)
 {
     apri({}, {"a.jpg", "b.txt"});
     chiedi(u"a.jpg"_s, 4);
@@ -235,7 +256,7 @@ TEST_F(Prelievo, AFileThatIsNoPhotoHidesTheOneBefore)
     EXPECT_FALSE(esplora.lblNomeFoto.Visible());
 }
 
-TEST_F(Prelievo, APhotoThatIsNoneIsToldAndTheWorkGoesOn)
+TEST_F(PrelievoDiFile, APhotoThatIsNoneIsToldAndTheWorkGoesOn)
 {
     apri({}, {"a.jpg", "b.jpg"});
     chiedi(u"a.jpg"_s, 4);
@@ -251,7 +272,7 @@ TEST_F(Prelievo, APhotoThatIsNoneIsToldAndTheWorkGoesOn)
     EXPECT_FALSE(colore.red() > 240 && colore.blue() < 16);
 }
 
-TEST_F(Prelievo, AFetchThatFailsLeavesTheWindowDisabledUntilItIsClosed)
+TEST_F(PrelievoDiFile, AFetchThatFailsLeavesTheWindowDisabledUntilItIsClosed)
 {
     apri({"foto"}, {"a.txt"});
     doppioClick(esplora.lstFile, 0);
@@ -269,7 +290,7 @@ TEST_F(Prelievo, AFetchThatFailsLeavesTheWindowDisabledUntilItIsClosed)
     EXPECT_EQ(scritti(), b({40, 16, 0}));
 }
 
-TEST_F(Prelievo, TheEndOfAFolderIsNoAnswerToAFetch)
+TEST_F(PrelievoDiFile, TheEndOfAFolderIsNoAnswerToAFetch)
 {
     apri({"foto"}, {"a.txt"});
     chiedi(u"a.txt"_s, 4);
@@ -279,7 +300,7 @@ TEST_F(Prelievo, TheEndOfAFolderIsNoAnswerToAFetch)
     EXPECT_EQ(scritti(), QByteArray());
 }
 
-TEST_F(Prelievo, ANameThatLeavesTheFolderIsRefusedBeforeAnythingIsWritten)
+TEST_F(PrelievoDiFile, ANameThatLeavesTheFolderIsRefusedBeforeAnythingIsWritten)
 {
     const QString fuori = cartella.percorso(u"../fuori.txt"_s);
     for (const QByteArray nome : {"../fuori.txt", "..", "/tmp/fuori.txt", "..\\fuori.txt", "a/b",
@@ -292,7 +313,7 @@ TEST_F(Prelievo, ANameThatLeavesTheFolderIsRefusedBeforeAnythingIsWritten)
     }
 }
 
-TEST_F(Prelievo, TheProgramsOwnFilesAreNotOverwritten)
+TEST_F(PrelievoDiFile, TheProgramsOwnFilesAreNotOverwritten)
 {
     cartella.scrivi(u"Porta COM"_s, "3\r\n");
     cartella.scrivi(u"prog.dat"_s, "0;");
@@ -308,7 +329,7 @@ TEST_F(Prelievo, TheProgramsOwnFilesAreNotOverwritten)
     EXPECT_EQ(cartella.leggi(u"prog.dat"_s), "0;");
 }
 
-TEST_F(Prelievo, ALinkThatLeadsOutOfTheFolderIsNotFollowed)
+TEST_F(PrelievoDiFile, ALinkThatLeadsOutOfTheFolderIsNotFollowed)
 {
     const CartellaDiProva altrove;
     altrove.scrivi(u"vittima"_s, "intatta");
@@ -319,7 +340,7 @@ TEST_F(Prelievo, ALinkThatLeadsOutOfTheFolderIsNotFollowed)
     EXPECT_EQ(altrove.leggi(u"vittima"_s), "intatta");
 }
 
-TEST_F(Prelievo, AFolderOfThatNameIsToldAndStays)
+TEST_F(PrelievoDiFile, AFolderOfThatNameIsToldAndStays)
 {
     ASSERT_TRUE(QDir(cartella.percorso()).mkdir(u"a.txt"_s));
     preleva("a.txt", "ciao");
@@ -328,7 +349,7 @@ TEST_F(Prelievo, AFolderOfThatNameIsToldAndStays)
     EXPECT_TRUE(QFileInfo(cartella.percorso(u"a.txt"_s)).isDir());
 }
 
-TEST_F(Prelievo, OnAFullDiskTheOldFileStaysWhole)
+TEST_F(PrelievoDiFile, OnAFullDiskTheOldFileStaysWhole)
 {
     if (!DiscoPieno::possibile())
         GTEST_SKIP() << "no full disk here";
@@ -350,7 +371,7 @@ TEST_F(Prelievo, OnAFullDiskTheOldFileStaysWhole)
     EXPECT_EQ(cartella.leggi(u"a.txt"_s), "nuovo");
 }
 
-TEST_F(Prelievo, WithoutTheRightToWriteTheOldFileStaysWhole)
+TEST_F(PrelievoDiFile, WithoutTheRightToWriteTheOldFileStaysWhole)
 {
     if (!SenzaDiritti::possibile())
         GTEST_SKIP() << "no folder is closed here";
@@ -363,7 +384,7 @@ TEST_F(Prelievo, WithoutTheRightToWriteTheOldFileStaysWhole)
     EXPECT_EQ(cartella.leggi(u"a.txt"_s), "vecchio");
 }
 
-TEST_F(Prelievo, ARefusedPhotoIsNotShownFromAnOlderFile)
+TEST_F(PrelievoDiFile, ARefusedPhotoIsNotShownFromAnOlderFile)
 {
     apri({}, {"a.jpg"});
     ASSERT_TRUE(QDir(cartella.percorso()).mkdir(u"a.jpg"_s));
@@ -373,7 +394,7 @@ TEST_F(Prelievo, ARefusedPhotoIsNotShownFromAnOlderFile)
     EXPECT_EQ(esplora.lblNomeFoto.Caption(), QString());
 }
 
-TEST_F(Prelievo, APathLongerThanTheCommandCanTellIsNotSent)
+TEST_F(PrelievoDiFile, APathLongerThanTheCommandCanTellIsNotSent)
 {
     apri({QByteArray(200, 'c')}, {});
     doppioClick(esplora.lstCartelle, 0);
@@ -389,7 +410,7 @@ TEST_F(Prelievo, APathLongerThanTheCommandCanTellIsNotSent)
     EXPECT_EQ(scritti().size(), 3 + 255);
 }
 
-TEST_F(Prelievo, ClosedInTheMiddleOfAFetchTheBlockIsTakenAndWrittenNowhere)
+TEST_F(PrelievoDiFile, ClosedInTheMiddleOfAFetchTheBlockIsTakenAndWrittenNowhere)
 {
     apri({"foto"}, {"a.txt"});
     chiedi(u"a.txt"_s, 4);
@@ -405,7 +426,7 @@ TEST_F(Prelievo, ClosedInTheMiddleOfAFetchTheBlockIsTakenAndWrittenNowhere)
     EXPECT_EQ(esplora.Tag(), u"Elenco"_s);
 }
 
-TEST_F(Prelievo, ABlockThatIsStillComingLeavesNothingInAWindowOpenedAnew)
+TEST_F(PrelievoDiFile, ABlockThatIsStillComingLeavesNothingInAWindowOpenedAnew)
 {
     apri({"foto"}, {"a.txt"});
     chiedi(u"a.txt"_s, 4);
@@ -418,7 +439,7 @@ TEST_F(Prelievo, ABlockThatIsStillComingLeavesNothingInAWindowOpenedAnew)
     EXPECT_EQ(esplora.Tag(), u"Elenco"_s);
 }
 
-TEST_F(Prelievo, ClosedWhileAPhotoIsRefusedTheWindowOpensAnewAsItWas)
+TEST_F(PrelievoDiFile, ClosedWhileAPhotoIsRefusedTheWindowOpensAnewAsItWas)
 {
     apri({"foto"}, {"b.jpg"});
     chiedi(u"b.jpg"_s, 4);
@@ -442,7 +463,7 @@ TEST_F(Prelievo, ClosedWhileAPhotoIsRefusedTheWindowOpensAnewAsItWas)
     EXPECT_FALSE(esplora.imgFoto.Visible());
 }
 
-TEST_F(Prelievo, ARobotThatStopsInTheMiddleIsWaitedForAndItsRestIsTaken)
+TEST_F(PrelievoDiFile, ARobotThatStopsInTheMiddleIsWaitedForAndItsRestIsTaken)
 {
     apri({}, {"a.txt"});
     chiedi(u"a.txt"_s, 4);
@@ -456,7 +477,7 @@ TEST_F(Prelievo, ARobotThatStopsInTheMiddleIsWaitedForAndItsRestIsTaken)
     EXPECT_EQ(cartella.leggi(u"a.txt"_s), tuttiIByte(3000));
 }
 
-TEST_F(Prelievo, TheListHasTheFocusAgainWhenTheWindowIsEnabled)
+TEST_F(PrelievoDiFile, TheListHasTheFocusAgainWhenTheWindowIsEnabled)
 {
     preleva("a.txt", "ciao");
     EXPECT_EQ(esplora.focusWidget(), &esplora.lstFile);

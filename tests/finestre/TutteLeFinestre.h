@@ -21,7 +21,7 @@ public:
 
     BancoSuPortaFinta visione;
     frmPrincipale &principale = visione.console;
-    frmEsploraFile esplora{principale.COM, principale.BarraStato};
+    frmEsploraFile esplora{principale.COM, principale.BarraStato, visione.cartella.percorso()};
     OrologioFermo orologio;
     ConsoleFinta console{principale.COM};
     frmEditor editor{console, orologio, visione.cartella.percorso()};

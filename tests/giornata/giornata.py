@@ -11,7 +11,7 @@ import subprocess
 import sys
 
 from schermo import (CAMERA, CONDIZIONE, CONSOLE, OPZIONI, RISORSE, SEQUOR, SPLASH, VIGILIO,
-                     Schermo, attendi, raccogli, xdotool)
+                     Schermo, attendi, entro, raccogli, xdotool)
 
 NOME = "Dai un nome all'immagine"
 
@@ -206,9 +206,14 @@ def ritrova():
 def preleva():
     """A photo from the robot's storage, the same byte for byte."""
     apri("Esplora i file all'interno di Tessaro", RISORSE)
-    s.clic(s.controllo(RISORSE, "list item", "salotto.jpg"), dx=0.05, volte=2)
     presa = os.path.join(cartella, "salotto.jpg")
-    attendi("the photo", lambda: os.path.exists(presa))
+
+    def fatto():
+        # While the listing still runs a double click does nothing.
+        s.clic(s.controllo(RISORSE, "list item", "salotto.jpg"), dx=0.05, volte=2)
+        return entro(5, lambda: os.path.exists(presa))
+
+    attendi("the photo", fatto)
     attendi("the photo's window", lambda: s.finestra("salotto.jpg") or s.finestra(RISORSE))
     s.foto("risorse", RISORSE)
     assert impronta(presa) == impronta(os.path.join(cartella, "memoria", "disk", "salotto.jpg"))

@@ -51,10 +51,11 @@ void VideoFinto::CalcolaRiga(const QByteArray &riga)
         durante();
 }
 
-void FileFinto::finisciAttesa()
+void FileFinto::stato(quint8 k, quint8 x)
 {
-    cheCosa = Attesa::Niente;
-    registro << u"finisciAttesa"_s;
+    registro << u"stato %1 %2"_s.arg(k).arg(x);
+    if (durante)
+        durante();
 }
 
 void FileFinto::VisualizzaElenco(quint8 k, quint8 x, const QByteArray &corpo)
@@ -63,33 +64,10 @@ void FileFinto::VisualizzaElenco(quint8 k, quint8 x, const QByteArray &corpo)
     corpi << corpo;
 }
 
-void FileFinto::ImmagineAttesa(bool attiva)
+void FileFinto::blocco(quint8 k, const QByteArray &contenuto)
 {
-    if (attiva)
-        ++passi;
-    else
-        registro << u"ImmagineAttesa ferma"_s;
-}
-
-void FileFinto::caricaFoto(const QString &percorso)
-{
-    registro << u"caricaFoto %1"_s.arg(percorso.section(u'/', -1));
-    if (erroreFoto != 0)
-        throw Errore(erroreFoto);
-}
-
-void FileFinto::togliFoto()
-{
-    registro << u"togliFoto"_s;
-}
-
-void FileFinto::intitolaFoto(const QString &testo)
-{
-    registro << u"intitolaFoto %1"_s.arg(testo);
-}
-
-void FileFinto::riabilita()
-{
-    abilitata = true;
-    registro << u"riabilita"_s;
+    registro << u"blocco %1 %2"_s.arg(k).arg(contenuto.size());
+    corpi << contenuto;
+    if (durante)
+        durante();
 }

@@ -48,26 +48,18 @@ struct VideoFinto : AscoltatoreVideo
 struct FileFinto : AscoltatoreFile
 {
     bool inVista = true;
-    Attesa cheCosa = Attesa::Niente;
-    QString nome = QStringLiteral("foto.bin");
-    // Error number with which a picture cannot be shown; 0 shows it.
-    int erroreFoto = 0;
-    bool abilitata = false;
-    // All calls but the steps of the wait animation, which come at every look.
+    // All calls but the looks at a block that is coming.
     QStringList registro;
-    int passi = 0;
+    int sguardi = 0;
     QList<QByteArray> corpi;
+    std::function<void()> durante;
 
     bool visibile() const override { return inVista; }
-    Attesa attesa() const override { return cheCosa; }
-    void finisciAttesa() override;
+    void stato(quint8 k, quint8 x) override;
     void VisualizzaElenco(quint8 k, quint8 x, const QByteArray &corpo) override;
-    void ImmagineAttesa(bool attiva) override;
-    QString nomeFile() const override { return nome; }
-    void caricaFoto(const QString &percorso) override;
-    void togliFoto() override;
-    void intitolaFoto(const QString &testo) override;
-    void riabilita() override;
+    void bloccoInArrivo() override { ++sguardi; }
+    void blocco(quint8 k, const QByteArray &contenuto) override;
+    void byteGettati() override { registro << QStringLiteral("byteGettati"); }
 };
 
 struct TelemetriaFinta : AscoltatoreTelemetria

@@ -54,7 +54,7 @@ private:
     explicit BancoRicezione(std::unique_ptr<PortaFinta> nuova)
         : porta(*nuova),
           banco(std::move(nuova), cartella.percorso()),
-          motore(banco.COM, banco.tmrElabInput, banco.telemetria(), cartella.percorso())
+          motore(banco.COM, banco.tmrElabInput, banco.telemetria())
     {
         motore.ascoltaVideo(&video);
         motore.ascoltaFile(&file);

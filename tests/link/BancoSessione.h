@@ -50,7 +50,7 @@ class BancoSessione
 public:
     explicit BancoSessione(std::unique_ptr<Porta> porta)
         : banco(std::move(porta), cartella.percorso()),
-          motore(banco.COM, banco.tmrElabInput, banco.telemetria(), cartella.percorso()),
+          motore(banco.COM, banco.tmrElabInput, banco.telemetria()),
           sessione(banco.COM, banco.sessione(), banco.telemetria(), motore, splash, impostaPorta,
                    finestre)
     {

@@ -1,5 +1,6 @@
 // The receive engine: a tick that waits for a byte.
 #include "BancoRicezione.h"
+#include "ComandiTessaro.h"
 #include "Modali.h"
 
 #include <gtest/gtest.h>
@@ -189,8 +190,7 @@ TEST(ScattoSospeso, GoesWithItsEngine)
     {
         Banco altro(std::make_unique<PortaFinta>(), p.cartella.percorso());
         altro.COM.setPortOpen(true);
-        const MotoreRicezione motore(altro.COM, altro.tmrElabInput, altro.telemetria(),
-                                     p.cartella.percorso());
+        const MotoreRicezione motore(altro.COM, altro.tmrElabInput, altro.telemetria());
         altro.tmrElabInput.setEnabled(true);
         gira(5);
     }
@@ -201,8 +201,8 @@ TEST(ScattoSospeso, GoesWithItsEngine)
 TEST(ScattoSospeso, AMessageBoxOpenedByATelegramLetsTheRestGoOn)
 {
     BancoRicezione p;
-    p.file.cheCosa = AscoltatoreFile::Attesa::Elenco;
     // The window asks for more while the port is closed: a box, and then the tick goes on.
+    p.file.durante = [&] { ComandiTessaro::LeggiElenco(p.banco.COM, 1); };
     const RispondiMessaggi messaggi;
     p.accumulatore().aggiungi(b({42, 1, 0, 31, 4}));
     p.banco.COM.setPortOpen(false);

@@ -31,10 +31,15 @@ static bool delProgramma(const QString &nome)
 {
     // What would be part of the program at its next start: a library beside it is taken before the
     // system's, and Qt reads where its own lie.
-    if (nome.endsWith(u".dll"_s, Qt::CaseInsensitive))
+    static const QRegularExpression libreria(u"\\.(dll|so(\\.[0-9]+)*)$"_s,
+                                             QRegularExpression::CaseInsensitiveOption);
+    if (libreria.match(nome).hasMatch())
         return true;
-    const QString propri[] = {u"Porta COM"_s, u"prog.dat"_s, u"Immagini.dat"_s, u"qt.conf"_s,
-                              nomeDelFile(QCoreApplication::applicationFilePath())};
+    const QString propri[] = {
+        u"Porta COM"_s,       u"prog.dat"_s,
+        u"Immagini.dat"_s,    u"qt.conf"_s,
+        u"qt6.conf"_s,        u"tessaro-sim"_s,
+        u"tessaro-sim.exe"_s, nomeDelFile(QCoreApplication::applicationFilePath())};
     return std::ranges::any_of(propri, [&](const QString &proprio) {
         return nome.compare(proprio, Qt::CaseInsensitive) == 0;
     });

@@ -74,11 +74,17 @@ TEST(NomeSicuro, TheProgramsOwnFilesAreRefusedInAnyCase)
     rifiutati({u"Porta COM"_s, u"PORTA com"_s, u"prog.dat"_s, u"Prog.dat"_s, u"Immagini.dat"_s,
                u"immagini.DAT"_s, programma, programma.toUpper()});
     EXPECT_TRUE(nomeSicuro(u"x"_s + programma));
+    // The simulated robot lies beside it.
+    rifiutati({u"tessaro-sim"_s, u"Tessaro-Sim.exe"_s});
 }
 
 TEST(NomeSicuro, WhatWouldBePartOfTheProgramAtItsNextStartIsRefused)
 {
-    rifiutati({u"Qt6Core.dll"_s, u"version.DLL"_s, u"qt.conf"_s, u"QT.CONF"_s});
+    rifiutati({u"Qt6Core.dll"_s, u"version.DLL"_s, u"qt.conf"_s, u"QT.CONF"_s, u"qt6.conf"_s});
+    rifiutati({u"libQt6Core.so"_s, u"libQt6Core.so.6"_s, u"libc.SO.6.2.1"_s});
+    EXPECT_TRUE(nomeSicuro(u"so"_s));
+    EXPECT_TRUE(nomeSicuro(u"a.so.txt"_s));
+    EXPECT_TRUE(nomeSicuro(u"a.sole"_s));
     EXPECT_TRUE(nomeSicuro(u"dll"_s));
     EXPECT_TRUE(nomeSicuro(u"a.dll.txt"_s));
 }
