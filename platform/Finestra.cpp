@@ -1,5 +1,6 @@
 #include "Finestra.h"
 
+#include "SecondaPressione.h"
 #include "Tasti.h"
 
 #include <QApplication>
@@ -23,6 +24,7 @@ Finestra::Finestra(const QString &nome, const QString &titolo) : m_titolo(titolo
     setWindowTitle(titolo);
     setMouseTracking(true);
     setAttribute(Qt::WA_QuitOnClose, false);
+    fermaSecondePressioni();
 }
 
 Finestra *Finestra::Ultima()
