@@ -11,12 +11,16 @@
 #include "Pompa.h"
 
 #include <QDir>
+#include <QScopedValueRollback>
 #include <QScreen>
 
 namespace {
 
 // As many as an index of 16 bits counts: a spoilt file must not fill the memory.
 constexpr int immaginiMassime = 32768;
+
+// Windows gives a program one megabyte of stack.
+constexpr int atteseMassime = 32;
 
 } // namespace
 
@@ -53,13 +57,14 @@ void frmPrincipale::collegaGestori()
     opzTesta.Click.collega(this, &frmPrincipale::opzTesta_Click);
     for (CasellaOpzione *opzione : {&opzBase, &opzBraccia, &opzTesta})
         opzione->MouseUp.collega([this](int, int, double, double) { ImgTesta.SetFocus(); });
-    for (Combo *combo : {&cbMex, &cbModGiro, &cbProgrammi, &cbStepO, &cbStepV, &cbVelocità})
+    for (Combo *combo : {&cbMex, &cbModGiro, &cbProgrammi, &cbStepO, &cbStepV, &cbVelocità}) {
         combo->Click.collega(this, &frmPrincipale::RidaiFuoco);
+        combo->Chiusa.collega(this, &frmPrincipale::RidaiFuoco);
+    }
     for (int i = 1; i <= 10; ++i)
         collegaFreccia(i);
+    imgFreccia(1).TagScritto.collega([this](const QString &testo) { m_fermo.scrivi(testo); });
     lblStop.Click.collega(this, &frmPrincipale::lblStop_Click);
-    lblStop.MouseDown.collega(this, &frmPrincipale::lblStop_MouseDown);
-    lblStop.MouseUp.collega(this, &frmPrincipale::lblStop_MouseUp);
     collegaTesta();
     collegaVoce();
     componiMenu();
@@ -202,9 +207,17 @@ bool frmPrincipale::mandaOInserisci(const Azione &azione)
         return true;
     }
     azione.comando(COM);
-    if (!azione.esito.isEmpty())
+    // Whoever presses on and on without an answer is obeyed, but no longer waited for: each wait
+    // lies on the stack of the one before it.
+    if (!azione.esito.isEmpty() && m_attese < atteseMassime)
         MostraInvio(azione.esito);
     return false;
+}
+
+void frmPrincipale::MostraInvio(const QString &testo)
+{
+    const QScopedValueRollback attesa(m_attese, m_attese + 1);
+    m_sessione.MostraInvio(testo);
 }
 
 void frmPrincipale::BarraPulsanti_ButtonClick(PulsanteBarra &Button)

@@ -7,9 +7,11 @@
 #include "Combo.h"
 #include "Disegni.h"
 #include "Elenco.h"
+#include "FermoTasti.h"
 #include "Finestra.h"
 #include "MotoreRicezione.h"
 #include "Sessione.h"
+#include "Targa.h"
 #include "VoceMenu.h"
 #include "frmOpzioni.h"
 
@@ -53,7 +55,7 @@ public:
     bool ListaAttiva() const;
     // Puts a line behind the selected one of the open list, or at the top, and selects it.
     void AggiungiMossa(const QString &riga);
-    void MostraInvio(const QString &testo) { m_sessione.MostraInvio(testo); }
+    void MostraInvio(const QString &testo);
     void RidaiFuoco() override;
     bool Collega() { return m_sessione.Collega(); }
     bool collegato() const { return m_sessione.collegato(); }
@@ -179,6 +181,8 @@ protected:
     void KeyDown(int KeyCode, int Shift) override;
     void KeyUp(int KeyCode, int Shift) override;
     void changeEvent(QEvent *evento) override;
+    bool event(QEvent *evento) override;
+    bool eventFilter(QObject *oggetto, QEvent *evento) override;
 
 private:
     // How the window looks.
@@ -223,18 +227,19 @@ private:
     void imgFreccia_MouseDown(int Index);
     void imgFreccia_MouseUp(int Index);
     void lblStop_Click();
-    void lblStop_MouseDown();
-    void lblStop_MouseUp();
-    // The pressed look of a label on its shape, and the shape's place of rest.
-    static void premi(Forma &forma, Etichetta &etichetta);
-    static void rilascia(Forma &forma, Etichetta &etichetta, double left, double top);
-    static void collegaTarga(Etichetta &etichetta, Forma &forma, double left, double top);
+    // A key goes down, or the mouse on its arrow.
+    void premiTasto(int KeyCode, bool ripetuto);
+    void mostraFermo();
+    // The window loses the keys and the mouse, and with them the releases of what is held: it is
+    // let go now. The one place for keys, arrows and labels.
+    void lasciaTutto();
     void ImgTesta_MouseMove(int Button, int Shift, double X, double Y);
     void ImgTesta_MouseDown(int Button, int Shift, double X, double Y);
     void tmrAnimazFrecce_Timer();
     void mnuComparsa_MouseMove(Elenco &lista, bool acceso, double Y);
     void mnuComparsa_Click(const Elenco &lista, bool acceso);
     void mostraComparsa(const Elenco &lista, bool visibile);
+    void collocaComparsa(const QString &lato, Forma &cappello, Etichetta &testo, Elenco &lista);
     static void lasciaNumero(CasellaTesto &testo, ::SuGiu &suGiu);
     void pulFrase_Click();
     void pulSuono_Click();
@@ -250,8 +255,20 @@ private:
     FinestreConsole m_finestre;
     Sessione m_sessione;
     quint8 PassoFrecce = 0;
-    // The arrow that the mouse holds down, 0 for none.
-    int m_frecciaPremuta = 0;
+    // Shown by the Tag of imgFreccia(1), and written through it from outside.
+    FermoTasti m_fermo;
+    // Whether the key press that is being handed out is an automatic repeat.
+    bool m_ripetuto = false;
+    // The space bar holds lblStop down.
+    bool m_spazioSuStop = false;
+    // Waits for the robot's reaction, one within the other.
+    int m_attese = 0;
+    Targa m_targaStop{lblStop, shpStop, 2490, 3915};
+    Targa m_targaAccendi{lblAccLED, Shape3, 60, 240};
+    Targa m_targaSpegni{lblSpLED, Shape4, 1140, 240};
+    Targa m_targaScatta{lblScattaFoto, Shape12, 4500, 2040};
+    // How often a colour list of the head has come up.
+    int m_comparse = 0;
     bool m_menuChiesto = false;
     bool m_incorniciata = false;
 };

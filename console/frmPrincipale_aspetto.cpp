@@ -195,10 +195,6 @@ void frmPrincipale::disponiTesta()
     suggerimento(imgLEDPos, u"LED di posizione. Click sinistro: accendi. Click destro: spegni"_s);
     const auto comparsa = [](Forma &cappello, Etichetta &testo, Elenco &lista,
                              const QColor &colore) {
-        // Over the picture: the mouse that comes from one of its halves must not cross the bare
-        // window, which would forget the half.
-        metti(cappello, 454, 120, 100, 22);
-        metti(testo, 454, 120, 100, 22);
         cappello.setColori(colore, colore.darker(130), 4);
         titolo(testo);
         testo.setForeColor(Qt::black);
@@ -211,7 +207,7 @@ void frmPrincipale::disponiTesta()
         lista.setFocusPolicy(Qt::NoFocus);
         for (const QString &voce : {u"Verde"_s, u"Giallo"_s, u"Rosso"_s, u"Blu"_s})
             lista.AddItem(voce);
-        metti(lista, 454, 141, 100, 4 * lista.sizeHintForRow(0) + 2 * lista.frameWidth());
+        lista.resize(100, 4 * lista.sizeHintForRow(0) + 2 * lista.frameWidth());
         for (QWidget *parte : std::initializer_list<QWidget *>{&cappello, &testo, &lista}) {
             parte->raise();
             parte->hide();

@@ -3,61 +3,118 @@
 #include "Tasti.h"
 #include "frmPrincipale.h"
 
-#include <QGuiApplication>
+#include <QKeyEvent>
+#include <utility>
 
 void frmPrincipale::KeyDown(int KeyCode, int Shift)
 {
     mnuTastiera_KeyDown(KeyCode, Shift);
-    if (imgFreccia(1).Tag() == u"Tasto premuto"_s)
+    premiTasto(KeyCode, std::exchange(m_ripetuto, false));
+}
+
+void frmPrincipale::premiTasto(int KeyCode, bool ripetuto)
+{
+    const bool stop = KeyCode == Tasti::Spazio && opzBase.Value();
+    if (!m_fermo.accetta({KeyCode, ripetuto, ListaAttiva(), stop && m_attese > 0}))
         return;
     if (const int freccia = Movimento::frecciaDelTasto(KeyCode))
         imgFreccia(freccia).setPicture(Movimento::disegnoPremuta(freccia));
+    const FermoTasti::Comando comando = m_fermo.comincia(KeyCode);
     // Arm mode drives the base, with the values that its hidden boxes hold.
     const std::optional<Azione> azione =
         Movimento::freccia(KeyCode, opzTesta.Value(),
                            {cbStepV.Text(), cbStepO.Text(), cbVelocità.Text(),
                             cbVelocità.ListIndex(), cbModGiro.Text(), cbModGiro.ListIndex()});
-    if (azione && mandaOInserisci(*azione))
+    if (azione && mandaOInserisci(*azione)) {
+        m_fermo.finitoInLista(comando);
         return; // without the latch: a held key adds one line after another
-    if (KeyCode == Tasti::Spazio && opzBase.Value()) {
-        lblStop_Click();
-        lblStop_MouseDown();
     }
-    // Only now: a release that was served during the wait is behind us, and the latch stays.
-    imgFreccia(1).setTag(u"Tasto premuto"_s);
+    if (stop) {
+        lblStop_Click();
+        // It may have been let go during the wait.
+        if (m_fermo.giu(KeyCode)) {
+            m_spazioSuStop = true;
+            m_targaStop.premi();
+        }
+    }
+    // Only now: a release that was served during the wait has passed, and the latch stays.
+    m_fermo.finito(comando);
+    mostraFermo();
 }
 
 void frmPrincipale::KeyUp(int KeyCode, int)
 {
     for (int i = 1; i <= 4; ++i)
         imgFreccia(i).setPicture(Movimento::disegnoARiposo(i));
-    if (opzBase.Value())
-        lblStop_MouseUp();
-    imgFreccia(1).setTag(u"Tasto rilasciato"_s);
+    // The mode may have changed while the space bar was held.
+    if (std::exchange(m_spazioSuStop, false) || opzBase.Value())
+        m_targaStop.rilascia();
+    m_fermo.lascia(KeyCode);
+    mostraFermo();
     mnuTastiera_KeyUp(KeyCode);
+}
+
+void frmPrincipale::mostraFermo()
+{
+    imgFreccia(1).setTag(m_fermo.testo());
+}
+
+bool frmPrincipale::event(QEvent *evento)
+{
+    switch (evento->type()) {
+    case QEvent::WindowDeactivate:
+    // A dialog comes up while the window is not the active one.
+    case QEvent::WindowBlocked:
+    case QEvent::Hide:
+        lasciaTutto();
+        break;
+    default:
+        break;
+    }
+    return Finestra::event(evento);
+}
+
+bool frmPrincipale::eventFilter(QObject *oggetto, QEvent *evento)
+{
+    // A list or a menu that opens takes keys and mouse as well, and leaves the window active.
+    if (evento->type() == QEvent::Show && oggetto->isWidgetType() &&
+        static_cast<QWidget *>(oggetto)->windowType() == Qt::Popup)
+        lasciaTutto();
+    m_ripetuto =
+        evento->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(evento)->isAutoRepeat();
+    const bool esito = Finestra::eventFilter(oggetto, evento);
+    m_ripetuto = false;
+    return esito;
+}
+
+void frmPrincipale::lasciaTutto()
+{
+    for (int i = 1; i <= 10; ++i) {
+        if (imgFreccia(i).Picture() == Movimento::disegnoPremuta(i))
+            imgFreccia(i).setPicture(Movimento::disegnoARiposo(i));
+    }
+    for (Targa *targa : {&m_targaStop, &m_targaAccendi, &m_targaSpegni, &m_targaScatta}) {
+        if (targa->premuta())
+            targa->rilascia();
+    }
+    m_spazioSuStop = false;
+    m_menuChiesto = false;
+    if (m_fermo.lasciaTutto())
+        mostraFermo();
 }
 
 void frmPrincipale::collegaFreccia(int Index)
 {
-    imgFreccia(Index).MouseDown.collega([this, Index](int, int, double, double) {
-        const bool premuta = QGuiApplication::mouseButtons() != Qt::NoButton;
-        m_frecciaPremuta = Index;
-        imgFreccia_MouseDown(Index);
-        // A message box that came up meanwhile keeps the release to itself.
-        const bool lasciata = premuta && QGuiApplication::mouseButtons() == Qt::NoButton;
-        if (lasciata && m_frecciaPremuta == Index)
-            imgFreccia_MouseUp(Index);
-    });
-    imgFreccia(Index).MouseUp.collega([this, Index](int, int, double, double) {
-        m_frecciaPremuta = 0;
-        imgFreccia_MouseUp(Index);
-    });
+    imgFreccia(Index).MouseDown.collega(
+        [this, Index](int, int, double, double) { imgFreccia_MouseDown(Index); });
+    imgFreccia(Index).MouseUp.collega(
+        [this, Index](int, int, double, double) { imgFreccia_MouseUp(Index); });
 }
 
 void frmPrincipale::imgFreccia_MouseDown(int Index)
 {
     if (const int tasto = Movimento::tastoDellaFreccia(Index)) {
-        KeyDown(tasto, 0);
+        premiTasto(tasto, false);
         return;
     }
     const std::optional<Azione> azione = Movimento::bacinoOBraccia(Index);
@@ -78,26 +135,4 @@ void frmPrincipale::imgFreccia_MouseUp(int Index)
 void frmPrincipale::lblStop_Click()
 {
     mandaOInserisci(Movimento::stop(opzBase.Value()));
-}
-
-void frmPrincipale::lblStop_MouseDown()
-{
-    premi(shpStop, lblStop);
-}
-
-void frmPrincipale::lblStop_MouseUp()
-{
-    rilascia(shpStop, lblStop, 2490, 3915);
-}
-
-void frmPrincipale::premi(Forma &forma, Etichetta &etichetta)
-{
-    forma.Move(forma.Left() + 50, forma.Top() + 50);
-    etichetta.Move(forma.Left(), forma.Top());
-}
-
-void frmPrincipale::rilascia(Forma &forma, Etichetta &etichetta, double left, double top)
-{
-    forma.Move(left, top);
-    etichetta.Move(left, top);
 }

@@ -32,8 +32,6 @@ void frmPrincipale::collegaTesta()
 
     lblAccLED.Click.collega([this] { mandaOInserisci(LedTesta::tutti(true)); });
     lblSpLED.Click.collega([this] { mandaOInserisci(LedTesta::tutti(false)); });
-    collegaTarga(lblAccLED, Shape3, 60, 240);
-    collegaTarga(lblSpLED, Shape4, 1140, 240);
 
     imgLEDPos.MouseDown.collega([this](int Button, int, double, double) {
         mandaOInserisci(Attrezzi::ledPosizione(acceso(Button)));
@@ -52,7 +50,6 @@ void frmPrincipale::collegaTesta()
     imgPinzaAperta.Click.collega([this] { mandaOInserisci(Attrezzi::pinza(true)); });
     imgPinzaChiusa.Click.collega([this] { mandaOInserisci(Attrezzi::pinza(false)); });
     lblScattaFoto.Click.collega([this] { mandaOInserisci(Attrezzi::foto()); });
-    collegaTarga(lblScattaFoto, Shape12, 4500, 2040);
 }
 
 void frmPrincipale::ImgTesta_MouseMove(int, int, double X, double Y)
@@ -67,20 +64,44 @@ void frmPrincipale::ImgTesta_MouseMove(int, int, double X, double Y)
         tmrAnimazFrecce.setEnabled(true);
 }
 
-void frmPrincipale::ImgTesta_MouseDown(int Button, int, double, double)
+void frmPrincipale::ImgTesta_MouseDown(int Button, int, double X, double)
 {
-    if (mnuComparsaOn.Visible())
-        mostraComparsa(mnuComparsaOn, false);
-    else if (mnuComparsaOff.Visible())
-        mostraComparsa(mnuComparsaOff, false);
-    else if (Button == 1)
-        mostraComparsa(mnuComparsaOn, true);
-    else if (Button == 2)
-        mostraComparsa(mnuComparsaOff, true);
+    if (mnuComparsaOn.Visible() || mnuComparsaOff.Visible()) {
+        mostraComparsa(mnuComparsaOn.Visible() ? mnuComparsaOn : mnuComparsaOff, false);
+        return;
+    }
+    if (Button != 1 && Button != 2)
+        return;
+    // X lies in an arrow if the mouse is on one, and then the side is known.
+    const QString lato =
+        ImgTesta.Tag().isEmpty() ? LedTesta::lato(X, ImgTesta.Width()) : ImgTesta.Tag();
+    if (Button == 1)
+        collocaComparsa(lato, shCappelloOn, lblOn, mnuComparsaOn);
+    else
+        collocaComparsa(lato, shCappelloOff, lblOff, mnuComparsaOff);
+    mostraComparsa(Button == 1 ? mnuComparsaOn : mnuComparsaOff, true);
+}
+
+// Over the half that the list is not about, and as high as its LED area: on its way from the other
+// half the mouse crosses neither, which would change the side, nor the bare window, which would
+// forget it.
+void frmPrincipale::collocaComparsa(const QString &lato, Forma &cappello, Etichetta &testo,
+                                    Elenco &lista)
+{
+    const QRect testa = ImgTesta.geometry();
+    const int mezzo = testa.x() + testa.width() / 2;
+    const int x = lato == u"destro" ? mezzo : mezzo - lista.width();
+    const int y = testa.bottom() + 1 - lista.height();
+    const int alto = testa.y() + Unita::pixel(Shape3.Top() + Shape3.Height());
+    cappello.setGeometry(x, alto, lista.width(), y + 1 - alto);
+    testo.setGeometry(cappello.geometry());
+    lista.move(x, y);
 }
 
 void frmPrincipale::mostraComparsa(const Elenco &lista, bool visibile)
 {
+    if (visibile)
+        ++m_comparse;
     if (&lista == &mnuComparsaOn)
         ImpostaVisibili(visibile, shCappelloOn, lblOn, mnuComparsaOn);
     else
@@ -117,14 +138,9 @@ void frmPrincipale::mnuComparsa_Click(const Elenco &lista, bool acceso)
 {
     if (lista.Tag() == u"NO"_s)
         return;
+    const int questa = m_comparse;
     mandaOInserisci(LedTesta::azione(lista.ListIndex(), ImgTesta.Tag(), acceso));
-    mostraComparsa(lista, false);
-}
-
-void frmPrincipale::collegaTarga(Etichetta &etichetta, Forma &forma, double left, double top)
-{
-    etichetta.MouseDown.collega([&](int, int, double, double) { premi(forma, etichetta); });
-    etichetta.MouseUp.collega([&forma, &etichetta, left, top](int, int, double, double) {
-        rilascia(forma, etichetta, left, top);
-    });
+    // During the wait the user may have closed it and asked for one again.
+    if (questa == m_comparse)
+        mostraComparsa(lista, false);
 }

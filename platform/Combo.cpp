@@ -2,6 +2,7 @@
 
 #include "UnaRiga.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QLineEdit>
 
@@ -88,6 +89,31 @@ void Combo::Clear()
 {
     clear();
     m_scelta = -1;
+}
+
+void Combo::showPopup()
+{
+    Controllo::showPopup();
+    // The list is closed by a choice, by Esc and by a press beside it; only its going is the same
+    // for all three.
+    view()->window()->installEventFilter(this);
+}
+
+bool Combo::eventFilter(QObject *oggetto, QEvent *evento)
+{
+    const bool esito = Controllo::eventFilter(oggetto, evento);
+    if (evento->type() == QEvent::Hide && oggetto == view()->window())
+        Chiusa();
+    return esito;
+}
+
+void Combo::wheelEvent(QWheelEvent *evento)
+{
+    // Who only passes over it with the mouse has chosen nothing.
+    if (hasFocus())
+        Controllo::wheelEvent(evento);
+    else
+        evento->ignore();
 }
 
 void Combo::keyPressEvent(QKeyEvent *evento)

@@ -35,9 +35,15 @@ public:
     Evento<> Click;
     // When the text is typed.
     Evento<> Change;
+    // When the list has gone, with a choice or without; before the Click of the choice.
+    Evento<> Chiusa;
+
+    void showPopup() override;
 
 protected:
+    bool eventFilter(QObject *oggetto, QEvent *evento) override;
     void keyPressEvent(QKeyEvent *evento) override;
+    void wheelEvent(QWheelEvent *evento) override;
 
 private:
     template <class Modifica>

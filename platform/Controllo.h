@@ -37,7 +37,11 @@ public:
     }
 
     QString Tag() const { return m_tag; }
-    void setTag(const QString &tag) { m_tag = tag; }
+    void setTag(const QString &tag)
+    {
+        m_tag = tag;
+        TagScritto(tag);
+    }
 
     bool Enabled() const { return Base::isEnabled(); }
     // As set for this control, whether or not its window is on the screen.
@@ -79,6 +83,8 @@ public:
     Evento<int, int, double, double> MouseMove;
     Evento<int, int, double, double> MouseUp;
     Evento<> DblClick;
+    // By code: a Tag that shows the state of an owner is written through to it.
+    Evento<const QString &> TagScritto;
 
 protected:
     // 15 on a surface in layout units, 1 on one whose unit is the pixel.
@@ -87,6 +93,11 @@ protected:
     void mousePressEvent(QMouseEvent *evento) override
     {
         Base::mousePressEvent(evento);
+        premuto(evento);
+    }
+    // A press that the Qt widget does not see.
+    void premuto(QMouseEvent *evento)
+    {
         evento->accept();
         MouseDown(numeroPulsante(evento->button()), numeroMaiuscole(evento->modifiers()),
                   evento->position().x() * unitaPerPixel, evento->position().y() * unitaPerPixel);

@@ -156,8 +156,12 @@ void Elenco::mousePressEvent(QMouseEvent *evento)
 {
     const QPoint punto = evento->position().toPoint();
     const QListWidgetItem *sotto = itemAt(punto);
-    const bool sinistro = evento->button() == Qt::LeftButton;
-    m_clickDovuto = sinistro && sotto && sullaSpunta(sotto, punto);
+    // The left button alone chooses a row.
+    if (evento->button() != Qt::LeftButton) {
+        premuto(evento);
+        return;
+    }
+    m_clickDovuto = sotto && sullaSpunta(sotto, punto);
     const int prima = currentRow();
     m_premuta = indexAt(punto);
     ++m_pressioni;
@@ -169,7 +173,7 @@ void Elenco::mousePressEvent(QMouseEvent *evento)
             setCurrentRow(row(sotto));
     }
     // A click on the row that is selected already is a click as well.
-    if (sinistro && !m_clickDovuto && sotto && itemAt(punto) == sotto && row(sotto) == prima)
+    if (!m_clickDovuto && sotto && itemAt(punto) == sotto && row(sotto) == prima)
         Click();
 }
 

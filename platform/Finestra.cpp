@@ -1,5 +1,6 @@
 #include "Finestra.h"
 
+#include "SecondaPressione.h"
 #include "Tasti.h"
 
 #include <QApplication>
@@ -48,6 +49,7 @@ Finestra::Finestra(const QString &nome, const QString &titolo) : m_titolo(titolo
     setObjectName(nome);
     setWindowTitle(titolo);
     setMouseTracking(true);
+    fermaSecondePressioni();
     perAttivita().append(this);
 }
 

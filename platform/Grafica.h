@@ -4,9 +4,11 @@
 #include "Accessibile.h"
 #include "Controllo.h"
 
+#include <QGuiApplication>
 #include <QIcon>
 #include <QImage>
 #include <QLabel>
+#include <QStyleHints>
 #include <optional>
 #include <vector>
 
@@ -42,7 +44,8 @@ public:
     virtual std::optional<bool> spunta() const { return {}; }
 };
 
-// Adds a Click on the left button's release inside, after MouseUp.
+// Adds a Click on the left button's release inside, after MouseUp. The second press of a double
+// click raises MouseDown, but no second Click: who clicks twice means it once.
 template <class Base>
 class Cliccabile : public Controllo<Base>, public Azionabile
 {
@@ -52,6 +55,9 @@ public:
         dichiaraAzionabili();
     }
     Evento<> Click;
+
+    // From now on the second press of a double click gives a Click of its own.
+    void conDoppioClick() { m_conDoppio = true; }
 
     bool prendeClick() const override
     {
@@ -69,14 +75,22 @@ public:
 protected:
     void mousePressEvent(QMouseEvent *evento) override
     {
-        m_premuto = evento->button() == Qt::LeftButton;
+        // A further button does not take the left one's click away.
+        if (evento->button() == Qt::LeftButton) {
+            m_premuto = m_conDoppio || !secondaPressione(*evento);
+            m_quando = evento->timestamp();
+            // Where it was pressed: a handler of the press may move it.
+            m_dove = this->geometry();
+        }
         Controllo<Base>::mousePressEvent(evento);
     }
     void mouseReleaseEvent(QMouseEvent *evento) override
     {
-        const bool click = m_premuto && evento->button() == Qt::LeftButton &&
-                           this->rect().contains(evento->position().toPoint());
-        if (evento->button() == Qt::LeftButton)
+        const QPoint punto = this->mapToParent(evento->position().toPoint());
+        const bool sopra = m_dove.contains(punto) || this->geometry().contains(punto);
+        const bool sinistro = evento->button() == Qt::LeftButton;
+        const bool click = sinistro && sopra && m_premuto;
+        if (sinistro)
             m_premuto = false;
         Controllo<Base>::mouseReleaseEvent(evento);
         if (click)
@@ -84,7 +98,18 @@ protected:
     }
 
 private:
+    // Of a double click that began here, not on a box or a list that was in between.
+    bool secondaPressione(const QMouseEvent &evento) const
+    {
+        return evento.type() == QEvent::MouseButtonDblClick &&
+               evento.timestamp() - m_quando <=
+                   static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
+    }
+
     bool m_premuto = false;
+    bool m_conDoppio = false;
+    quint64 m_quando = 0;
+    QRect m_dove;
 };
 
 class Etichetta : public Cliccabile<QLabel>

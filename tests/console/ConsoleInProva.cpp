@@ -87,8 +87,15 @@ void ConsoleInProva::lascia(QWidget &controllo, Qt::MouseButton pulsante,
 void ConsoleInProva::clicca(QWidget &controllo, Qt::MouseButton pulsante,
                             std::optional<QPoint> dove)
 {
-    premi(controllo, pulsante, dove);
-    lascia(controllo, pulsante, dove);
+    // The control may move when it is pressed: the mouse does not move along.
+    const QPoint punto = nellaFinestra(controllo, dove);
+    premi(finestra, pulsante, punto);
+    lascia(finestra, pulsante, punto);
+}
+
+void ConsoleInProva::cliccaDoppio(QWidget &controllo, std::optional<QPoint> dove)
+{
+    QTest::mouseDClick(finestra.windowHandle(), Qt::LeftButton, {}, nellaFinestra(controllo, dove));
 }
 
 void ConsoleInProva::muovi(QWidget &controllo, std::optional<QPoint> dove)
@@ -110,6 +117,21 @@ void ConsoleInProva::tasto(Qt::Key tasto)
 {
     premiTasto(tasto);
     lasciaTasto(tasto);
+}
+
+void ConsoleInProva::vaiAltrove()
+{
+    altroProgramma.resize(100, 100);
+    altroProgramma.show();
+    altroProgramma.requestActivate();
+    EXPECT_TRUE(aspetta([this] { return !finestra.isActiveWindow(); }));
+}
+
+void ConsoleInProva::torna()
+{
+    altroProgramma.hide();
+    finestra.activateWindow();
+    EXPECT_TRUE(aspetta([this] { return finestra.isActiveWindow(); }));
 }
 
 void ConsoleInProva::taci()

@@ -9,6 +9,7 @@
 #include "frmPrincipale.h"
 
 #include <QTest>
+#include <QWindow>
 #include <optional>
 
 // A window that only shows itself.
@@ -65,10 +66,15 @@ public:
                 std::optional<QPoint> dove = {});
     void clicca(QWidget &controllo, Qt::MouseButton pulsante = Qt::LeftButton,
                 std::optional<QPoint> dove = {});
+    // Twice, as fast as a double click is.
+    void cliccaDoppio(QWidget &controllo, std::optional<QPoint> dove = {});
     void muovi(QWidget &controllo, std::optional<QPoint> dove = {});
     void premiTasto(Qt::Key tasto);
     void lasciaTasto(Qt::Key tasto);
     void tasto(Qt::Key tasto);
+    // Another program comes to the front, and goes again.
+    void vaiAltrove();
+    void torna();
 
     // The robot obeys and answers nothing more, and the next wait for its reaction begins at rest.
     void taci();
@@ -91,6 +97,7 @@ public:
     // How many times the program would have ended.
     int fini = 0;
     frmPrincipale finestra;
+    QWindow altroProgramma;
 
 private:
     QPoint nellaFinestra(QWidget &controllo, std::optional<QPoint> dove) const;

@@ -1,6 +1,7 @@
 // The three control modes, and the focus that always goes home.
 #include "ConsoleInProva.h"
 
+#include <QAbstractItemView>
 #include <gmock/gmock.h>
 
 namespace {
@@ -176,6 +177,42 @@ TEST(ModiConsole, AChoiceInAnyBoxSendsTheFocusHome)
     c.clicca(f.opzTesta);
     for (Combo *combo : {&f.cbStepV, &f.cbStepO})
         scegli(*combo);
+}
+
+TEST(ModiConsole, ABoxThatIsLeftWithoutAChoiceSendsTheFocusHomeToo)
+{
+    ConsoleInProva c;
+    ASSERT_TRUE(c.mostraCollegata());
+    frmPrincipale &f = c.finestra;
+    const auto lascia = [&](Combo &combo, bool conEsc) {
+        SCOPED_TRACE(combo.objectName().toStdString());
+        const int prima = combo.ListIndex();
+        combo.setFocus(Qt::MouseFocusReason);
+        combo.showPopup();
+        ASSERT_TRUE(aspetta([&] { return combo.view()->isVisible(); }));
+        if (conEsc)
+            QTest::keyClick(combo.view(), Qt::Key_Escape);
+        else
+            QTest::mousePress(combo.view()->window(), Qt::LeftButton, {}, QPoint(-20, -20));
+        ASSERT_TRUE(aspetta([&] { return !combo.view()->isVisible(); }));
+        f.activateWindow();
+        ASSERT_TRUE(aspetta([&] { return f.isActiveWindow(); }));
+        EXPECT_TRUE(c.fuocoACasa());
+        EXPECT_EQ(combo.ListIndex(), prima);
+        c.tasto(Qt::Key_Down);
+        c.mandati();
+        EXPECT_EQ(combo.ListIndex(), prima) << "the key is the robot's alone";
+        c.tasto(Qt::Key_Space);
+        EXPECT_FALSE(combo.view()->isVisible());
+    };
+    for (const bool conEsc : {true, false}) {
+        f.opzBase.setValue(true);
+        for (Combo *combo : {&f.cbVelocità, &f.cbModGiro, &f.cbMex, &f.cbProgrammi})
+            lascia(*combo, conEsc);
+        f.opzTesta.setValue(true);
+        for (Combo *combo : {&f.cbStepV, &f.cbStepO})
+            lascia(*combo, conEsc);
+    }
 }
 
 TEST(ModiConsole, AClickOnTheChosenModeSendsTheFocusHomeToo)

@@ -1,6 +1,7 @@
 // The keys, the latch, the pressed look.
 #include "ConsoleInProva.h"
 
+#include <QAbstractItemView>
 #include <gmock/gmock.h>
 
 namespace {
@@ -17,6 +18,13 @@ void ripeti(ConsoleInProva &c, Qt::Key tasto)
     QApplication::sendEvent(&c.finestra.ImgTesta, &lasciato);
     QKeyEvent premuto(QEvent::KeyPress, tasto, Qt::NoModifier, {}, true);
     QApplication::sendEvent(&c.finestra.ImgTesta, &premuto);
+}
+
+bool stopARiposo(ConsoleInProva &c)
+{
+    EXPECT_EQ(c.finestra.lblStop.Left(), c.finestra.shpStop.Left());
+    EXPECT_EQ(c.finestra.lblStop.Top(), c.finestra.shpStop.Top());
+    return c.finestra.shpStop.Left() == 2490;
 }
 
 QList<int> disegni(ConsoleInProva &c)
@@ -217,34 +225,295 @@ TEST(TastiConsole, KeysReachTheWindowFromATextBoxToo)
     EXPECT_EQ(c.finestra.txtValFrase.Text(), u"1"_s);
 }
 
-TEST(TastiConsole, WithoutAConnectionTheArrowStaysPressedUntilTheRelease)
+TEST(TastiConsole, AMessageBoxThatAKeyOpensTakesItsRelease)
+{
+    RispondiMessaggi messaggi;
+    ConsoleInProva c;
+    c.mostra();
+    messaggi.mentreAperto = [&](QMessageBox &box) {
+        EXPECT_EQ(disegni(c), (QList<int>{1, 2, 3, 4}));
+        // The key that the user still holds repeats in the box, and is let go there.
+        QTest::keyRelease(box.windowHandle(), Qt::Key_Up);
+    };
+    for (int volta = 1; volta <= 2; ++volta) {
+        c.premiTasto(Qt::Key_Up);
+        EXPECT_EQ(messaggi.visti().size(), volta) << "a key that was swallowed says nothing";
+        EXPECT_EQ(messaggi.testi().last(), u"Non sono collegato al robot"_s);
+        EXPECT_EQ(disegni(c), (QList<int>{1, 2, 3, 4}));
+        EXPECT_EQ(chiusura(c), u"Tasto rilasciato"_s);
+    }
+}
+
+TEST(TastiConsole, AKeyThatIsStillHeldWhenTheBoxHasGoneOpensNoOther)
 {
     RispondiMessaggi messaggi;
     ConsoleInProva c;
     c.mostra();
     c.premiTasto(Qt::Key_Up);
-    EXPECT_EQ(messaggi.testi(), QStringList(u"Non sono collegato al robot"_s));
-    EXPECT_EQ(disegni(c), (QList<int>{5, 2, 3, 4}));
-    EXPECT_EQ(chiusura(c), u"Tasto premuto"_s);
-    c.lasciaTasto(Qt::Key_Up);
+    c.torna();
+    for (int i = 0; i < 3; ++i)
+        ripeti(c, Qt::Key_Up);
+    EXPECT_EQ(messaggi.visti().size(), 1);
     EXPECT_EQ(disegni(c), (QList<int>{1, 2, 3, 4}));
+    c.lasciaTasto(Qt::Key_Up);
+    c.premiTasto(Qt::Key_Up);
+    EXPECT_EQ(messaggi.visti().size(), 2);
 }
 
-TEST(TastiConsole, AnArrowWhoseReleaseTheMessageBoxTookIsReleasedAllTheSame)
+TEST(TastiConsole, AMessageBoxThatAnArrowOpensTakesItsRelease)
 {
     RispondiMessaggi messaggi;
     ConsoleInProva c;
     c.mostra();
     messaggi.mentreAperto = [&](QMessageBox &) {
-        EXPECT_EQ(disegni(c), (QList<int>{1, 6, 3, 4}));
+        EXPECT_EQ(disegni(c), (QList<int>{1, 2, 3, 4}));
+        EXPECT_EQ(c.finestra.imgFreccia(5).Picture(), 1);
+        // It goes to the console, which the box keeps it from.
         c.lascia(c.finestra.imgFreccia(2));
     };
-    for (int volta = 1; volta <= 2; ++volta) {
-        c.premi(c.finestra.imgFreccia(2));
-        EXPECT_EQ(messaggi.visti().size(), volta);
+    int volta = 0;
+    for (const int freccia : {2, 5, 2, 5}) {
+        c.premi(c.finestra.imgFreccia(freccia));
+        EXPECT_EQ(messaggi.visti().size(), ++volta);
         EXPECT_EQ(disegni(c), (QList<int>{1, 2, 3, 4}));
-        EXPECT_EQ(chiusura(c), u"Tasto rilasciato"_s);
+        EXPECT_EQ(c.finestra.imgFreccia(5).Picture(), 1);
+        EXPECT_NE(chiusura(c), u"Tasto premuto"_s);
     }
+}
+
+TEST(TastiConsole, AHeldArrowSendsOneCommandToASilentRobot)
+{
+    ConsoleInProva c;
+    ASSERT_TRUE(c.mostraCollegata());
+    c.taci();
+    QTimer::singleShot(0, &c.finestra, [&] {
+        for (int i = 0; i < 3; ++i)
+            ripeti(c, Qt::Key_Up);
+        EXPECT_EQ(chiusura(c), QString()) << "the latch is written after the wait";
+        c.robot.inviaGrezzo(b({31, 20}));
+    });
+    c.premiTasto(Qt::Key_Up);
+    EXPECT_EQ(chiusura(c), u"Tasto premuto"_s);
+    EXPECT_EQ(disegni(c), (QList<int>{5, 2, 3, 4}));
+    EXPECT_EQ(c.byteMandati(), b({19, 65, 1}));
+}
+
+TEST(TastiConsole, AnotherButtonOnAHeldArrowIsNoOtherCommand)
+{
+    ConsoleInProva c;
+    ASSERT_TRUE(c.mostraCollegata());
+    c.taci();
+    QTimer::singleShot(0, &c.finestra, [&] {
+        c.premi(c.finestra.imgFreccia(1), Qt::RightButton);
+        c.robot.inviaGrezzo(b({31, 20}));
+    });
+    c.premi(c.finestra.imgFreccia(1));
+    EXPECT_EQ(c.byteMandati(), b({19, 65, 1}));
+    EXPECT_EQ(disegni(c), (QList<int>{5, 2, 3, 4}));
+    // Outside of it: the arrow has the mouse until the last button is let go.
+    c.lascia(c.finestra, Qt::RightButton, QPoint(399, 200));
+    c.lascia(c.finestra, Qt::LeftButton, QPoint(399, 200));
+    EXPECT_EQ(disegni(c), (QList<int>{1, 2, 3, 4}));
+    EXPECT_EQ(chiusura(c), u"Tasto rilasciato"_s);
+}
+
+TEST(TastiConsole, AKeyPressedAnewDuringItsWaitIsACommandOfItsOwn)
+{
+    ConsoleInProva c;
+    ASSERT_TRUE(c.mostraCollegata());
+    c.taci();
+    QTimer::singleShot(0, &c.finestra, [&] {
+        c.lasciaTasto(Qt::Key_Up);
+        QTimer::singleShot(0, &c.finestra, [&] { c.robot.inviaGrezzo(b({31, 20})); });
+        c.premiTasto(Qt::Key_Up);
+    });
+    c.premiTasto(Qt::Key_Up);
+    EXPECT_EQ(c.byteMandati(), b({19, 65, 1, 19, 65, 1}));
+}
+
+TEST(TastiConsole, WhoeverPressesOnAndOnIsObeyedAndTheStackStaysSmall)
+{
+    ConsoleInProva c;
+    ASSERT_TRUE(c.mostraCollegata());
+    c.taci();
+    constexpr int battute = 60;
+    int fatte = 0;
+    int aperte = 0;
+    int insieme = 0;
+    std::function<void()> batti = [&] {
+        if (fatte == battute) {
+            c.robot.inviaGrezzo(b({31, 20}));
+            return;
+        }
+        ++fatte;
+        QTimer::singleShot(0, &c.finestra, batti);
+        insieme = std::max(insieme, ++aperte);
+        c.tasto(Qt::Key_Up);
+        --aperte;
+    };
+    batti();
+    EXPECT_TRUE(aspetta([&] { return fatte == battute; }));
+    EXPECT_EQ(c.mandati().size(), battute);
+    EXPECT_LT(insieme, 40);
+}
+
+TEST(TastiConsole, AnotherProgramInFrontLetsAllKeysGo)
+{
+    ConsoleInProva c;
+    ASSERT_TRUE(c.mostraCollegata());
+    for (const Qt::Key tasto : {Qt::Key_Up, Qt::Key_Alt}) {
+        c.premiTasto(tasto);
+        EXPECT_EQ(chiusura(c), u"Tasto premuto"_s);
+        c.vaiAltrove();
+        EXPECT_EQ(chiusura(c), u"Tasto rilasciato"_s);
+        EXPECT_EQ(disegni(c), (QList<int>{1, 2, 3, 4}));
+        c.torna();
+        c.mandati();
+        c.tasto(Qt::Key_Space);
+        EXPECT_EQ(c.byteMandati(), b({19, 65, 0})) << "the first key is not swallowed";
+    }
+}
+
+TEST(TastiConsole, NothingHeldTheLatchKeepsWhatItSaid)
+{
+    ConsoleInProva c;
+    c.mostra();
+    c.vaiAltrove();
+    EXPECT_EQ(chiusura(c), QString());
+    EXPECT_EQ(c.finestra.lblStop.Top(), 3900);
+}
+
+TEST(TastiConsole, AKeyThatWasLostDuringItsWaitDoesNotShutTheLatchAfterIt)
+{
+    ConsoleInProva c;
+    ASSERT_TRUE(c.mostraCollegata());
+    c.taci();
+    QTimer::singleShot(0, &c.finestra, [&] {
+        c.vaiAltrove();
+        EXPECT_EQ(disegni(c), (QList<int>{1, 2, 3, 4}));
+        c.robot.inviaGrezzo(b({31, 20}));
+    });
+    c.premiTasto(Qt::Key_Up);
+    EXPECT_EQ(chiusura(c), u"Tasto rilasciato"_s);
+    c.torna();
+    c.mandati();
+    c.tasto(Qt::Key_Space);
+    EXPECT_EQ(c.byteMandati(), b({19, 65, 0}));
+}
+
+TEST(TastiConsole, AListThatOpensTakesTheReleaseOfAHeldKey)
+{
+    ConsoleInProva c;
+    ASSERT_TRUE(c.mostraCollegata());
+    c.premiTasto(Qt::Key_Up);
+    c.finestra.cbMex.showPopup();
+    ASSERT_TRUE(aspetta([&] { return c.finestra.cbMex.view()->isVisible(); }));
+    EXPECT_EQ(chiusura(c), u"Tasto rilasciato"_s);
+    EXPECT_EQ(disegni(c), (QList<int>{1, 2, 3, 4}));
+    c.finestra.cbMex.hidePopup();
+}
+
+TEST(TastiConsole, AnotherProgramInFrontLetsAllThatTheMouseHoldsGo)
+{
+    ConsoleInProva c;
+    ASSERT_TRUE(c.mostraCollegata());
+    frmPrincipale &f = c.finestra;
+    const std::pair<Etichetta *, double> etichette[] = {
+        {&f.lblStop, 2490}, {&f.lblAccLED, 60}, {&f.lblSpLED, 1140}, {&f.lblScattaFoto, 4500}};
+    for (const auto &[etichetta, left] : etichette) {
+        c.premi(*etichetta);
+        EXPECT_EQ(etichetta->Left(), left + 50);
+        c.vaiAltrove();
+        EXPECT_EQ(etichetta->Left(), left);
+        c.torna();
+        c.lascia(f, Qt::LeftButton, QPoint(399, 200));
+        EXPECT_EQ(etichetta->Left(), left);
+    }
+    for (const int freccia : {1, 4, 5, 6}) {
+        const int riposo = f.imgFreccia(freccia).Picture();
+        c.premi(f.imgFreccia(freccia));
+        EXPECT_EQ(f.imgFreccia(freccia).Picture(), riposo + 4);
+        c.vaiAltrove();
+        EXPECT_EQ(f.imgFreccia(freccia).Picture(), riposo);
+        c.torna();
+        c.lascia(f, Qt::LeftButton, QPoint(399, 200));
+    }
+    EXPECT_EQ(chiusura(c), u"Tasto rilasciato"_s);
+}
+
+TEST(TastiConsole, TheStopLabelThatTheSpaceBarHoldsIsLetGoToo)
+{
+    ConsoleInProva c;
+    ASSERT_TRUE(c.mostraCollegata());
+    c.premiTasto(Qt::Key_Space);
+    EXPECT_FALSE(stopARiposo(c));
+    c.vaiAltrove();
+    EXPECT_TRUE(stopARiposo(c));
+    c.torna();
+    // The mode changes while it is held.
+    for (CasellaOpzione *modo : {&c.finestra.opzBraccia, &c.finestra.opzTesta}) {
+        c.finestra.opzBase.setValue(true);
+        c.premiTasto(Qt::Key_Space);
+        EXPECT_FALSE(stopARiposo(c));
+        modo->setValue(true);
+        c.lasciaTasto(Qt::Key_Space);
+        EXPECT_TRUE(stopARiposo(c));
+    }
+}
+
+TEST(TastiConsole, ASpaceBarLetGoDuringItsWaitLeavesTheStopLabelAtRest)
+{
+    ConsoleInProva c;
+    ASSERT_TRUE(c.mostraCollegata());
+    c.taci();
+    QTimer::singleShot(0, &c.finestra, [&] {
+        c.lasciaTasto(Qt::Key_Space);
+        c.robot.inviaGrezzo(b({31, 20}));
+    });
+    c.premiTasto(Qt::Key_Space);
+    EXPECT_TRUE(stopARiposo(c));
+    EXPECT_EQ(c.byteMandati(), b({19, 65, 0}));
+}
+
+TEST(TastiConsole, StopGoesOutWhileAnotherCommandWaits)
+{
+    ConsoleInProva c;
+    ASSERT_TRUE(c.mostraCollegata());
+    const std::function<void()> fermate[] = {
+        [&] { c.tasto(Qt::Key_Space); }, [&] { c.clicca(c.finestra.lblStop); },
+        // A key counts as held when its wait has ended.
+        [&] {
+            c.finestra.imgFreccia(1).setTag(u"Tasto premuto"_s);
+            c.tasto(Qt::Key_Space);
+        }};
+    for (const auto &ferma : fermate) {
+        c.taci();
+        QTimer::singleShot(0, &c.finestra, [&] {
+            QTimer::singleShot(0, &c.finestra, [&] { c.robot.inviaGrezzo(b({31, 20})); });
+            ferma();
+        });
+        c.premiTasto(Qt::Key_Up);
+        EXPECT_EQ(c.byteMandati(), b({19, 65, 1, 19, 65, 0}));
+        c.lasciaTasto(Qt::Key_Up);
+    }
+}
+
+TEST(TastiConsole, TheTagOfTheFirstArrowIsTheLatchFromOutsideToo)
+{
+    ConsoleInProva c;
+    ASSERT_TRUE(c.mostraCollegata());
+    QWidget &freccia = c.finestra.imgFreccia(1);
+    EXPECT_TRUE(freccia.setProperty("Tag", u"Tasto premuto"_s));
+    c.premiTasto(Qt::Key_Up);
+    EXPECT_TRUE(c.mandati().isEmpty());
+    EXPECT_TRUE(freccia.setProperty("Tag", u"Tasto rilasciato"_s));
+    c.premiTasto(Qt::Key_Left);
+    EXPECT_EQ(c.byteMandati(), b({19, 68, 18}));
+    EXPECT_EQ(freccia.property("Tag").toString(), u"Tasto premuto"_s);
+    EXPECT_TRUE(freccia.setProperty("Tag", QString()));
+    EXPECT_EQ(chiusura(c), QString());
+    c.premiTasto(Qt::Key_Down);
+    EXPECT_EQ(c.byteMandati(), b({19, 66, 1}));
 }
 
 TEST(TastiConsole, AMouseButtonOnAMainArrowIsItsKey)

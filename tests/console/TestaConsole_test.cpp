@@ -172,7 +172,7 @@ TEST(TestaConsole, HoveringFollowsTheMouseAndSendsNothing)
             }
             EXPECT_TRUE(lista.isVisible());
             EXPECT_TRUE(c.fuocoACasa());
-            c.clicca(c.finestra.ImgTesta, Qt::LeftButton, QPoint(5, 60));
+            c.clicca(c.finestra.ImgTesta, Qt::LeftButton, QPoint(destro ? 8 : 152, 60));
             EXPECT_FALSE(lista.isVisible());
         }
     }
@@ -297,6 +297,192 @@ TEST(TestaConsole, TheLabelsSinkWithTheirShapesAndComeBack)
             EXPECT_EQ(t.etichetta.Top(), t.topDopo);
             EXPECT_EQ(c.mandati().isEmpty(), lista);
         }
+    }
+}
+
+namespace {
+
+std::vector<Etichetta *> etichette(ConsoleInProva &c)
+{
+    frmPrincipale &f = c.finestra;
+    return {&f.lblStop, &f.lblAccLED, &f.lblSpLED, &f.lblScattaFoto};
+}
+
+} // namespace
+
+TEST(TestaConsole, EveryPointOfALabelWorks)
+{
+    ConsoleInProva c;
+    c.mostra();
+    c.attivaLista(true);
+    for (Etichetta *etichetta : etichette(c)) {
+        SCOPED_TRACE(etichetta->objectName().toStdString());
+        // Pressed once, the label of STOP rests a little lower.
+        c.clicca(*etichetta);
+        const QRect punti = etichetta->rect();
+        for (int y = 0; y <= punti.bottom(); ++y) {
+            for (const int x : {0, 1, 2, 3, punti.center().x(), punti.right()}) {
+                c.frmEditor.lstMosse.Clear();
+                c.clicca(*etichetta, Qt::LeftButton, QPoint(x, y));
+                ASSERT_EQ(c.frmEditor.mosse().size(), 1) << x << ',' << y;
+            }
+        }
+    }
+}
+
+TEST(TestaConsole, APressThatSlidesOffALabelAndComesBackWorks)
+{
+    ConsoleInProva c;
+    c.mostra();
+    c.attivaLista(true);
+    for (Etichetta *etichetta : etichette(c)) {
+        SCOPED_TRACE(etichetta->objectName().toStdString());
+        c.clicca(*etichetta);
+        const QPoint angolo = etichetta->mapTo(&c.finestra, QPoint(0, 0));
+        c.frmEditor.lstMosse.Clear();
+        c.premi(c.finestra, Qt::LeftButton, angolo + QPoint(10, 10));
+        c.muovi(c.finestra, angolo - QPoint(20, 0));
+        c.muovi(c.finestra, angolo);
+        c.lascia(c.finestra, Qt::LeftButton, angolo);
+        EXPECT_EQ(c.frmEditor.mosse().size(), 1);
+    }
+}
+
+TEST(TestaConsole, AnotherButtonDoesNotTakeALabelsClickAway)
+{
+    ConsoleInProva c;
+    c.mostra();
+    c.attivaLista(true);
+    for (Etichetta *etichetta : etichette(c)) {
+        c.frmEditor.lstMosse.Clear();
+        c.premi(*etichetta);
+        c.premi(*etichetta, Qt::RightButton);
+        c.lascia(*etichetta, Qt::RightButton);
+        EXPECT_TRUE(c.frmEditor.mosse().isEmpty());
+        c.lascia(*etichetta);
+        EXPECT_EQ(c.frmEditor.mosse().size(), 1) << etichetta->objectName().toStdString();
+    }
+}
+
+TEST(TestaConsole, TheListOpensBesideThePointerAndNotOverTheHalfItIsAbout)
+{
+    ConsoleInProva c;
+    c.mostra();
+    frmPrincipale &f = c.finestra;
+    const QRect testa = f.ImgTesta.geometry();
+    const QRect meta[] = {{testa.topLeft(), QSize(testa.width() / 2, testa.height())},
+                          {testa.center() + QPoint(1, -testa.height() / 2),
+                           QSize(testa.width() / 2, testa.height())}};
+    for (const bool destro : {true, false}) {
+        for (const bool accendi : {true, false}) {
+            apriComparsa(c, destro, accendi);
+            const Elenco &lista = accendi ? f.mnuComparsaOn : f.mnuComparsaOff;
+            const Etichetta &testo = accendi ? f.lblOn : f.lblOff;
+            const Forma &cappello = accendi ? f.shCappelloOn : f.shCappelloOff;
+            const QRect mia = meta[destro ? 0 : 1];
+            for (const QWidget *parte :
+                 std::initializer_list<const QWidget *>{&lista, &testo, &cappello}) {
+                EXPECT_FALSE(parte->geometry().intersects(mia));
+                EXPECT_TRUE(f.rect().contains(parte->geometry()));
+            }
+            // On the border between the halves: nothing else comes in between.
+            EXPECT_EQ(destro ? lista.x() : lista.x() + lista.width(), testa.center().x() + 1);
+            c.clicca(f.ImgTesta, Qt::LeftButton, QPoint(destro ? 8 : 152, 80));
+            EXPECT_FALSE(lista.isVisible());
+        }
+    }
+}
+
+TEST(TestaConsole, OnTheStraightWayToTheListTheSideStaysWhatItWas)
+{
+    ConsoleInProva c;
+    c.mostra();
+    frmPrincipale &f = c.finestra;
+    for (const bool destro : {true, false}) {
+        const QString lato = destro ? u"destro"_s : u"sinistro"_s;
+        for (const QPoint da : {QPoint(5, 40), QPoint(40, 140), QPoint(75, 80), QPoint(5, 151)}) {
+            const QPoint via(destro ? da.x() : 159 - da.x(), da.y());
+            for (int riga = 0; riga < 4; ++riga) {
+                c.muovi(f.ImgTesta, via);
+                c.clicca(f.ImgTesta, Qt::LeftButton, via);
+                ASSERT_TRUE(f.mnuComparsaOn.isVisible());
+                const QPoint inizio = f.ImgTesta.mapTo(&f, via);
+                const QPoint fine =
+                    f.mnuComparsaOn.viewport()->mapTo(&f, suRiga(f.mnuComparsaOn, riga));
+                for (int passo = 0; passo <= 60; ++passo)
+                    c.muovi(f, inizio + (fine - inizio) * passo / 60);
+                EXPECT_EQ(f.ImgTesta.Tag(), lato) << via.x() << ',' << via.y();
+                EXPECT_EQ(f.mnuComparsaOn.ListIndex(), riga);
+                c.muovi(f.ImgTesta, via);
+                c.clicca(f.ImgTesta, Qt::LeftButton, via);
+            }
+        }
+    }
+}
+
+TEST(TestaConsole, ADoubleClickOnTheHeadSwitchesNothing)
+{
+    ConsoleInProva c;
+    c.mostra();
+    c.attivaLista(true);
+    for (const QPoint dove : {QPoint(8, 80), QPoint(40, 60), QPoint(79, 120), QPoint(80, 80),
+                              QPoint(81, 140), QPoint(120, 100), QPoint(80, 8)}) {
+        c.muovi(c.finestra.ImgTesta, dove);
+        c.cliccaDoppio(c.finestra.ImgTesta, dove);
+        EXPECT_TRUE(c.frmEditor.mosse().isEmpty());
+        EXPECT_FALSE(comparsa(c, true)) << "the second press closes it: " << dove.x();
+    }
+    // The hand is not steady: the second press is a pixel farther, on the list.
+    c.muovi(c.finestra.ImgTesta, QPoint(79, 100));
+    c.clicca(c.finestra.ImgTesta, Qt::LeftButton, QPoint(79, 100));
+    Elenco &lista = c.finestra.mnuComparsaOn;
+    ASSERT_TRUE(comparsa(c, true));
+    QMouseEvent seconda(QEvent::MouseButtonDblClick, QPointF(1, 30),
+                        lista.viewport()->mapToGlobal(QPointF(1, 30)), Qt::LeftButton,
+                        Qt::LeftButton, {});
+    QApplication::sendEvent(lista.viewport(), &seconda);
+    EXPECT_TRUE(c.frmEditor.mosse().isEmpty());
+    EXPECT_TRUE(comparsa(c, true));
+}
+
+TEST(TestaConsole, ADoubleClickOnALabelOrAPictureIsOneClick)
+{
+    ConsoleInProva c;
+    c.mostra();
+    c.attivaLista(true);
+    frmPrincipale &f = c.finestra;
+    std::vector<QWidget *> tutti(
+        {&f.imgPinzaAperta, &f.imgPinzaChiusa, &f.pulPlayMex, &f.imgPlayProg, &f.imgStopProg});
+    for (Etichetta *etichetta : etichette(c))
+        tutti.push_back(etichetta);
+    for (QWidget *controllo : tutti) {
+        c.frmEditor.lstMosse.Clear();
+        c.cliccaDoppio(*controllo);
+        EXPECT_EQ(c.frmEditor.mosse().size(), 1) << controllo->objectName().toStdString();
+    }
+    // What acts on the press acts twice.
+    c.frmEditor.lstMosse.Clear();
+    c.cliccaDoppio(f.imgFreccia(5));
+    EXPECT_EQ(c.frmEditor.mosse().size(), 2);
+}
+
+TEST(TestaConsole, ARightPressOnARowDoesNothingWhetherOrNotItIsTheCurrentOne)
+{
+    ConsoleInProva c;
+    c.mostra();
+    c.attivaLista(true);
+    Elenco &lista = c.finestra.mnuComparsaOn;
+    for (const bool corrente : {false, true}) {
+        apriComparsa(c, true, true);
+        // A touch: no movement comes before the press.
+        lista.setTag(u"SI"_s);
+        if (corrente)
+            c.muovi(*lista.viewport(), suRiga(lista, 2));
+        for (const Qt::MouseButton pulsante : {Qt::RightButton, Qt::MiddleButton})
+            QTest::mouseClick(lista.viewport(), pulsante, {}, suRiga(lista, 2));
+        EXPECT_TRUE(lista.isVisible());
+        EXPECT_TRUE(c.frmEditor.mosse().isEmpty());
+        c.clicca(c.finestra.ImgTesta, Qt::LeftButton, QPoint(8, 80));
     }
 }
 

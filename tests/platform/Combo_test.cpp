@@ -273,3 +273,46 @@ TEST_F(ComboTest, clearing_leaves_nothing_selected_and_raises_nothing)
         EXPECT_EQ(combo->Text(), QString());
     }
 }
+
+TEST_F(ComboTest, the_wheel_over_a_box_without_the_focus_changes_nothing)
+{
+    pulsante.setGeometry(0, 100, 80, 25);
+    finestra.mostraAttiva();
+    pulsante.setFocus();
+    for (Combo *combo : {&fisso, &editabile}) {
+        combo->setListIndex(1);
+        click.clear();
+        const auto gira = [&] {
+            const QPoint dove = combo->rect().center();
+            QWheelEvent ruota(dove, combo->mapToGlobal(dove), {}, {0, -120}, Qt::NoButton, {},
+                              Qt::NoScrollPhase, false);
+            QApplication::sendEvent(combo, &ruota);
+        };
+        gira();
+        EXPECT_EQ(combo->ListIndex(), 1);
+        EXPECT_TRUE(click.isEmpty());
+        combo->SetFocus();
+        gira();
+        EXPECT_EQ(combo->ListIndex(), 2);
+        EXPECT_EQ(click, QList<int>{2});
+        pulsante.setFocus();
+    }
+}
+
+TEST_F(ComboTest, it_reports_that_its_list_has_gone_before_the_click_of_a_choice)
+{
+    finestra.mostraAttiva();
+    QStringList visti;
+    for (Combo *combo : {&fisso, &editabile}) {
+        combo->Chiusa.collega([&] { visti << u"chiusa"_s; });
+        combo->Click.collega([&] { visti << u"click"_s; });
+    }
+    scegli(fisso, 1);
+    scegli(fisso, 1);
+    EXPECT_EQ(visti, (QStringList{u"chiusa"_s, u"click"_s, u"chiusa"_s, u"click"_s}));
+    visti.clear();
+    editabile.showPopup();
+    ASSERT_TRUE(attendi([&] { return editabile.view()->isVisible(); }));
+    QTest::keyClick(editabile.view(), Qt::Key_Escape);
+    EXPECT_EQ(visti, QStringList{u"chiusa"_s});
+}
