@@ -56,6 +56,8 @@ public:
     void MostraInvio(const QString &testo) { m_sessione.MostraInvio(testo); }
     void RidaiFuoco() override;
     void Collega() { m_sessione.Collega(); }
+    bool collegato() const { return m_sessione.collegato(); }
+    bool staTentando() const { return m_sessione.staTentando(); }
     EsitoVideo &esitoVideo() { return m_sessione; }
 
     ListaImmagini imgPulsanti{Disegni::imgPulsantiConsole()};

@@ -51,6 +51,7 @@ void Sessione::Collega()
 {
     const MotoreRicezione::Fermo fermo(m_motore);
     PulsanteBarra &pulsante = c.BarraPulsanti.Buttons(1);
+    m_stato = Stato::InTentativo;
     if (m_splash.Visible())
         m_splash.lblColl.setCaption(u"Apertura della porta di comunicazione..."_s);
     pulsante.setEnabled(false);
@@ -95,6 +96,7 @@ bool Sessione::aspettaRobot()
 void Sessione::connesso()
 {
     PulsanteBarra &pulsante = c.BarraPulsanti.Buttons(1);
+    m_stato = Stato::Collegata;
     c.tmrChiusuraAutomatica.setEnabled(false);
     pulsante.setEnabled(true);
     pulsante.setImage(Disconnetti);
@@ -124,6 +126,7 @@ void Sessione::nonRiuscito()
         pompa();
     }
     COM.setPortOpen(false);
+    m_stato = Stato::Scollegata;
     c.BarraStato.setPanels(1, u"Non connesso"_s);
     c.BarraStato.setPanels(3, {});
 }
@@ -174,6 +177,7 @@ void Sessione::Scollega()
     ImpostaAbilitati(false, c.tmrControllaConn, c.tmrElabInput, c.tmrSensori);
     ComandiTessaro::ChiudiSessione(COM);
     COM.setPortOpen(false);
+    m_stato = Stato::Scollegata;
     c.BarraStato.setPanels(1, u"Non connesso"_s);
     c.BarraStato.setPanels(2, u"<>"_s);
     c.BarraStato.setPanels(3, u"Disconnesso"_s);
@@ -252,6 +256,7 @@ void Sessione::tmrControllaConn_Timer()
             return;
         }
         if (giri > giriRicerca) {
+            m_stato = Stato::InRicerca;
             c.BarraStato.setPanels(1, u"Ricerca..."_s);
             passaErrori([&] { c.BarraCaricamento.setValore(giri); });
             pompa();
@@ -261,6 +266,7 @@ void Sessione::tmrControllaConn_Timer()
     if (!risposta.isEmpty()) {
         c.tmrElabInput.accumulatore.aggiungi(risposta);
         m_mancato = false;
+        m_stato = Stato::Collegata;
         c.BarraCaricamento.setValore(1);
         c.BarraStato.setPanels(1, u"Connesso"_s);
     } else if (!m_mancato) {

@@ -37,10 +37,29 @@ public:
 class Sessione : public EsitoVideo
 {
 public:
+    // Where the connection stands.
+    enum class Stato {
+        Scollegata,
+        // An attempt is under way, from its first step until it has succeeded or failed.
+        InTentativo,
+        Collegata,
+        // Connected, but the robot has been silent for a while.
+        InRicerca,
+    };
+
     Sessione(ControlloSeriale &COM, const ControlliSessione &controlli,
              const ControlliTelemetria &telemetria, MotoreRicezione &motore,
              frmSchermataIniziale &splash, frmImpostaPorta &impostaPorta,
              FinestreSessione &finestre);
+
+    Stato stato() const { return m_stato; }
+    // A connection stands and its port is open. An attempt on a port that could not be opened is
+    // carried on as a success, but it has connected nothing.
+    bool collegato() const
+    {
+        return (m_stato == Stato::Collegata || m_stato == Stato::InRicerca) && COM.PortOpen();
+    }
+    bool staTentando() const { return m_stato == Stato::InTentativo; }
 
     // The whole connection attempt; returns when it has succeeded or failed, timers and clicks
     // being served meanwhile. Passes over errors, statement by statement.
@@ -73,6 +92,7 @@ private:
     frmImpostaPorta &m_impostaPorta;
     FinestreSessione &m_finestre;
 
+    Stato m_stato = Stato::Scollegata;
     bool m_sollecitato = false;
     bool m_mancato = false;
     qint16 UltimoConteggio = 0;
