@@ -1,6 +1,7 @@
 #include "Finestra.h"
 
 #include "Tasti.h"
+#include "TastiRipetuti.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -23,6 +24,7 @@ Finestra::Finestra(const QString &nome, const QString &titolo) : m_titolo(titolo
     setWindowTitle(titolo);
     setMouseTracking(true);
     setAttribute(Qt::WA_QuitOnClose, false);
+    fermaTastiRipetuti();
 }
 
 Finestra *Finestra::Ultima()
