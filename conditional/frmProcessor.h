@@ -84,6 +84,7 @@ private:
     void lstFile_Click();
     void lstFile_KeyDown(int &KeyCode);
     void riempi();
+    void scriviProgetto() const;
     void leggiProgetto();
     QList<Progetto::Lista> liste() const;
     QString rigaLista(int riga) const;
@@ -95,4 +96,7 @@ private:
     ConsoleVigilio &m_console;
     frmEditor &m_editor;
     QString m_cartella;
+    // Whether the default condition could be read: without it the lists stay empty, and say nothing
+    // about a project.
+    bool m_riempite = false;
 };
