@@ -43,6 +43,8 @@ public:
     explicit CollegamentoVigilio(frmPrincipale &principale) : m_principale(principale) {}
 
     bool PortOpen() override { return m_principale.COM.PortOpen(); }
+    bool collegato() override { return m_principale.collegato(); }
+    bool staTentando() override { return m_principale.staTentando(); }
     void Collega() override { m_principale.Collega(); }
 
 private:

@@ -29,6 +29,8 @@ public:
     void MostraInvio(const QString &) override {}
     void AggiungiMossa(const QString &) override {}
     bool PortOpen() override { return m_principale.COM.PortOpen(); }
+    bool collegato() override { return m_principale.collegato(); }
+    bool staTentando() override { return m_principale.staTentando(); }
     void Collega() override {}
 
 private:

@@ -60,6 +60,11 @@ void frmImpCondizioni::collegaEventi()
     }
     for (int k = opzSens.prima(); k <= opzSens.ultima(); ++k)
         opzSens(k).Click.collega(this, &frmImpCondizioni::opzSens_Click);
+    for (const Ora &ora : m_ore)
+        m_tasto.segui(ora.testo);
+    for (Combo *combo : {&cbTemperatura, &cbBattLogica, &cbBattMotori})
+        m_tasto.segui(*combo);
+    m_tasto.lasciato = [this] { passaErrori([this] { pulOK.SetFocus(); }); };
     cbTemperatura.Click.collega([this] { attiva(CampoTemperatura); });
     cbBattLogica.Click.collega([this] { attiva(CampoLogica); });
     cbBattMotori.Click.collega([this] { attiva(CampoMotori); });
@@ -177,7 +182,16 @@ void frmImpCondizioni::abilitaOK()
 {
     pulOK.setEnabled(true);
     // A box that loses the focus as the dialog goes away comes here, too.
-    passaErrori([this] { pulOK.SetFocus(); });
+    if (!m_tasto.trattiene(focusWidget()))
+        passaErrori([this] { pulOK.SetFocus(); });
+}
+
+void frmImpCondizioni::disabilitaOK()
+{
+    // Disabled, it would hand the focus on to the button that takes the check mark away.
+    if (focusWidget() == &pulOK)
+        imgCasella(CampoOrario).setFocus(Qt::OtherFocusReason);
+    pulOK.setEnabled(false);
 }
 
 void frmImpCondizioni::frame_Click(int Index)
@@ -192,7 +206,7 @@ void frmImpCondizioni::frame_Click(int Index)
             return;
         }
     }
-    pulOK.setEnabled(false);
+    disabilitaOK();
 }
 
 void frmImpCondizioni::opzSens_Click()

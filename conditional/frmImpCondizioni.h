@@ -12,6 +12,7 @@
 #include "Finestra.h"
 #include "Grafica.h"
 #include "Pulsanti.h"
+#include "TastoTenuto.h"
 #include "Vicini.h"
 
 using namespace Qt::StringLiterals;
@@ -99,7 +100,9 @@ private:
     // Switches a panel on by its Click, where it is off and its controls may do so.
     void attiva(int pannello);
     void mostra(int pannello, bool acceso);
+    // The button has the focus while any panel is active, the first control otherwise.
     void abilitaOK();
+    void disabilitaOK();
 
     QString condizioneCorrente() const;
     void mostraOrario(const QString &condizione);
@@ -115,6 +118,7 @@ private:
     // The row that was current when the dialog was opened: a list that starts meanwhile moves it.
     int m_riga = -1;
     const Orologio &m_orologio;
+    TastoTenuto m_tasto;
     const std::array<Ora, 3> m_ore{
         {{txtOre, SuGiuOre, 24}, {txtMinuti, SuGiuMinuti, 60}, {txtSecondi, SuGiuSecondi, 60}}};
 };

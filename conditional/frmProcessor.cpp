@@ -12,6 +12,7 @@
 #include "VisErrori.h"
 #include "frmEditor.h"
 
+#include <QFileInfo>
 #include <QHash>
 
 namespace {
@@ -56,7 +57,7 @@ void frmProcessor::collegaGestori()
 void frmProcessor::Load()
 {
     // Without a default condition to be read the window stays empty.
-    passaErrori([this] { riempi(); });
+    m_riempite = passaErrori([this] { riempi(); });
 }
 
 void frmProcessor::riempi()
@@ -164,10 +165,17 @@ void frmProcessor::mnuFileSalva_Click()
         return;
     }
     // No failure is told.
-    if (!passaErrori([this] { ScriviFile(Finestre.FileName(), Progetto::scritto(liste())); }))
+    if (!passaErrori([this] { scriviProgetto(); }))
         Archivio::abbandona();
     setCaption(titolo + u"  "_s + nomeDelFile(Finestre.FileName()));
     lstFile.setTag(Numeri::TestoLogico(true));
+}
+
+void frmProcessor::scriviProgetto() const
+{
+    // Lists that could not be filled must not take the place of a project that was.
+    if (m_riempite || !QFileInfo::exists(Finestre.FileName()))
+        ScriviFile(Finestre.FileName(), Progetto::scritto(liste()));
 }
 
 void frmProcessor::mnuFileSalvacome_Click()

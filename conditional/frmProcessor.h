@@ -8,7 +8,9 @@
 #include "Finestra.h"
 #include "FinestraFile.h"
 #include "Progetto.h"
+#include "PulsanteAvvia.h"
 #include "Vicini.h"
+#include "Vigilio.h"
 #include "VoceMenu.h"
 #include "frmImpCondizioni.h"
 
@@ -21,13 +23,16 @@ class QBoxLayout;
 class frmProcessor : public Finestra, public AscoltatoreTelemetria
 {
     Q_OBJECT
+    Q_PROPERTY(QString Tag READ Tag WRITE setTag)
 
 public:
     // cartella: the program's folder, whose lists there are.
     frmProcessor(ConsoleVigilio &console, frmEditor &editor, const Orologio &orologio,
                  const QString &cartella);
 
-    bool avviato() const override;
+    bool avviato() const override { return m_vigilio.avviato(); }
+    // "AVVIATO" switches the Vigilio on as far as telemetry goes, any other text switches it off.
+    void setTag(const QString &tag);
     // Runs the lists whose conditions a telemetry text meets, one after the other. A list that
     // cannot be read is the caller's Errore.
     void VerificaCondizioni(const QString &testo) override;
@@ -56,8 +61,7 @@ public:
     Elenco lstFile{u"lstFile"_s, this, Elenco::Stile::ConSpunte};
     ElencoFile File;
     Elenco lstCondizioni{u"lstCondizioni"_s, this};
-    // Its caption tells what a click does.
-    Pulsante pulAvvia{u"pulAvvia"_s, this, u"AVVIA"_s};
+    PulsanteAvvia pulAvvia{u"pulAvvia"_s, this};
     Pulsante pulSalva{u"pulSalva"_s, this, u"Salva"_s};
     Pulsante pulAnnulla{u"pulAnnulla"_s, this, u"Annulla"_s};
 
@@ -71,8 +75,6 @@ protected:
 private:
     // How the window looks.
     void disponi();
-    // What stands on pulAvvia.
-    void mostraAvvia(const QString &scritta, bool corsivo);
     void collegaGestori();
 
     bool ChiediSalvataggio();
@@ -84,15 +86,22 @@ private:
     void lstFile_Click();
     void lstFile_KeyDown(int &KeyCode);
     void riempi();
+    void scriviProgetto() const;
     void leggiProgetto();
     QList<Progetto::Lista> liste() const;
     QString rigaLista(int riga) const;
 
     // The engine.
     void pulAvvia_Click();
+    // Asks the user, and connects; whether there is a connection now.
+    bool connetti(const Vigilio::Avvio &avvio);
     bool inContrasto() const;
 
     ConsoleVigilio &m_console;
     frmEditor &m_editor;
     QString m_cartella;
+    Vigilio m_vigilio;
+    // Whether the default condition could be read: without it the lists stay empty, and say nothing
+    // about a project.
+    bool m_riempite = false;
 };

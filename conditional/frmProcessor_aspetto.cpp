@@ -2,7 +2,6 @@
 #include "frmProcessor.h"
 
 #include "Condizione.h"
-#include "Disegni.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -118,16 +117,6 @@ void frmProcessor::Disegno()
     Finestre.setFilter({});
     mnuOpzRiduci.setChecked(false);
     mnuOpzDeselezionaAut.setChecked(false);
-    mostraAvvia(u"AVVIA"_s, false);
+    pulAvvia.setAzione(PulsanteAvvia::Azione::Avvia, false);
     pulAvvia.setEnabled(false);
-}
-
-void frmProcessor::mostraAvvia(const QString &scritta, bool corsivo)
-{
-    enum Disegno { Spento, InAttesa };
-    pulAvvia.setCaption(scritta);
-    pulAvvia.setIcon(Disegni::lstImgVigilio()[scritta == u"AVVIA" ? Spento : InAttesa]);
-    QFont font = pulAvvia.font();
-    font.setItalic(corsivo);
-    pulAvvia.setFont(font);
 }

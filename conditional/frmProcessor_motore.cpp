@@ -10,44 +10,57 @@
 namespace {
 
 const QString statoAvviato = u"AVVIATO"_s;
-const QString scrittaAvvia = u"AVVIA"_s;
 const QString titolo = u"Vigilio"_s;
 
 enum Stato { VigilioSpento = 1, VigilioInAttesa };
 
 } // namespace
 
-bool frmProcessor::avviato() const
+void frmProcessor::setTag(const QString &tag)
 {
-    return Tag() == statoAvviato;
+    if (tag == statoAvviato)
+        m_vigilio.accendi();
+    else
+        m_vigilio.spegni();
+    Finestra::setTag(tag);
 }
 
 void frmProcessor::pulAvvia_Click()
 {
-    if (pulAvvia.Caption() != scrittaAvvia) {
+    if (pulAvvia.azione() == PulsanteAvvia::Azione::Ferma) {
         Stoppa();
         return;
     }
-    if (!m_console.PortOpen()) {
-        if (messaggio(
-                u"Per avviare il Vigilio è necessario essere connessi ad Tessaro, connettersi "
-                "ora?"_s,
-                Icona::Domanda, Pulsanti::SiNo, titolo) != Risposta::Si)
-            return;
-        m_console.Collega();
-        if (!m_console.PortOpen())
-            return;
-    }
+    // An attempt that somebody else has under way may still fail, though the port is open.
+    if (m_console.staTentando())
+        return;
+    const Vigilio::Avvio avvio(m_vigilio);
+    if (!avvio.valido())
+        return;
+    if (!m_console.PortOpen() && !connetti(avvio))
+        return;
     // Connecting takes its time, and the user may have been quicker.
-    if (!Caricata() || inContrasto())
+    if (!avvio.valido() || inContrasto())
         return;
     if (mnuOpzRiduci.Checked())
         Nascondi();
     m_editor.imgVigilio.setPicture(VigilioInAttesa);
     m_editor.Mostra();
     m_editor.tmrAttivaAut.setEnabled(true);
-    mostraAvvia(u"STOP"_s, false);
+    pulAvvia.setAzione(PulsanteAvvia::Azione::Ferma, false);
     setTag(statoAvviato);
+}
+
+bool frmProcessor::connetti(const Vigilio::Avvio &avvio)
+{
+    if (messaggio(u"Per avviare il Vigilio è necessario essere connessi ad Tessaro, connettersi "
+                  "ora?"_s,
+                  Icona::Domanda, Pulsanti::SiNo, titolo) != Risposta::Si)
+        return false;
+    if (!avvio.valido() || m_console.staTentando())
+        return false;
+    m_console.Collega();
+    return m_console.collegato();
 }
 
 // Whether two lists cannot go together, which is told.
@@ -92,6 +105,6 @@ void frmProcessor::Stoppa()
 {
     m_editor.imgVigilio.setPicture(VigilioSpento);
     m_editor.tmrAttivaAut.setEnabled(false);
-    mostraAvvia(scrittaAvvia, true);
+    pulAvvia.setAzione(PulsanteAvvia::Azione::Avvia, true);
     setTag({});
 }

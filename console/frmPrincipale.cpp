@@ -5,7 +5,7 @@
 #include "Archivio.h"
 #include "Codifica.h"
 #include "Collocazione.h"
-#include "Gest_File.h"
+#include "FileProgDat.h"
 #include "Messaggi.h"
 #include "Numeri.h"
 #include "Pompa.h"
@@ -98,8 +98,7 @@ void frmPrincipale::Load()
         imgFreccia(i).setPicture(imgFreccia(i == 5 || i == 7 || i == 8 ? 1 : 4).Picture());
 
     // A file that cannot be read skips the test and lands on the connection.
-    const bool collega =
-        provaPassata([] { return Numeri::Valore(LeggiFile(u"prog.dat"_s, 0)) == 1; });
+    const bool collega = provaPassata([] { return Numeri::Valore(FileProgDat::leggi()) == 1; });
     if (collega) {
         passaErrori([this] { Collega(); });
     } else {

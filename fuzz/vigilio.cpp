@@ -1,10 +1,10 @@
 // Any bytes as a project file, as "prog.dat" and as conditions: reading them, comparing them, and
 // testing them against telemetry never does more than fail; what was read without quotes in its
 // texts is read again from what is written of it.
-#include "CampiProgDat.h"
 #include "Codifica.h"
 #include "Condizione.h"
 #include "Errore.h"
+#include "FileProgDat.h"
 #include "OraDiLista.h"
 #include "Progetto.h"
 
@@ -64,9 +64,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *dati, size_t quanti)
     if (!virgolette)
         esigi(letto(Progetto::scritto(liste)) == liste);
 
-    const QByteArray condizione = CampiProgDat::condizione(file);
+    const QByteArray condizione = FileProgDat::condizione(file);
     if (file.contains(';'))
-        esigi(CampiProgDat::uniti(CampiProgDat::impostazione(file), condizione) == file);
+        esigi(FileProgDat::uniti(FileProgDat::impostazione(file), condizione) == file);
     provaCondizione(Codifica::daByte(condizione), prima);
     return 0;
 }

@@ -41,10 +41,13 @@ void portaEsempi(const QString &esempi, const QString &cartella)
     const QStringList nomi = QDir(esempi).entryList({u"*.sqm"_s, u"prog.dat"_s}, QDir::Files);
     if (portati.exists() || nomi.isEmpty())
         return;
+    // A file of the user's is the same one in any case, as on Windows.
+    const QStringList presenti =
+        QDir(cartella).entryList(QDir::AllEntries | QDir::Hidden | QDir::System);
     bool tutti = true;
     for (const QString &nome : nomi) {
         const QString copia = conSeparatore(cartella) + nome;
-        if (QFileInfo::exists(copia))
+        if (presenti.contains(nome, Qt::CaseInsensitive))
             continue;
         if (QFile::copy(conSeparatore(esempi) + nome, copia))
             QFile::setPermissions(copia, QFile::permissions(copia) | QFile::WriteOwner);

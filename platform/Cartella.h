@@ -13,8 +13,8 @@ QString trovaCartellaProgramma();
 QString trovaCartellaProgramma(const QString &accanto, const QString &utente);
 
 // Copies the lists of the folder esempi into the program's folder, once: what the user has of the
-// same name stays, and what he deletes later does not come back. Failures are passed over; what
-// failed is tried again at the next call.
+// same name, in any case, stays, and what he deletes later does not come back. Failures are passed
+// over; what failed is tried again at the next call.
 void portaEsempi(const QString &esempi, const QString &cartella);
 
 // The name behind the last backslash or "/" of a path, or the whole text.

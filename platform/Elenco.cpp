@@ -217,6 +217,8 @@ void Elenco::keyPressEvent(QKeyEvent *evento)
 {
     int codice = Tasti::codice(*evento);
     KeyDown(codice, numeroMaiuscole(evento->modifiers()));
-    if (codice != 0)
+    // Held down, the space bar changes a check mark once.
+    const bool ancora = codice == Tasti::Spazio && evento->isAutoRepeat();
+    if (codice != 0 && !(ancora && m_stile == Stile::ConSpunte))
         Controllo::keyPressEvent(evento);
 }

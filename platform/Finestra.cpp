@@ -2,6 +2,7 @@
 
 #include "SecondaPressione.h"
 #include "Tasti.h"
+#include "TastiRipetuti.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -50,6 +51,7 @@ Finestra::Finestra(const QString &nome, const QString &titolo) : m_titolo(titolo
     setWindowTitle(titolo);
     setMouseTracking(true);
     fermaSecondePressioni();
+    fermaTastiRipetuti();
     perAttivita().append(this);
 }
 

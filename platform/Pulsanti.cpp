@@ -12,9 +12,34 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// With the keys up and down Qt would take the focus to a neighbour: held on, they would then change
+// what that one shows.
+class FrecceFerme : public QObject
+{
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject *, QEvent *evento) override
+    {
+        if (evento->type() != QEvent::KeyPress)
+            return false;
+        const int codice = Tasti::codice(*static_cast<QKeyEvent *>(evento));
+        if (codice != Tasti::Su && codice != Tasti::Giu)
+            return false;
+        evento->ignore();
+        return true;
+    }
+};
+
+} // namespace
+
 Pulsante::Pulsante(const QString &nome, QWidget *dentro, const QString &testo)
     : Controllo(nome, dentro)
 {
+    installEventFilter(new FrecceFerme(this));
     setText(testo);
     connect(this, &QPushButton::clicked, this, [this] { Click(); });
 }

@@ -1,8 +1,8 @@
 #include "frmOpzioni.h"
 
 #include "Archivio.h"
-#include "CampiProgDat.h"
 #include "Codifica.h"
+#include "FileProgDat.h"
 #include "Gest_File.h"
 #include "Numeri.h"
 
@@ -109,7 +109,7 @@ void frmOpzioni::leggiFile()
         lblSpiegazioneCOM.hide();
     }
     passaErrori([&] {
-        Archivio::apri(1, u"Prog.dat"_s, Archivio::Modo::Lettura);
+        Archivio::apri(1, FileProgDat::nome(), Archivio::Modo::Lettura);
         opzCollegaAut.setValue(Numeri::Byte(Archivio::leggiNumero(1)));
     });
     Archivio::abbandona();
@@ -122,10 +122,10 @@ void frmOpzioni::pulOK_Click()
         return;
     passaErrori([&] { ScriviFile(u"Porta COM"_s, Codifica::inByte(txtPorta.Text()) + "\r\n"); });
     QByteArray testo;
-    passaErrori([&] { testo = LeggiFile(u"prog.dat"_s, 0); });
+    passaErrori([&] { testo = FileProgDat::leggi(); });
     passaErrori([&] {
-        ScriviFile(u"prog.dat"_s, CampiProgDat::uniti(QByteArray::number(opzCollegaAut.Value()),
-                                                      CampiProgDat::condizione(testo)));
+        FileProgDat::scrivi(QByteArray::number(opzCollegaAut.Value()),
+                            FileProgDat::condizione(testo));
     });
     Scarica();
 }

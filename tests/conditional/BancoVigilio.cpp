@@ -7,10 +7,14 @@
 void CollegamentoFinto::Collega()
 {
     ++tentativi;
-    if (riesce)
-        m_seriale.apri();
+    m_seriale.apri();
+    tenta = true;
     if (intanto)
         intanto();
+    tenta = false;
+    m_seriale.COM.setPortOpen(riesce);
+    if (dopo)
+        dopo();
 }
 
 BancoVigilio::BancoVigilio()

@@ -11,12 +11,19 @@ public:
     explicit CollegamentoFinto(SerialeFinto &seriale) : m_seriale(seriale) {}
 
     bool PortOpen() override { return m_seriale.COM.PortOpen(); }
+    bool collegato() override { return riesce && !tenta && PortOpen(); }
+    bool staTentando() override { return tenta; }
+    // The port is open while it is tried, as a real one is.
     void Collega() override;
 
-    // Whether connecting succeeds, how often it was tried, what happens meanwhile.
+    // Whether connecting succeeds, whether it is being tried, by whomever, how often it was tried
+    // from here, what happens meanwhile.
     bool riesce = true;
+    bool tenta = false;
     int tentativi = 0;
     std::function<void()> intanto;
+    // What happens after it.
+    std::function<void()> dopo;
 
 private:
     SerialeFinto &m_seriale;

@@ -118,6 +118,54 @@ TEST_F(CondizioniTest, EnterIsTheKeyboardsDoubleClick)
     EXPECT_EQ(condizioni(), QStringList{u"no,no,no,no,1"_s});
 }
 
+TEST_F(CondizioniTest, AHeldEnterOpensTheDialogOnceAndChangesNothing)
+{
+    const auto invio = [](QWidget *dove, bool ancora) {
+        QKeyEvent evento(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), ancora);
+        QApplication::sendEvent(dove, &evento);
+    };
+    for (const QString &prima : {fabbrica, u"no,no,no,no,no"_s, u"no,no,25,no,no"_s}) {
+        mostraVigilio({u"a.sqm"_s});
+        imposta(0, prima);
+        processor.lstFile.SetFocus();
+        processor.lstFile.setListIndex(0);
+        processor.lstFile.setTag(u"True"_s);
+        int ripetuti = 0;
+        const ConModale utente(u"frmImpCondizioni"_s, [&] {
+            if (++ripetuti < 5) {
+                invio(dialogo.focusWidget(), true);
+                return;
+            }
+            EXPECT_TRUE(dialogo.Visible());
+            EXPECT_NE(dialogo.focusWidget(), &dialogo.pulAnnulla);
+            dialogo.frame(3).Click();
+            if (dialogo.frame(3).Tag() == u"0")
+                dialogo.frame(3).Click();
+            dialogo.pulOK.click();
+        });
+        invio(&processor.lstFile, false);
+        invio(&processor.lstFile, true);
+        EXPECT_EQ(ripetuti, 5) << "opened once";
+        EXPECT_EQ(condizioni(), QStringList{u"no,no,25,no,no"_s});
+        EXPECT_EQ(scelte(), QList<bool>{true});
+        processor.lstFile.setTag(u"True"_s);
+        processor.Scarica();
+    }
+}
+
+TEST_F(CondizioniTest, WithoutACurrentRowTheDefaultConditionShowsAllPanelsOn)
+{
+    mostraVigilio({u"a.sqm"_s});
+    int attivi = 0;
+    const ConModale utente(u"frmImpCondizioni"_s, [&] {
+        for (int i = 1; i <= 5; ++i)
+            attivi += dialogo.frame(i).Tag() == u"-1";
+        dialogo.pulAnnulla.click();
+    });
+    processor.mnuOpzCondizionePred.trigger();
+    EXPECT_EQ(attivi, 5);
+}
+
 TEST_F(CondizioniTest, AListThatStartsMeanwhileDoesNotTakeTheCondition)
 {
     avvia({{u"a.sqm"_s, u"no,no,25,no,no"_s}, {u"b.sqm"_s, u"no,no,26,no,no"_s}});

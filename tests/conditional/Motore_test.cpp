@@ -171,6 +171,172 @@ TEST_F(MotoreTest, AWindowThatIsClosedWhileItConnectsStartsNothing)
     EXPECT_EQ(processor.Tag(), u"Annulla"_s);
 }
 
+TEST_F(MotoreTest, AClickWhileItConnectsStartsNothing)
+{
+    const RispondiMessaggi messaggi(QMessageBox::Yes);
+    for (const bool riesce : {false, true}) {
+        mostraVigilio({u"a.sqm"_s});
+        scegli(0);
+        collegamento.riesce = riesce;
+        collegamento.tentativi = 0;
+        collegamento.intanto = [this] {
+            for (int i = 0; i < 3; ++i) {
+                cliccaVigilio(processor.pulAvvia);
+                controllaFermo();
+            }
+        };
+        processor.pulAvvia.click();
+        EXPECT_EQ(collegamento.tentativi, 1);
+        EXPECT_EQ(processor.avviato(), riesce);
+        EXPECT_EQ(editor.tmrAttivaAut.Enabled(), riesce);
+    }
+    EXPECT_EQ(messaggi.testi(), (QStringList{chiedeConnessione, chiedeConnessione}));
+}
+
+TEST_F(MotoreTest, WhatStopsItWhileItConnectsTakesTheStartBack)
+{
+    const RispondiMessaggi messaggi(QMessageBox::Yes);
+    const QList<std::function<void()>> modi = {[&] { processor.Stoppa(); },
+                                               [&] {
+                                                   processor.pulAvvia.setProperty("Caption",
+                                                                                  u"STOP"_s);
+                                                   cliccaVigilio(processor.pulAvvia);
+                                               },
+                                               [&] { processor.setProperty("Tag", QString()); },
+                                               [&] { scegli(0, false); },
+                                               [&] {
+                                                   scegli(0, false);
+                                                   scegli(0);
+                                               },
+                                               [&] {
+                                                   processor.lstFile.setTag(u"True"_s);
+                                                   processor.mnuFileNuovo.trigger();
+                                               },
+                                               [&] {
+                                                   processor.lstFile.setTag(u"True"_s);
+                                                   processor.close();
+                                               },
+                                               [&] {
+                                                   processor.lstFile.setTag(u"True"_s);
+                                                   processor.close();
+                                                   processor.Mostra();
+                                                   scegli(0);
+                                               }};
+    for (const auto &ferma : modi) {
+        mostraVigilio({u"a.sqm"_s});
+        scegli(0);
+        collegamento.intanto = ferma;
+        processor.pulAvvia.click();
+        controllaFermo();
+        EXPECT_FALSE(editor.Visible());
+        EXPECT_TRUE(seriale.COM.PortOpen()) << "the connection itself stays";
+        seriale.COM.setPortOpen(false);
+        processor.lstFile.setTag(u"True"_s);
+        processor.Scarica();
+    }
+    EXPECT_EQ(messaggi.visti().size(), modi.size());
+}
+
+TEST_F(MotoreTest, AStartThatWasTakenBackDoesNotComeTrueThroughTheNextOne)
+{
+    const RispondiMessaggi messaggi(QMessageBox::Yes);
+    mostraVigilio({u"a.sqm"_s});
+    scegli(0);
+    collegamento.intanto = [this] {
+        processor.Stoppa();
+        processor.pulAvvia.click();
+        controllaFermo();
+    };
+    processor.pulAvvia.click();
+    controllaFermo();
+    EXPECT_EQ(collegamento.tentativi, 1);
+    // Connected now, a click starts at once.
+    processor.pulAvvia.click();
+    EXPECT_TRUE(processor.avviato());
+    EXPECT_EQ(collegamento.tentativi, 1);
+}
+
+TEST_F(MotoreTest, ItDoesNotStartOnAnAttemptThatSomebodyElseHasUnderWay)
+{
+    const RispondiMessaggi messaggi(QMessageBox::Yes);
+    mostraVigilio({u"a.sqm"_s});
+    scegli(0);
+    collegamento.tenta = true;
+    // Before the port is open, and after.
+    processor.pulAvvia.click();
+    controllaFermo();
+    seriale.apri();
+    processor.pulAvvia.click();
+    controllaFermo();
+    EXPECT_EQ(messaggi.testi(), QStringList());
+    EXPECT_EQ(collegamento.tentativi, 0);
+    // It has succeeded.
+    collegamento.tenta = false;
+    processor.pulAvvia.click();
+    EXPECT_TRUE(processor.avviato());
+    EXPECT_EQ(collegamento.tentativi, 0);
+}
+
+TEST_F(MotoreTest, AnAttemptThatBeginsWhileItAsksIsNotDoubled)
+{
+    RispondiMessaggi messaggi(QMessageBox::Yes);
+    mostraVigilio({u"a.sqm"_s});
+    scegli(0);
+    messaggi.mentreAperto = [this](QMessageBox &) { collegamento.tenta = true; };
+    processor.pulAvvia.click();
+    controllaFermo();
+    EXPECT_EQ(collegamento.tentativi, 0);
+}
+
+TEST_F(MotoreTest, APortThatIsOpenWithoutAConnectionAfterTheAttemptEndsIt)
+{
+    const RispondiMessaggi messaggi(QMessageBox::Yes);
+    mostraVigilio({u"a.sqm"_s});
+    scegli(0);
+    collegamento.riesce = false;
+    const auto apre = [this] { seriale.COM.setPortOpen(true); };
+    collegamento.dopo = apre;
+    processor.pulAvvia.click();
+    EXPECT_TRUE(seriale.COM.PortOpen());
+    controllaFermo();
+}
+
+TEST_F(MotoreTest, TheTagAndTheCaptionCountAlsoWhenTheyAreWrittenFromOutside)
+{
+    mostraVigilio({u"a.sqm"_s});
+    imposta(0, u"no,no,25,no,no"_s);
+    seriale.apri();
+    EXPECT_TRUE(processor.setProperty("Tag", u"AVVIATO"_s));
+    EXPECT_TRUE(processor.avviato());
+    EXPECT_EQ(processor.pulAvvia.Caption(), u"AVVIA"_s);
+    EXPECT_TRUE(processor.setProperty("Tag", u"altro"_s));
+    EXPECT_FALSE(processor.avviato());
+    EXPECT_EQ(processor.property("Tag").toString(), u"altro"_s);
+    // The button goes by its own words.
+    EXPECT_TRUE(processor.pulAvvia.setProperty("Caption", u"FERMA"_s));
+    processor.pulAvvia.click();
+    controllaFermo();
+    EXPECT_EQ(processor.Tag(), QString());
+    processor.pulAvvia.click();
+    ASSERT_TRUE(processor.avviato());
+    EXPECT_TRUE(processor.pulAvvia.setProperty("Caption", u"AVVIA"_s));
+    processor.pulAvvia.click();
+    EXPECT_TRUE(processor.avviato());
+    EXPECT_EQ(processor.pulAvvia.Caption(), u"STOP"_s);
+}
+
+TEST_F(MotoreTest, AClashLeavesAStartedVigilioStarted)
+{
+    const RispondiMessaggi messaggi;
+    avvia({{u"a.sqm"_s, u"no,no,25,no,no"_s}, {u"b.sqm"_s, u"no,no,26,no,no"_s}});
+    imposta(1, u"no,no,25,no,no"_s);
+    processor.pulAvvia.setProperty("Caption", u"AVVIA"_s);
+    processor.pulAvvia.click();
+    EXPECT_EQ(messaggi.visti().size(), 1);
+    EXPECT_TRUE(processor.avviato());
+    EXPECT_EQ(processor.Tag(), u"AVVIATO"_s);
+}
+
 TEST_F(MotoreTest, TwoListsWithTheDefaultConditionAreToldAndNothingStarts)
 {
     const RispondiMessaggi messaggi;

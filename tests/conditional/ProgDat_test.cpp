@@ -89,3 +89,14 @@ TEST(ProgDat, AllBytesSurvive)
     ProgDat::scriviCondizione(ProgDat::leggiCondizione());
     EXPECT_EQ(cartella.leggi(u"prog.dat"_s), "1;" + tutti);
 }
+
+TEST(ProgDat, TheUsersOwnConditionWinsOverTheSampleBesideIt)
+{
+    const CartellaDiProva cartella;
+    cartella.scrivi(u"Prog.dat"_s, "0;no,no,25,no,no");
+    cartella.scrivi(u"prog.dat"_s, "1;");
+    EXPECT_EQ(ProgDat::leggiCondizione(), u"no,no,25,no,no"_s);
+    ProgDat::scriviCondizione(u"no,no,26,no,no"_s);
+    EXPECT_EQ(cartella.leggi(u"Prog.dat"_s), "0;no,no,26,no,no");
+    EXPECT_EQ(cartella.leggi(u"prog.dat"_s), "1;");
+}

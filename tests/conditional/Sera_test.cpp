@@ -26,6 +26,8 @@ public:
     void MostraInvio(const QString &testo) override { m_principale.MostraInvio(testo); }
     void AggiungiMossa(const QString &riga) override { m_principale.AggiungiMossa(riga); }
     bool PortOpen() override { return m_principale.COM.PortOpen(); }
+    bool collegato() override { return m_principale.collegato(); }
+    bool staTentando() override { return m_principale.staTentando(); }
     void Collega() override { m_principale.Collega(); }
 
 private:
@@ -244,6 +246,38 @@ TEST_F(Sera, TheListsOfTheEveningRunAndTheOthersDoNot)
     EXPECT_EQ(editor.imgVigilio.Picture(), 1);
     EXPECT_FALSE(editor.tmrAttivaAut.Enabled());
     EXPECT_EQ(messaggi.visti().size(), 2);
+}
+
+TEST_F(Sera, AvviaDuringTheToolbarsAttemptStartsNothingUnlessItHasSucceeded)
+{
+    crea(u"caldo.sqm"_s, Caldo);
+    const RispondiMessaggi messaggi(QMessageBox::Yes);
+    principale.Mostra();
+    pulsante(6);
+    processor.lstCondizioni.setList(0, u"no,no,31,no,no"_s);
+    processor.lstFile.setSelected(0, true);
+    robot.guasti().silenzio = true;
+    int clic = 0;
+    QTimer utente;
+    QObject::connect(&utente, &QTimer::timeout, &utente, [&] {
+        if (!principale.COM.PortOpen())
+            return;
+        if (++clic <= 3) {
+            processor.pulAvvia.click();
+            EXPECT_FALSE(processor.avviato());
+        } else {
+            principale.splash.pulNonCollegare.setTag(u"True"_s);
+        }
+    });
+    utente.start(5);
+    pulsante(1);
+    utente.stop();
+    EXPECT_GE(clic, 4);
+    EXPECT_FALSE(principale.COM.PortOpen());
+    EXPECT_FALSE(processor.avviato());
+    EXPECT_EQ(processor.pulAvvia.Caption(), u"AVVIA"_s);
+    EXPECT_FALSE(editor.tmrAttivaAut.Enabled());
+    EXPECT_EQ(messaggi.testi(), QStringList());
 }
 
 TEST_F(Sera, WithoutTheOptionAListGoesOnWhileItsConditionLasts)

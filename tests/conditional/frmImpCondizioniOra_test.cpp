@@ -24,6 +24,20 @@ protected:
                 {dialogo.txtSecondi, dialogo.SuGiuSecondi, 60}};
     }
     void esci() { tasto(Qt::Key_Tab); }
+    // A key held for that many repeats, each going to whatever has the focus then; not let go yet.
+    void tieni(Qt::Key quale, int ripetizioni)
+    {
+        for (int i = 0; i <= ripetizioni; ++i) {
+            QKeyEvent evento(QEvent::KeyPress, quale, Qt::NoModifier, QString(), i > 0);
+            QWidget *dove = dialogo.focusWidget();
+            QApplication::sendEvent(dove ? dove : &dialogo, &evento);
+        }
+    }
+    void lascia(Qt::Key quale)
+    {
+        QKeyEvent evento(QEvent::KeyRelease, quale, Qt::NoModifier);
+        QApplication::sendEvent(dialogo.focusWidget(), &evento);
+    }
 };
 
 TEST_F(FrmImpCondizioniOra, TheSpinBarsGoRound)
@@ -210,4 +224,95 @@ TEST_F(FrmImpCondizioniOra, MidnightIsStoredAndThenShownAsNoTime)
     mostra();
     EXPECT_THAT(attivi(), IsEmpty());
     EXPECT_EQ(orario(), u"18:0:1"_s);
+}
+
+TEST_F(FrmImpCondizioniOra, AnArrowKeyThatIsHeldSpinsItsBoxAndNothingElse)
+{
+    for (int i = 0; i < 3; ++i) {
+        apri(u"no,no,no,no,no"_s);
+        const Numero &numero = numeri()[i];
+        numero.testo.setFocus();
+        const int prima = numero.barra.Value();
+        tieni(Qt::Key_Up, 5);
+        EXPECT_EQ(numero.barra.Value(), prima + 6);
+        tieni(Qt::Key_Down, 7);
+        EXPECT_EQ(numero.barra.Value(), (prima - 2 + numero.fine) % numero.fine);
+        lascia(Qt::Key_Down);
+        EXPECT_THAT(attivi(), ElementsAre(1));
+        // Pressed again and again it does the same.
+        tasto(Qt::Key_Up);
+        tasto(Qt::Key_Up);
+        EXPECT_EQ(numero.barra.Value(), prima);
+        EXPECT_EQ(dialogo.focusWidget(), &numero.testo);
+        tieni(Qt::Key_PageUp, 3);
+        tieni(Qt::Key_PageDown, 3);
+        EXPECT_EQ(dialogo.focusWidget(), &numero.testo);
+        EXPECT_THAT(attivi(), ElementsAre(1));
+        dialogo.Scarica();
+    }
+}
+
+TEST_F(FrmImpCondizioniOra, AnArrowKeySpinsOnFromATypedNumberAndKeepsTheFocus)
+{
+    apri(u"no,no,no,no,no"_s);
+    scrivi(dialogo.txtOre, u"17"_s);
+    tieni(Qt::Key_Up, 2);
+    EXPECT_EQ(dialogo.txtOre.Text(), u"20"_s);
+    EXPECT_EQ(dialogo.focusWidget(), &dialogo.txtOre);
+    EXPECT_THAT(attivi(), ElementsAre(1));
+    // Left as ever, the box is brought into range.
+    scrivi(dialogo.txtOre, u"30"_s);
+    esci();
+    EXPECT_EQ(dialogo.txtOre.Text(), u"23"_s);
+}
+
+TEST_F(FrmImpCondizioniOra, AKeyThatIsHeldInAComboGoesThroughItsRowsAndNothingElse)
+{
+    struct Caso
+    {
+        Combo &combo;
+        int pannello, ultima;
+    };
+    for (const Caso &caso : {Caso{dialogo.cbTemperatura, 3, 40},
+                             {dialogo.cbBattLogica, 4, 4},
+                             {dialogo.cbBattMotori, 5, 4}}) {
+        apri(u"no,no,no,no,no"_s);
+        caso.combo.setFocus();
+        const int prima = caso.combo.ListIndex();
+        tieni(Qt::Key_Up, 2);
+        EXPECT_EQ(caso.combo.ListIndex(), prima - 3);
+        tieni(Qt::Key_Up, 45);
+        EXPECT_EQ(caso.combo.ListIndex(), 0) << "and stays there";
+        lascia(Qt::Key_Up);
+        EXPECT_THAT(attivi(), ElementsAre(caso.pannello));
+        EXPECT_EQ(dialogo.focusWidget(), &dialogo.pulOK) << "as after a choice with the mouse";
+        caso.combo.setFocus();
+        tieni(Qt::Key_PageDown, 45);
+        lascia(Qt::Key_PageDown);
+        EXPECT_EQ(caso.combo.ListIndex(), caso.ultima);
+        EXPECT_THAT(attivi(), ElementsAre(caso.pannello));
+        dialogo.Scarica();
+    }
+}
+
+TEST_F(FrmImpCondizioniOra, ATemperatureIsTypedInItsCombo)
+{
+    apri(u"no,no,no,no,no"_s);
+    dialogo.cbTemperatura.setFocus();
+    QTest::keyClick(dialogo.focusWidget(), '3');
+    QTest::keyClick(dialogo.focusWidget(), '1');
+    EXPECT_EQ(dialogo.cbTemperatura.Text(), u"31"_s);
+    EXPECT_THAT(attivi(), ElementsAre(3));
+}
+
+TEST_F(FrmImpCondizioniOra, ArrowKeysOnOkChangeNoCondition)
+{
+    apri(u"no,no,25,no,no"_s);
+    for (const Qt::Key quale : {Qt::Key_Up, Qt::Key_Down}) {
+        dialogo.pulOK.setFocus();
+        tieni(quale, 30);
+        lascia(quale);
+        EXPECT_THAT(attivi(), ElementsAre(3));
+        EXPECT_EQ(dialogo.cbTemperatura.Text(), u"25"_s);
+    }
 }

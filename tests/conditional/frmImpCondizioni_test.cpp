@@ -292,6 +292,27 @@ TEST_F(FrmImpCondizioni, WithoutAnActivePanelTheFirstControlHasTheFocusAtEverySh
     EXPECT_EQ(dialogo.focusWidget(), &dialogo.imgCasella(1));
 }
 
+TEST_F(FrmImpCondizioni, ATimeThatCountsAsNoneLeavesTheFocusOnTheFirstControl)
+{
+    // Midnight switches its panel on and off again while the dialog opens.
+    apri(u"00:00:00,no,no,no,no"_s);
+    EXPECT_THAT(attivi(), IsEmpty());
+    EXPECT_EQ(dialogo.focusWidget(), &dialogo.imgCasella(1));
+    tasto(Qt::Key_Return);
+    EXPECT_TRUE(dialogo.Visible()) << "there is nothing to be stored yet";
+}
+
+TEST_F(FrmImpCondizioni, SwitchingTheLastPanelOffNeverLeavesTheFocusOnCancel)
+{
+    apri(u"no,no,no,no,no"_s);
+    for (int i = 1; i <= 5; ++i) {
+        clicca(dialogo.frame(i), QPoint(60, 20));
+        ASSERT_EQ(dialogo.focusWidget(), &dialogo.pulOK);
+        clicca(dialogo.frame(i), QPoint(60, 20));
+        EXPECT_EQ(dialogo.focusWidget(), &dialogo.imgCasella(1));
+    }
+}
+
 TEST_F(FrmImpCondizioni, EveryControlHasANameForScreenReaders)
 {
     apri(u"no,no,no,no,no"_s);

@@ -94,6 +94,55 @@ TEST_F(frmProcessorFileTest, ASaveThatCannotWriteSaysNothing)
     EXPECT_TRUE(cartella.contiene(u"sera.vgp"_s));
 }
 
+TEST_F(frmProcessorFileTest, AnEmptyWindowWithoutProgDatNeverWipesAProject)
+{
+    const QByteArray progetto = " 1 \r\n\"a.sqm\",#TRUE#,\"no,no,25,no,no\"\r\n";
+    ASSERT_TRUE(QFile::remove(cartella.percorso(u"prog.dat"_s)));
+    mostraVigilio({u"a.sqm"_s});
+    ASSERT_EQ(righeVigilio(), QStringList());
+    const RispondiMessaggi messaggi(QMessageBox::Yes);
+    apriProgetto(progetto);
+    const QList<std::function<void()>> salva = {
+        [&] { processor.pulSalva.click(); }, [&] { processor.mnuFileSalva.trigger(); },
+        [&] {
+            const RispondiFile utente(cartella.percorso(u"sera.vgp"_s));
+            processor.mnuFileSalvacome.trigger();
+        },
+        [&] {
+            processor.lstFile.setTag(u"False"_s);
+            processor.Scarica();
+        }};
+    for (const auto &modo : salva) {
+        modo();
+        EXPECT_EQ(cartella.leggi(u"sera.vgp"_s), progetto);
+    }
+    // With the file back, all is as it was.
+    cartella.scrivi(u"prog.dat"_s, "0;");
+    processor.Mostra();
+    apriProgetto(progetto);
+    EXPECT_EQ(condizioni(), QStringList{u"no,no,25,no,no"_s});
+    processor.pulSalva.click();
+    EXPECT_EQ(cartella.leggi(u"sera.vgp"_s), progetto);
+}
+
+TEST_F(frmProcessorFileTest, AnEmptyWindowWithoutProgDatMakesANewProject)
+{
+    ASSERT_TRUE(QFile::remove(cartella.percorso(u"prog.dat"_s)));
+    mostraVigilio({u"a.sqm"_s});
+    processor.Finestre.setFileName(cartella.percorso(u"nuovo.vgp"_s));
+    processor.pulSalva.click();
+    EXPECT_EQ(cartella.leggi(u"nuovo.vgp"_s), " 0 \r\n");
+}
+
+TEST_F(frmProcessorFileTest, AFolderWithoutListsSavesAnEmptyProject)
+{
+    mostraVigilio({});
+    cartella.scrivi(u"sera.vgp"_s, " 1 \r\n\"a.sqm\",#TRUE#,\"no,no,25,no,no\"\r\n");
+    processor.Finestre.setFileName(cartella.percorso(u"sera.vgp"_s));
+    processor.pulSalva.click();
+    EXPECT_EQ(cartella.leggi(u"sera.vgp"_s), " 0 \r\n");
+}
+
 TEST_F(frmProcessorFileTest, OpeningSetsSelectionConditionAndLine)
 {
     mostraVigilio({u"a.sqm"_s, u"b.sqm"_s, u"già.sqm"_s});

@@ -22,6 +22,16 @@ TEST(AvvioConsole, ConnectsWhereTheFileSaysOne)
     }
 }
 
+TEST(AvvioConsole, TheUsersOwnFileWinsOverTheSampleBesideIt)
+{
+    ConsoleInProva c;
+    c.cartella.scrivi(u"Prog.dat"_s, "0;");
+    c.cartella.scrivi(u"prog.dat"_s, "1;");
+    c.mostra();
+    EXPECT_EQ(c.pannello(1), u"Non connesso"_s);
+    EXPECT_FALSE(c.finestra.COM.PortOpen());
+}
+
 TEST(AvvioConsole, DoesNotConnectWhereItSaysAnythingElse)
 {
     for (const QByteArray contenuto : {"0;", "", "2;", "1.5;", "11;", "-1;", "uno"}) {

@@ -31,6 +31,8 @@ private:
     {
     public:
         bool PortOpen() override { return true; }
+        bool collegato() override { return true; }
+        bool staTentando() override { return false; }
         void Collega() override {}
     };
 

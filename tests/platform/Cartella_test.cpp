@@ -157,3 +157,16 @@ TEST(Cartella, the_separator_is_added_unless_it_is_there)
     EXPECT_EQ(conSeparatore(u"/"_s), u"/"_s);
     EXPECT_EQ(conSeparatore(u"C:\\"_s), u"C:\\"_s);
 }
+
+TEST(Cartella, a_sample_never_comes_beside_the_users_file_of_the_same_name_in_another_case)
+{
+    const Albero albero;
+    albero.esempio(u"prog.dat"_s, "1;");
+    albero.esempio(u"saluto.sqm"_s, "Pausa 1\r\n");
+    ASSERT_TRUE(QDir().mkpath(albero.utente));
+    Albero::scrivi(albero.utente + u"/Prog.dat"_s, "0;");
+    trovaCartellaProgramma(albero.bin, albero.utente);
+    EXPECT_EQ(QDir(albero.utente).entryList(QDir::Files),
+              (QStringList{u"Prog.dat"_s, u"saluto.sqm"_s}));
+    EXPECT_EQ(Albero::leggi(albero.utente + u"/Prog.dat"_s), "0;");
+}

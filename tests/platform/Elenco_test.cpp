@@ -468,6 +468,20 @@ TEST_F(ElencoConSpunteTest, the_space_bar_changes_the_mark_and_raises_click_once
     EXPECT_EQ(click, QList<int>{1});
 }
 
+TEST_F(ElencoConSpunteTest, the_space_bar_held_down_changes_the_mark_once)
+{
+    finestra.mostraAttiva();
+    spunte.setListIndex(1);
+    click.clear();
+    spunte.SetFocus();
+    for (int i = 0; i < 6; ++i) {
+        QKeyEvent evento(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, u" "_s, i > 0);
+        QApplication::sendEvent(&spunte, &evento);
+    }
+    EXPECT_TRUE(spunte.Selected(1));
+    EXPECT_EQ(click, QList<int>{1});
+}
+
 TEST_F(ElencoConSpunteTest, rows_that_come_are_unmarked_and_raise_nothing)
 {
     spunte.AddItem(u"nuova"_s);

@@ -633,3 +633,25 @@ TEST_F(TastiDellaFinestra, enter_on_a_disabled_default_button_does_nothing)
     QTest::keyClick(&testo, Qt::Key_Return);
     EXPECT_EQ(click, 0);
 }
+
+TEST_F(TastiDellaFinestra, enter_and_esc_held_down_click_once)
+{
+    Pulsante annulla(u"pulAnnulla"_s, &finestra, u"Annulla"_s);
+    annulla.show();
+    QStringList click;
+    pulsante.Click.collega([&] { click += u"predefinito"_s; });
+    annulla.Click.collega([&] { click += u"annulla"_s; });
+    finestra.setPredefinito(&pulsante);
+    finestra.setAnnulla(&annulla);
+    for (QWidget *controllo : std::initializer_list<QWidget *>{&testo, &pulsante}) {
+        for (const Qt::Key tasto : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
+            click.clear();
+            controllo->setFocus();
+            for (int i = 0; i < 5; ++i) {
+                QKeyEvent evento(QEvent::KeyPress, tasto, Qt::NoModifier, QString(), i > 0);
+                QApplication::sendEvent(controllo, &evento);
+            }
+            EXPECT_EQ(click.size(), 1) << tasto;
+        }
+    }
+}

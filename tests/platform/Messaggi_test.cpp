@@ -124,6 +124,28 @@ TEST(Messaggi, enter_presses_the_first_button)
     EXPECT_EQ(risposta(Pulsanti::SiNo, invio), Risposta::Si);
 }
 
+TEST(Messaggi, a_key_that_was_held_before_the_box_came_does_not_answer_it)
+{
+    // Some window of the program is always there before a box.
+    const FinestraDiProva finestra;
+    for (const Qt::Key tasto : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
+        int volte = 0;
+        EXPECT_EQ(risposta(Pulsanti::SiNoAnnulla,
+                           [&](QMessageBox &box) {
+                               if (++volte > 3) {
+                                   premi(box, QMessageBox::No);
+                                   return;
+                               }
+                               QWidget *conFuoco = box.focusWidget();
+                               QKeyEvent evento(QEvent::KeyPress, tasto, Qt::NoModifier, QString(),
+                                                true);
+                               QApplication::sendEvent(conFuoco ? conFuoco : &box, &evento);
+                           }),
+                  Risposta::No);
+        EXPECT_EQ(volte, 4);
+    }
+}
+
 TEST(Messaggi, the_standard_buttons_speak_italian_whatever_the_systems_language_is)
 {
     EXPECT_EXIT(

@@ -90,6 +90,19 @@ TEST_F(PulsantiTest, a_button_is_down_between_press_and_release)
     EXPECT_FALSE(pulsante.isDown());
 }
 
+TEST_F(PulsantiTest, the_keys_up_and_down_leave_the_focus_on_a_button)
+{
+    Pulsante prima(u"pulPrima"_s, &finestra, u"Prima"_s);
+    Pulsante pulsante(u"pul"_s, &finestra, u"OK"_s);
+    Pulsante dopo(u"pulDopo"_s, &finestra, u"Dopo"_s);
+    finestra.mostraAttiva();
+    for (const Qt::Key tasto : {Qt::Key_Up, Qt::Key_Down}) {
+        pulsante.SetFocus();
+        QTest::keyClick(&pulsante, tasto);
+        EXPECT_TRUE(pulsante.hasFocus());
+    }
+}
+
 TEST_F(PulsantiTest, a_check_box_raises_click_at_every_change_of_its_value)
 {
     CasellaSpunta spunta(u"opzInsComandi"_s, &finestra, u"Inserisci"_s);

@@ -348,3 +348,16 @@ TEST_F(Opzioni, TheTextTakesTheNumberOfTheSpinBar)
     opzioni.SuGiu.setValue(8);
     EXPECT_EQ(opzioni.txtPorta.Text(), u"8"_s);
 }
+
+TEST_F(Opzioni, ReadAndWriteTheUsersOwnFileWhereTheSampleLiesBesideIt)
+{
+    cartella.scrivi(u"Porta COM"_s, "2\r\n");
+    cartella.scrivi(u"PROG.DAT"_s, "0;no,no,25,no,no");
+    cartella.scrivi(u"prog.dat"_s, "1;");
+    apri();
+    EXPECT_EQ(opzioni.opzCollegaAut.Value(), 0);
+    opzioni.opzCollegaAut.click();
+    opzioni.pulOK.click();
+    EXPECT_EQ(cartella.leggi(u"PROG.DAT"_s), "1;no,no,25,no,no");
+    EXPECT_EQ(cartella.leggi(u"prog.dat"_s), "1;");
+}
