@@ -195,6 +195,7 @@ class Prova(Giri):
         if self.u.processo and self.u.processo.poll() is None:
             self.u.processo.kill()
             self.u.processo.wait()
+        self.u.processo = None
 
     def giudica(self):
         rapporti = glob.glob(os.path.join(self.out, "sanitizer.*"))

@@ -81,7 +81,8 @@ class Giri:
         """Each port number is a link of ours: to nothing as long as there is no robot. No port of
         the machine's own is ever opened, whatever number comes up."""
         for numero in range(1, 100):
-            self.scollega_porta(numero)
+            if not os.path.islink(os.path.join(self.u.disco, f"COM{numero}")):
+                self.scollega_porta(numero)
 
     def scollega_porta(self, numero):
         nome = os.path.join(self.u.disco, f"COM{numero}")

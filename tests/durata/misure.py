@@ -26,9 +26,7 @@ class Misure:
         atti = [("message box", lambda: self.riquadro("Scatta una foto")),
                 ("options", lambda: self.finestra("Accedi alle opzioni", "Opzioni")),
                 ("Sequor", lambda: self.finestra("Accedi all'editor delle mosse Sequor", SEQUOR)),
-                ("Vigilio", lambda: self.finestra("Accedi al Vigilio", VIGILIO)),
-                ("camera", lambda: self.finestra(
-                    "Accedi alla visione della Videocamera di Tessaro", "Videocamera"))]
+                ("Vigilio", lambda: self.finestra("Accedi al Vigilio", VIGILIO))]
         for nome, atto in atti:
             self.misura(nome, atto)
         self.u.apri("Accedi all'editor delle mosse Sequor", SEQUOR)
@@ -123,7 +121,7 @@ class Misure:
             self.x.vai(lista.area[0] + dx, lista.area[1] + dy)
             self.x.clic(1, 0.02)
 
-        self.dialogo(apri, lambda dialogo: self.x.tocca("Escape"))
+        self.dialogo(apri, lambda dialogo: self.x.chiudi(dialogo.numero))
 
     def voce(self, nome):
         trovati = []

@@ -85,7 +85,7 @@ class Scimmia:
         self.altro = subprocess.Popen([sys.executable, os.path.join(
             os.path.dirname(__file__), "altro_programma.py")])
         try:
-            while time.monotonic() < fine or self.giri == 0:
+            while (time.monotonic() < fine or self.giri == 0) and len(self.p.guai) < 40:
                 self.giri += 1
                 seme = self.p.seme + self.giri - 1
                 inizio = self.p.adesso()
@@ -216,9 +216,11 @@ class Scimmia:
     def impara_freccia(self, nome):
         console = self.console()
         posto = self.u.attendi(f"arrow {nome}", lambda: self.posto(nome))
-        for _ in range(3):
+        for _ in range(6):
             riposo, premuta = self.premuta_a_mano(console, *posto)
-            if riposo and premuta and giudici.distanza(riposo, premuta) > 2:
+            quanto = giudici.distanza(riposo, premuta) if riposo and premuta else 0
+            self.dice(f"arrow {nome}: the pressed look differs by {quanto:.2f}")
+            if quanto > 1:
                 self.frecce[nome] = (posto, riposo, premuta)
                 return
         raise Guaio(f"the arrow {nome} does not look pressed when it is")
@@ -458,6 +460,7 @@ class Scimmia:
         return False
 
     def sessione_aperta(self):
+        self.u.ascolto.aggiorna()
         sessione = [c[0] for c in self.u.ascolto.comandi if c[0] in SESSIONE]
         return bool(sessione) and sessione[-1] != 4
 
@@ -468,6 +471,9 @@ class Scimmia:
 
     def pronta(self):
         """The console in front in base mode, the port open, nothing open that takes the input."""
+        if self.p.robot and not self.muto_fino and self.libera() and not self.sessione_aperta():
+            self.collega()
+            self.entro(12, self.sessione_aperta)
         if (not self.p.robot or self.muto_fino or self.nella_perdita(30) or not self.libera() or
                 not self.sessione_aperta() or self.u.prova(self.lista_attiva) is not False):
             return None
@@ -573,8 +579,8 @@ class Scimmia:
         atti = [(30, self.clic), (8, self.doppio), (6, self.destro), (8, self.trascina),
                 (4, self.rotella), (16, self.tasto), (8, self.tieni), (5, self.scrivi),
                 (5, self.altrove), (3, self.minimizza), (3, self.ripristina), (3, self.sposta),
-                (3, self.chiudi), (9, self.strumento), (5, self.collega), (1.5, self.ammutolisce),
-                (1, self.cavo), (6, self.prova_stop), (3, self.giudica_aspetto),
+                (3, self.chiudi), (9, self.strumento), (8, self.collega), (1.5, self.ammutolisce),
+                (1, self.cavo), (9, self.prova_stop), (3, self.giudica_aspetto),
                 (2, self.giudica_file), (0.4, self.esci), (4, self.titolo)]
         atto = self.caso.choices([a for _, a in atti], [p for p, _ in atti])[0]
         self.atti += 1
@@ -817,8 +823,6 @@ class Scimmia:
             finestre = [f for f in self.x.finestre() if "TOOLTIP" not in f.tipo]
             sopra = [f for f in finestre if f.scavalca or f.dialogo]
             if sopra:
-                self.x.tocca("Escape")
-                time.sleep(0.3)
                 self.u.prova(self.rispondi)
             else:
                 self.chiesta = True
@@ -836,12 +840,16 @@ class Scimmia:
             self.leggi_avviso()
 
     def rispondi(self):
-        """A question that Escape does not answer."""
+        """Takes away what stands above: a menu, a question (Escape would call the end off), a
+        dialog."""
+        finestre = [f for f in self.x.finestre() if "TOOLTIP" not in f.tipo]
         riquadro = self.u.riquadro()
-        if riquadro:
+        if any(f.scavalca for f in finestre):
+            self.x.tocca("Escape")
+        elif riquadro:
             self.u.premi_nel_riquadro(riquadro, ("No", "OK"))
         else:
-            dialoghi = [f for f in self.x.finestre() if f.dialogo]
+            dialoghi = [f for f in finestre if f.dialogo]
             if dialoghi:
                 self.x.chiudi(dialoghi[-1].numero)
 
