@@ -1,15 +1,21 @@
 #include "DisegniDeiFile.h"
 
-#include "Disegni.h"
-
+#include <QApplication>
 #include <QFileInfo>
+#include <QStyle>
 
 using namespace Qt::StringLiterals;
 
+// The style draws each once.
+static QIcon disegno(QStyle::StandardPixmap quale)
+{
+    return QApplication::style()->standardIcon(quale);
+}
+
 DisegniDeiFile::DisegniDeiFile()
-    : m_computer(Disegni::icona(u"computer")),
-      m_cartella(Disegni::icona(u"cartella")),
-      m_documento(Disegni::icona(u"documento"))
+    : m_computer(disegno(QStyle::SP_ComputerIcon)),
+      m_cartella(disegno(QStyle::SP_DirIcon)),
+      m_documento(disegno(QStyle::SP_FileIcon))
 {
 }
 

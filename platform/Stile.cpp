@@ -2,6 +2,7 @@
 
 #include "Disegni.h"
 
+#include <QGuiApplication>
 #include <QStyleOptionButton>
 
 using namespace Qt::StringLiterals;
@@ -55,8 +56,12 @@ QIcon Stile::standardIcon(StandardPixmap quale, const QStyleOption *opzione,
                           const QWidget *controllo) const
 {
     const QStringView nome = disegnoDi(quale);
-    return nome.isEmpty() ? QProxyStyle::standardIcon(quale, opzione, controllo)
-                          : Disegni::icona(nome);
+    if (nome.isEmpty())
+        return QProxyStyle::standardIcon(quale, opzione, controllo);
+    QIcon &disegno = m_disegni[{nome.toString(), qGuiApp->devicePixelRatio()}];
+    if (disegno.isNull())
+        disegno = Disegni::icona(nome);
+    return disegno;
 }
 
 int Stile::styleHint(StyleHint quale, const QStyleOption *opzione, const QWidget *controllo,

@@ -2,6 +2,8 @@
 // screen.
 #pragma once
 
+#include <QHash>
+#include <QIcon>
 #include <QProxyStyle>
 
 // Over Fusion.
@@ -20,4 +22,9 @@ public:
                   QStyleHintReturn *risposta) const override;
     QSize sizeFromContents(ContentsType quale, const QStyleOption *opzione, const QSize &contenuto,
                            const QWidget *controllo) const override;
+
+private:
+    // Each drawing is made once for each scale of the screen: a new one for each box would fill
+    // Qt's cache of pictures, in which each has a place of its own.
+    mutable QHash<std::pair<QString, qreal>, QIcon> m_disegni;
 };

@@ -3,25 +3,29 @@ silent, drops, doubles and garbles bytes, loses the line, goes away and comes ba
 that is full. What must hold all along: no crash, no report of the sanitizers, no memory that grows,
 no list line that gets lost, no byte to the robot that nobody asked for.
 
-durata.py HOUSE OUT MINUTES [--seme N]: the folder made by the script beside this, the folder for what
+durata.py HOUSE OUT MINUTES [--seme N] [--giro ROUNDS]: the folder made by the script beside this, the folder for what
 is kept, how long."""
 
 import argparse
+import filecmp
 import glob
 import os
 import random
-import re
+import shutil
 import signal
 import subprocess
 import sys
 import time
 import traceback
 
+import giudici
 import memoria
 from finestre import Finestre
 from giri import FASI, Giri
 from linea import ByteSbagliato
+from misure import Misure
 from schermo import CONSOLE, mostrato
+from scimmia import Scimmia
 from utente import Guaio
 
 # Growth that is still none, bytes a round, the median of the slopes over the second half. In use:
@@ -33,10 +37,10 @@ CRESCITA_RESIDENTE = 256 * 1024
 
 
 class Prova(Giri):
-    def __init__(self, casa, out, minuti, seme, pagina=0, fasi=""):
+    def __init__(self, casa, out, seme, pagina=0, fasi=""):
         self.pagina = pagina
         self.fasi = [f for f in FASI if not fasi or f[0] in fasi.split(",")]
-        self.minuti, self.seme = minuti, seme
+        self.seme = seme
         self.registro = open(os.path.join(out, "registro.txt"), "w", encoding="utf-8", buffering=1)
         self.inizio = time.monotonic()
         caso = random.Random(seme)
@@ -45,14 +49,23 @@ class Prova(Giri):
         self.misure = []
         self.fasi_fatte = []
         self.crescite = [0.0, 0.0]
+        self.originale = os.path.join(casa, "lumbra")
+        self.scimmia = self.misuratore = None
         self.controllato = True  # by the sanitizers
+        self.pid = 0  # the program's own
+        self.rapporti_letti = set()
+
+    def adesso(self):
+        return time.monotonic() - self.inizio
 
     def dettagli(self, testo):
-        self.registro.write(f"{time.monotonic() - self.inizio:8.1f} {testo}\n")
+        self.registro.write(f"{self.adesso():8.1f} {testo}\n")
 
-    def guaio(self, testo):
+    def guaio(self, testo, errore=None):
         """Records a failure with its evidence."""
         self.guai.append(testo)
+        if errore:
+            self.dettagli("".join(traceback.format_exception(errore)))
         self.dettagli(f"FAILURE {testo}")
         print(f"FAILURE: {testo}", file=sys.stderr, flush=True)
         subprocess.run(["import", "-window", "root",
@@ -62,9 +75,18 @@ class Prova(Giri):
 
     def avvia_programma(self):
         self.testimone = memoria.Testimone(self.casa)
+        # What the user did to it in an earlier life is none of this one's.
+        programma = os.path.join(self.u.disco, "lumbra")
+        if not filecmp.cmp(self.originale, programma):
+            os.remove(programma)
+            shutil.copy2(self.originale, programma)
+        self.file_segni = os.path.join(self.out, "segni.txt")
+        if os.path.exists(self.file_segni):
+            os.remove(self.file_segni)
         comune = "exitcode=99:log_path=" + os.path.join(self.out, "sanitizer")
         ambiente = dict(
-            os.environ, **self.testimone.ambiente(),
+            self.testimone.ambiente(),
+            DURATA_SEGNI=self.file_segni,
             LD_PRELOAD=os.path.join(self.casa, "testimone.so"),
             # A small quarantine: freed memory comes back, so that growth is the program's own.
             ASAN_OPTIONS=f"{comune}:verify_asan_link_order=0:detect_leaks=1:quarantine_size_mb=1:"
@@ -73,19 +95,21 @@ class Prova(Giri):
                          (":fast_unwind_on_malloc=0:malloc_context_size=25" if self.pagina else ""),
             LSAN_OPTIONS="suppressions=" + os.path.join(os.path.dirname(__file__), "altrui.txt"),
             UBSAN_OPTIONS=f"{comune}:print_stacktrace=1:halt_on_error=1")
-        self.u.processo = subprocess.Popen(
-            [os.path.join(self.u.disco, "lumbra")], cwd=self.u.disco, env=ambiente,
-            stdout=open(os.path.join(self.out, "programma.txt"), "wb"), stderr=subprocess.STDOUT)
+        with open(os.path.join(self.out, "programma.txt"), "ab") as uscita:
+            self.u.processo = subprocess.Popen(
+                [os.path.join(os.path.dirname(__file__), "recinto"), self.casa, self.out, "--",
+                 "env", *(f"{nome}={valore}" for nome, valore in ambiente.items()), programma],
+                cwd=self.u.disco, stdout=uscita, stderr=subprocess.STDOUT)
         self.u.attendi("the console", lambda: self.u.finestra(CONSOLE))
         self.u.mappa(CONSOLE)
-        with open(f"/proc/{self.u.processo.pid}/maps", encoding="utf-8") as file:
+        self.pid = memoria.discendente(self.u.processo.pid, "lumbra")
+        with open(f"/proc/{self.pid}/maps", encoding="utf-8") as file:
             self.controllato = "libasan" in file.read()
 
     # The whole.
 
     def misura(self, numero, nome):
-        processo = self.u.processo.pid
-        self.misure.append((numero, nome, memoria.residente(processo), self.testimone.in_uso()))
+        self.misure.append((numero, nome, memoria.residente(self.pid), self.testimone.in_uso()))
         _, _, rss, uso = self.misure[-1]
         self.dettagli(f"resident {rss / 1e6:.1f} MB, in use {uso / 1e6:.3f} MB")
 
@@ -120,9 +144,11 @@ class Prova(Giri):
             raise Guaio("the program does not come back")
         u.su_disco = {n: u.contenuto(n) for n in os.listdir(u.disco) if n.endswith(".sqm")}
 
-    def svolgi(self):
+    def svolgi(self, minuti):
+        """The rounds of work, in one life of the program."""
+        self.prepara_collegamenti()
         self.avvia_programma()
-        fine = self.inizio + 60 * self.minuti
+        fine = time.monotonic() + 60 * minuti
         numero, mazzo = 0, []
         self.misura(0, "start")
         while time.monotonic() < fine or numero == 0:
@@ -135,8 +161,7 @@ class Prova(Giri):
             try:
                 self.giro(numero, fase)
             except (Guaio, ByteSbagliato, StopIteration, subprocess.SubprocessError) as errore:
-                self.guaio(f"round {numero} ({fase[0]}): {type(errore).__name__} {errore}")
-                self.dettagli(traceback.format_exc())
+                self.guaio(f"round {numero} ({fase[0]}): {type(errore).__name__} {errore}", errore)
                 self.rimetti()
             self.fasi_fatte.append(fase[0])
             self.misura(numero, fase[0])
@@ -155,15 +180,30 @@ class Prova(Giri):
         esito = u.processo.wait(timeout=300)
         if esito != 0:
             self.guaio(f"exit status {esito}")
+        if self.controllato and (lamento := giudici.perdite(self.segni())):
+            self.guaio(lamento)
+
+    def segni(self):
+        """What the program's end left behind of the leak check."""
+        try:
+            with open(self.file_segni, encoding="ascii") as file:
+                return file.read().split()
+        except FileNotFoundError:
+            return []
+
+    def termina_programma(self):
+        if self.u.processo and self.u.processo.poll() is None:
+            self.u.processo.kill()
+            self.u.processo.wait()
+        self.u.processo = None
 
     def giudica(self):
         rapporti = glob.glob(os.path.join(self.out, "sanitizer.*"))
         for rapporto in rapporti:
             with open(rapporto, encoding="utf-8", errors="replace") as file:
-                testo = file.read()
-            if trovato := re.search(r"ERROR: |runtime error: ", testo):
-                self.guaio(f"report of the sanitizers, {os.path.basename(rapporto)}: "
-                           f"{testo[trovato.start():][:400]}")
+                lamento = giudici.rapporto(file.read())
+            if lamento and rapporto not in self.rapporti_letti:
+                self.guaio(f"report of the sanitizers, {os.path.basename(rapporto)}: {lamento}")
         seconda = self.misure[len(self.misure) // 2:]
         self.crescite = [memoria.pendenza([m[colonna] for m in seconda]) for colonna in (2, 3)]
         if len(seconda) >= 8:
@@ -196,6 +236,8 @@ class Prova(Giri):
                   f"in use, first and last    {prima[3] / 1e6:.3f}, {ultima[3] / 1e6:.3f} MB",
                   f"growth a round, 2nd half  resident {self.crescite[0] / 1024:.1f} kB, "
                   f"in use {self.crescite[1] / 1024:.2f} kB",
+                  *(self.scimmia.racconta() if self.scimmia else []),
+                  *(self.misuratore.racconta() if self.misuratore else []),
                   f"failures                  {len(self.guai)}",
                   *[f"  {g}" for g in self.guai]]
         self.tabella(righe)
@@ -210,21 +252,28 @@ def principale():
     # The page costs memory itself: for the search of a growth that was found.
     lettore.add_argument("--pagina", type=int, default=0, help="each so many rounds the sanitizers' "
                          "log tells who holds the memory")
+    lettore.add_argument("--giro", choices=("tutti", "lavoro", "scimmia", "misura"), default="tutti",
+                         help="work and, for the last quarter, the monkey; one of the two; or what "
+                         "each act costs in memory")
     lettore.add_argument("--fasi", default="", help="only these phases, with commas")
     o = lettore.parse_args()
-    prova = Prova(o.casa, o.out, o.minuti, o.seme, o.pagina, o.fasi)
+    prova = Prova(o.casa, o.out, o.seme, o.pagina, o.fasi)
     signal.signal(signal.SIGTERM, lambda *_: sys.exit("stopped from outside"))
     prova.dettagli(f"seed {o.seme}")
     print(f"seed {o.seme}", flush=True)
     try:
-        prova.svolgi()
-        prova.finisci()
+        if o.giro in ("tutti", "lavoro"):
+            prova.svolgi(o.minuti * (1 if o.giro == "lavoro" else 0.75))
+            prova.finisci()
+        if o.giro in ("tutti", "scimmia"):
+            prova.scimmia = Scimmia(prova, o.minuti * (1 if o.giro == "scimmia" else 0.25))
+            prova.scimmia.svolgi()
+        if o.giro == "misura":
+            prova.misuratore = Misure(prova)
+            prova.misuratore.svolgi()
     except (Exception, SystemExit) as errore:  # whatever it is, the table is told
-        prova.guaio(f"{type(errore).__name__} {errore}")
-        prova.dettagli(traceback.format_exc())
-        if prova.u.processo and prova.u.processo.poll() is None:
-            prova.u.processo.kill()
-            prova.u.processo.wait()
+        prova.guaio(f"{type(errore).__name__} {errore}", errore)
+        prova.termina_programma()
     prova.ferma_robot()
     prova.giudica()
     prova.racconta()

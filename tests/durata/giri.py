@@ -4,11 +4,13 @@ the judgement of the line when the robot has gone."""
 import os
 import signal
 import subprocess
+import time
 
+from giudici import Perdita, sessione_chiusa
 from linea import Ascolto, comandi_della_lista
 from lavori import NON_COLLEGATO
 from schermo import CONSOLE, SEQUOR
-from utente import Guaio
+from utente import PAZIENZA, Guaio
 
 NON_RIUSCITO = "Collegamento non riuscito!"
 SENZA_PORTA = "La porta non esiste"
@@ -43,6 +45,8 @@ class Giri:
         self.casa, self.out, self.caso, self.u, self.dettagli = casa, out, caso, utente, dettagli
         self.robot = None
         self.base = ""
+        self.nato = 0.0  # when the robot was started
+        self.perdita = None  # when its line loses all
         self.temperatura = 0
         self.da_svuotare = False
         self.byte = 0
@@ -66,13 +70,32 @@ class Giri:
              str(self.temperatura), "--batterie", batterie, "--ultrasuoni", "0,1,0", *opzioni],
             stdout=subprocess.DEVNULL, env=dict(os.environ, LD_PRELOAD=""))
         self.base = base
+        self.nato = time.monotonic()
+        self.perdita = None
         self.u.ascolto = Ascolto(base + ".linea")
         self.u.attese = []
         self.u.attendi("the robot's port", lambda: os.path.exists(os.path.join(
             self.u.disco, "COM1")) and os.path.exists(base + ".diario"))
 
+    def prepara_collegamenti(self):
+        """Each port number is a link of ours: to nothing as long as there is no robot. No port of
+        the machine's own is ever opened, whatever number comes up."""
+        for numero in range(1, 100):
+            if not os.path.islink(os.path.join(self.u.disco, f"COM{numero}")):
+                self.scollega_porta(numero)
+
+    def scollega_porta(self, numero):
+        nome = os.path.join(self.u.disco, f"COM{numero}")
+        nuovo = nome + ".nuovo"
+        if os.path.islink(nuovo):
+            os.remove(nuovo)
+        os.symlink(os.path.join(self.casa, "senza-robot"), nuovo)
+        os.replace(nuovo, nome)
+
     def ferma_robot(self, subito=False):
         if self.robot:
+            # First, so that the number is never without a link, nor leads to another's line.
+            self.scollega_porta(1)
             self.robot.send_signal(signal.SIGKILL if subito else signal.SIGTERM)
             self.robot.wait(timeout=60)
             self.robot = None
@@ -118,10 +141,19 @@ class Giri:
     def scollega(self):
         self.u.dice("disconnect")
         self.u.posti.pop(CONSOLE, None)
+        prima = self.ora_del_robot()
         self.u.clic_console("Disconnetti")
         self.u.attendi("disconnected", lambda: self.u.stato() == "Non connesso")
+        quando = prima, self.ora_del_robot()
         self.u.posti.pop(CONSOLE, None)
-        self.u.attendi("byte 4", lambda: self.u.ascolto.quanti(4) == self.u.ascolto.quanti(3))
+        # An earlier session may have been given up while the line lost all, its byte 4 too.
+        if not self.u.entro(PAZIENZA, lambda: sessione_chiusa(self.u.ascolto.comandi)):
+            if not (self.perdita and self.perdita.inghiotte(*quando)):
+                raise Guaio("waited in vain: byte 4")
+            self.dettagli("  byte 4 was lost on the line")
+
+    def ora_del_robot(self):
+        return 1000 * (time.monotonic() - self.nato)
 
     def aspetta_la_rinuncia(self):
         """The robot is gone: the program finds out by itself."""
@@ -139,8 +171,11 @@ class Giri:
         u.avvisi_ammessi = (NON_RIUSCITO,) if sporca or nome in (
             "lost line", "late answers") else ()
         if nome == "lost line":
-            opzioni = ["--perdi-linea", f"{self.caso.randint(15000, 30000)},20000"]
+            da = self.caso.randint(15000, 30000)
+            opzioni = ["--perdi-linea", f"{da},20000"]
         self.avvia_robot(f"giro-{numero:03}", opzioni)
+        if nome == "lost line":
+            self.perdita = Perdita(da, 20000)
         if nome == "silence":
             self.giro_muto()
             return

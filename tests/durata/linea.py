@@ -16,8 +16,8 @@ ATTUATORI = {
     38: set(LED.values()),
     65: {0, 1, 2},
     66: {1, 2},
-    67: {16, 17, 18},
-    68: {16, 17, 18},
+    67: {16, 17, 18, 19},  # 19: a turn that was typed, which is none of the list
+    68: {16, 17, 18, 19},
     73: {4, 8},
     97: set(range(67, 223)),
     99: {0, *range(129, 139), *range(65, 75), *range(33, 43)},

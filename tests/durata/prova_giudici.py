@@ -1,13 +1,18 @@
 """The judges of the soak are themselves judged: each must be able to say no."""
 
 import os
+import signal
+import subprocess
 import tempfile
+import time
 import unittest
 
+import giudici
+from giudici import Perdita
 from linea import (Ascolto, ByteSbagliato, comandi_della_lista, comandi_della_riga,
                    durata_della_lista, lunghezza)
 from lista import Lista
-from memoria import pendenza
+from memoria import attesa_del_processore, discendente, pendenza
 
 
 class Linea(unittest.TestCase):
@@ -27,7 +32,7 @@ class Linea(unittest.TestCase):
                 lunghezza(bytes(byte))
 
     def test_a_value_that_nobody_can_ask_for_is_wrong(self):
-        for byte in ((19, 65, 3), (19, 33, 0), (19, 35, 13), (19, 37, 3), (19, 67, 19), (19, 73, 1),
+        for byte in ((19, 65, 3), (19, 33, 0), (19, 35, 13), (19, 37, 3), (19, 67, 20), (19, 73, 1),
                      (19, 97, 66), (19, 97, 223), (19, 99, 128), (19, 131, 1), (19, 140, 1),
                      (19, 161, 0), (19, 2, 4), (19, 3, 0), (19, 129, 1)):
             with self.assertRaises(ByteSbagliato, msg=byte):
@@ -126,6 +131,135 @@ class Memoria(unittest.TestCase):
 
     def test_one_step_is_no_growth(self):
         self.assertEqual(pendenza([100] * 3 + [900] * 9), 0)
+
+
+class Sanitizzatori(unittest.TestCase):
+    def test_what_they_report_is_heard(self):
+        for testo in ("==7==ERROR: AddressSanitizer: heap-use-after-free on address",
+                      "Mossa.cpp:12:3: runtime error: signed integer overflow",
+                      "==7==ERROR: LeakSanitizer: detected memory leaks"):
+            self.assertIn(testo[-20:], giudici.rapporto("x\n" + testo + "\n"))
+
+    def test_their_own_fall_is_no_silence(self):
+        for testo in ("Tracer caught signal 11: addr=0x0 pc=0x7f sp=0x7f",
+                      "==7==LeakSanitizer has encountered a fatal error.",
+                      "AddressSanitizer:DEADLYSIGNAL", "AddressSanitizer: CHECK failed: asan.cpp:1"):
+            self.assertTrue(giudici.rapporto(testo), testo)
+
+    def test_a_page_of_memory_is_no_report(self):
+        self.assertIsNone(giudici.rapporto(""))
+        self.assertIsNone(giudici.rapporto("Live Heap Allocations: 7 bytes in 1 chunks\n"))
+
+    def test_a_leak_check_that_was_not_made_is_no_success(self):
+        self.assertIsNone(giudici.perdite(["begun", "ended"]))
+        self.assertIn("not begun", giudici.perdite([]))
+        self.assertIn("its end", giudici.perdite(["begun"]))
+
+
+class Riquadri(unittest.TestCase):
+    def test_a_box_stands_above_a_window_of_the_program(self):
+        self.assertIsNone(giudici.senza_padre(0x20, 0x8, {0x20, 0x21}))
+
+    def test_a_box_without_a_parent_is_seen(self):
+        for sopra in (0, 0x8, 0x99):
+            self.assertTrue(giudici.senza_padre(sopra, 0x8, {0x20, 0x21}), sopra)
+
+
+class Fine(unittest.TestCase):
+    APERTA = [(3, 1, 1), (27, 70)]
+    CHIUSA = [(3, 1, 1), (19, 65, 0), (4,)]
+
+    def test_an_end_that_was_asked_for(self):
+        for comandi in (self.CHIUSA, [], None):
+            self.assertIsNone(giudici.fine(0, True, "", comandi, False))
+
+    def test_an_end_that_was_not(self):
+        self.assertIn("unasked", giudici.fine(0, False, "", self.CHIUSA, False))
+        self.assertIn("status 139", giudici.fine(139, True, "", self.CHIUSA, False))
+        self.assertIn("byte 4", giudici.fine(0, True, "", self.APERTA, False))
+
+    def test_an_error_ends_the_program_only_from_a_list_of_the_runner(self):
+        testo = "Impossibile trovare il file (53)\n\n" + giudici.FATALE
+        self.assertIsNone(giudici.fine(1, False, testo, self.CHIUSA, True))
+        self.assertIn("nobody handled", giudici.fine(1, False, testo, self.CHIUSA, False))
+        self.assertIn("nobody handled", giudici.fine(
+            1, True, "File già aperto (55)\n\n" + giudici.FATALE, self.CHIUSA, True))
+        self.assertIn("status 0", giudici.fine(0, False, testo, self.CHIUSA, True))
+        self.assertIn("byte 4", giudici.fine(1, False, testo, self.APERTA, True))
+
+    def test_the_last_session_is_closed(self):
+        self.assertTrue(giudici.sessione_chiusa([]))
+        self.assertTrue(giudici.sessione_chiusa(self.CHIUSA))
+        self.assertFalse(giudici.sessione_chiusa(self.APERTA))
+        self.assertFalse(giudici.sessione_chiusa([*self.CHIUSA, *self.APERTA]))
+        # The closing of an earlier one may have been lost with the line.
+        self.assertTrue(giudici.sessione_chiusa([*self.APERTA, *self.CHIUSA]))
+        self.assertFalse(giudici.sessione_chiusa([*self.CHIUSA, *self.APERTA, (1,)]))
+
+
+class LineaPersa(unittest.TestCase):
+    def test_it_may_swallow_what_was_sent_in_its_time(self):
+        perdita = Perdita(20000, 20000)
+        for prima, dopo in ((25000, 26000), (15000, 21000), (39000, 45000), (10000, 60000)):
+            self.assertTrue(perdita.inghiotte(prima, dopo), (prima, dopo))
+
+    def test_it_may_swallow_nothing_else(self):
+        perdita = Perdita(20000, 20000)
+        for prima, dopo in ((1000, 2000), (45000, 46000)):
+            self.assertFalse(perdita.inghiotte(prima, dopo), (prima, dopo))
+
+
+class FileDiLista(unittest.TestCase):
+    def test_a_whole_list(self):
+        for byte in (b" 1 \r\nStop\r\nDestra \xbd\r\n", b" 0 \r\nDestra \r\n", b"-1 \r\n"):
+            self.assertIsNone(giudici.lista(byte), byte)
+
+    def test_a_list_that_is_not_whole(self):
+        for byte in (b"", b" 1 \r\n", b" 1 \r\nStop\r\n", b" 1 \r\nStop\r\nDes",
+                     b" 0 \r\nStop\r\nFoto\r\n", b"Stop\r\n", b" 1"):
+            self.assertTrue(giudici.lista(byte), byte)
+
+
+class Aspetto(unittest.TestCase):
+    RIPOSO, PREMUTA = bytes([10] * 60), bytes([10] * 30 + [90] * 30)
+
+    def test_the_pressed_look_is_told_from_rest(self):
+        self.assertIs(giudici.premuto(self.PREMUTA, self.RIPOSO, self.PREMUTA), True)
+        self.assertIs(giudici.premuto(self.RIPOSO, self.RIPOSO, self.PREMUTA), False)
+        quasi = bytes([12] * 30 + [88] * 30)
+        self.assertIs(giudici.premuto(quasi, self.RIPOSO, self.PREMUTA), True)
+
+    def test_what_is_neither_is_not_judged(self):
+        for vista in (None, b"", bytes([200] * 60), bytes([10] * 30 + [50] * 30)):
+            self.assertIsNone(giudici.premuto(vista, self.RIPOSO, self.PREMUTA))
+
+
+class Ferma(unittest.TestCase):
+    STOP = (19, 65, 0)
+
+    def test_a_stop_in_time(self):
+        self.assertIsNone(giudici.stop([(27, 70), self.STOP], 1, 0.4, 0))
+        # What the machine itself was late by is not the program's.
+        self.assertIsNone(giudici.stop([self.STOP], 0, 3.0, 2.4))
+
+    def test_a_stop_that_fails(self):
+        self.assertIn("no STOP", giudici.stop([self.STOP, (27, 70)], 1, 1.0, 0))
+        self.assertIn("no STOP", giudici.stop([(19, 65, 1)], 0, 1.0, 0))
+        self.assertIn("after 1.7", giudici.stop([self.STOP], 0, 1.7, 0.2))
+
+
+class Macchina(unittest.TestCase):
+    def test_a_process_is_found_below_the_one_that_was_started(self):
+        with subprocess.Popen(["sh", "-c", "sleep 60; true"]) as processo:
+            try:
+                fine = time.monotonic() + 20
+                while not (trovato := discendente(processo.pid, "sleep")):
+                    self.assertLess(time.monotonic(), fine)
+                self.assertNotEqual(trovato, processo.pid)
+                self.assertIsNone(discendente(processo.pid, "lumbra"))
+                self.assertGreaterEqual(attesa_del_processore(trovato), 0)
+            finally:
+                os.kill(discendente(processo.pid, "sleep"), signal.SIGKILL)
 
 
 if __name__ == "__main__":

@@ -2,6 +2,7 @@
 #include "Aspetto.h"
 #include "Contrasto.h"
 #include "Disegni.h"
+#include "DisegniDeiFile.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -113,5 +114,24 @@ TEST(Aspetto, every_text_stands_out_from_its_ground)
         for (const auto &[testo, fondo] : coppie)
             EXPECT_GE(contrasto(nostra.color(gruppo, testo), nostra.color(gruppo, fondo)), 4.5)
                 << gruppo << ' ' << testo << ' ' << fondo;
+    }
+}
+
+TEST(Aspetto, the_drawings_of_boxes_and_file_dialogs_are_made_once)
+{
+    const auto chiave = [](QStyle::StandardPixmap quale) {
+        return QApplication::style()->standardIcon(quale).cacheKey();
+    };
+    for (const auto quale : {QStyle::SP_MessageBoxInformation, QStyle::SP_MessageBoxQuestion,
+                             QStyle::SP_MessageBoxCritical, QStyle::SP_FileDialogToParent,
+                             QStyle::SP_FileDialogNewFolder, QStyle::SP_DirIcon}) {
+        EXPECT_EQ(chiave(quale), chiave(quale)) << quale;
+    }
+    EXPECT_NE(chiave(QStyle::SP_MessageBoxInformation), chiave(QStyle::SP_MessageBoxQuestion));
+    const DisegniDeiFile uno;
+    const DisegniDeiFile altro;
+    for (const auto tipo :
+         {QFileIconProvider::Computer, QFileIconProvider::Folder, QFileIconProvider::File}) {
+        EXPECT_EQ(uno.icon(tipo).cacheKey(), altro.icon(tipo).cacheKey()) << tipo;
     }
 }
