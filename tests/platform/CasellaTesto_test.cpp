@@ -194,6 +194,8 @@ TEST_F(CasellaTestoTest, a_line_break_becomes_a_blank_however_it_comes)
          [&] {
              QMimeData dati;
              dati.setText(conRotture);
+             QDragEnterEvent entra({2, 2}, Qt::CopyAction, &dati, Qt::LeftButton, {});
+             QApplication::sendEvent(&testo, &entra);
              QDropEvent evento({2, 2}, Qt::CopyAction, &dati, Qt::LeftButton, {});
              QApplication::sendEvent(&testo, &evento);
          }},
