@@ -178,6 +178,7 @@ class Prova(Giri):
         u.davanti(CONSOLE)
         u.tasti("alt+F4")
         esito = u.processo.wait(timeout=300)
+        u.processo = None
         if esito != 0:
             self.guaio(f"exit status {esito}")
         if self.controllato and (lamento := giudici.perdite(self.segni())):
