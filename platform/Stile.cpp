@@ -2,7 +2,7 @@
 
 #include "Disegni.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QStyleOptionButton>
 
 using namespace Qt::StringLiterals;
@@ -48,6 +48,24 @@ QStringView disegnoDi(QStyle::StandardPixmap quale)
     }
 }
 
+// A widget made anew has a copy of the application's palette with a number of its own; drawn under
+// that, each message box would leave new pictures of its buttons in Qt's cache. Whether this is a
+// widget of that kind, with the application's colours: then it is drawn under the application's
+// number.
+template <typename Opzione, typename Disegna>
+bool conTavolozzaComune(const QStyleOption *opzione, const Disegna &disegna)
+{
+    const QPalette comune = QApplication::palette();
+    const auto *sua = qstyleoption_cast<const Opzione *>(opzione);
+    if (!sua || sua->palette.isCopyOf(comune) || !(sua->palette == comune))
+        return false;
+    Opzione copia(*sua);
+    copia.palette = comune;
+    copia.palette.setCurrentColorGroup(sua->palette.currentColorGroup());
+    disegna(&copia);
+    return true;
+}
+
 } // namespace
 
 Stile::Stile() : QProxyStyle(u"Fusion"_s) {}
@@ -58,10 +76,43 @@ QIcon Stile::standardIcon(StandardPixmap quale, const QStyleOption *opzione,
     const QStringView nome = disegnoDi(quale);
     if (nome.isEmpty())
         return QProxyStyle::standardIcon(quale, opzione, controllo);
-    QIcon &disegno = m_disegni[{nome.toString(), qGuiApp->devicePixelRatio()}];
+    QIcon &disegno = m_disegni[{nome.toString(), qApp->devicePixelRatio()}];
     if (disegno.isNull())
         disegno = Disegni::icona(nome);
     return disegno;
+}
+
+void Stile::drawPrimitive(PrimitiveElement quale, const QStyleOption *opzione, QPainter *pittore,
+                          const QWidget *controllo) const
+{
+    const auto disegna = [&](const QStyleOption *come) {
+        QProxyStyle::drawPrimitive(quale, come, pittore, controllo);
+    };
+    if (quale != PE_PanelButtonCommand || !conTavolozzaComune<QStyleOptionButton>(opzione, disegna))
+        disegna(opzione);
+}
+
+void Stile::drawControl(ControlElement quale, const QStyleOption *opzione, QPainter *pittore,
+                        const QWidget *controllo) const
+{
+    const auto disegna = [&](const QStyleOption *come) {
+        QProxyStyle::drawControl(quale, come, pittore, controllo);
+    };
+    if (quale != CE_HeaderSection || !conTavolozzaComune<QStyleOptionHeaderV2>(opzione, disegna))
+        disegna(opzione);
+}
+
+void Stile::drawComplexControl(ComplexControl quale, const QStyleOptionComplex *opzione,
+                               QPainter *pittore, const QWidget *controllo) const
+{
+    const auto disegna = [&](const QStyleOptionComplex *come) {
+        QProxyStyle::drawComplexControl(quale, come, pittore, controllo);
+    };
+    const bool disegnato =
+        (quale == CC_ComboBox && conTavolozzaComune<QStyleOptionComboBox>(opzione, disegna)) ||
+        (quale == CC_SpinBox && conTavolozzaComune<QStyleOptionSpinBox>(opzione, disegna));
+    if (!disegnato)
+        disegna(opzione);
 }
 
 int Stile::styleHint(StyleHint quale, const QStyleOption *opzione, const QWidget *controllo,

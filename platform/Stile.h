@@ -18,6 +18,13 @@ public:
     // colours.
     QIcon standardIcon(StandardPixmap quale, const QStyleOption *opzione,
                        const QWidget *controllo) const override;
+    // What Fusion keeps as a picture, it keeps under its palette's number among others.
+    void drawPrimitive(PrimitiveElement quale, const QStyleOption *opzione, QPainter *pittore,
+                       const QWidget *controllo) const override;
+    void drawControl(ControlElement quale, const QStyleOption *opzione, QPainter *pittore,
+                     const QWidget *controllo) const override;
+    void drawComplexControl(ComplexControl quale, const QStyleOptionComplex *opzione,
+                            QPainter *pittore, const QWidget *controllo) const override;
     int styleHint(StyleHint quale, const QStyleOption *opzione, const QWidget *controllo,
                   QStyleHintReturn *risposta) const override;
     QSize sizeFromContents(ContentsType quale, const QStyleOption *opzione, const QSize &contenuto,

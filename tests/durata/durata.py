@@ -3,8 +3,8 @@ silent, drops, doubles and garbles bytes, loses the line, goes away and comes ba
 that is full. What must hold all along: no crash, no report of the sanitizers, no memory that grows,
 no list line that gets lost, no byte to the robot that nobody asked for.
 
-durata.py HOUSE OUT MINUTES [--seme N] [--giro ROUNDS]: the folder made by the script beside this, the folder for what
-is kept, how long."""
+durata.py HOUSE OUT MINUTES [--seme N] [--giro ROUNDS]: the folder made by the script beside this, the
+folder for what is kept, how long."""
 
 import argparse
 import filecmp
@@ -178,6 +178,7 @@ class Prova(Giri):
         u.davanti(CONSOLE)
         u.tasti("alt+F4")
         esito = u.processo.wait(timeout=300)
+        u.processo = None
         if esito != 0:
             self.guaio(f"exit status {esito}")
         if self.controllato and (lamento := giudici.perdite(self.segni())):

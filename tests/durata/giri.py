@@ -74,8 +74,13 @@ class Giri:
         self.perdita = None
         self.u.ascolto = Ascolto(base + ".linea")
         self.u.attese = []
-        self.u.attendi("the robot's port", lambda: os.path.exists(os.path.join(
-            self.u.disco, "COM1")) and os.path.exists(base + ".diario"))
+        # Not a wait of the user's: there may be no program just now.
+        fine = time.monotonic() + PAZIENZA
+        while not (os.path.exists(os.path.join(self.u.disco, "COM1")) and
+                   os.path.exists(base + ".diario")):
+            if time.monotonic() > fine:
+                raise Guaio("waited in vain: the robot's port")
+            time.sleep(0.05)
 
     def prepara_collegamenti(self):
         """Each port number is a link of ours: to nothing as long as there is no robot. No port of

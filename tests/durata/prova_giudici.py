@@ -156,6 +156,45 @@ class Sanitizzatori(unittest.TestCase):
         self.assertIn("its end", giudici.perdite(["begun"]))
 
 
+class Perdite(unittest.TestCase):
+    """The leak check at an end without end handlers, of a program of three lines."""
+
+    PROGRAMMA = """
+        #include <stdlib.h>
+        int main(int quanti, char **parole) {
+            void *volatile preso = malloc(77);
+            if (quanti > 1) preso = NULL; else free(preso);
+            _Exit(0);
+        }"""
+
+    def esito(self, *parole):
+        qui = os.path.dirname(os.path.abspath(__file__))
+        with tempfile.TemporaryDirectory() as cartella:
+            programma = os.path.join(cartella, "programma")
+            testimone = os.path.join(cartella, "testimone.so")
+            subprocess.run(["gcc", "-x", "c", "-fsanitize=address", "-o", programma, "-"],
+                           input=self.PROGRAMMA, text=True, check=True)
+            subprocess.run(["gcc", "-shared", "-fPIC", "-o", testimone,
+                            os.path.join(qui, "testimone.c"), "-lpthread"], check=True)
+            segni = os.path.join(cartella, "segni")
+            fatto = subprocess.run(
+                [programma, *parole], stderr=subprocess.PIPE, text=True, check=False,
+                env=dict(os.environ, LD_PRELOAD=testimone, DURATA_SEGNI=segni,
+                         ASAN_OPTIONS="exitcode=99:verify_asan_link_order=0:detect_leaks=1"))
+            with open(segni, encoding="ascii") as file:
+                return fatto.returncode, fatto.stderr, file.read().split()
+
+    def test_a_leak_is_found(self):
+        stato, testo, _ = self.esito("perdi")
+        self.assertEqual(stato, 99)
+        self.assertIn("77 byte(s)", testo)
+        self.assertTrue(giudici.rapporto(testo))
+
+    def test_no_leak_is_no_complaint(self):
+        stato, testo, segni = self.esito()
+        self.assertEqual((stato, giudici.rapporto(testo), giudici.perdite(segni)), (0, None, None))
+
+
 class Riquadri(unittest.TestCase):
     def test_a_box_stands_above_a_window_of_the_program(self):
         self.assertIsNone(giudici.senza_padre(0x20, 0x8, {0x20, 0x21}))

@@ -158,7 +158,7 @@ class Scimmia:
         self.parti.clear()
         self.p.prepara_collegamenti()
         self.scrivi_file("Porta COM", "1\r\n")
-        self.chiesta = False
+        self.chiesta = 0.0  # when the console was last closed by hand
         self.fatale = ""
         self.vigilio = False
         self.visti = set()
@@ -304,6 +304,8 @@ class Scimmia:
             self.leggi_avviso()
         self.visti = dialoghi
         adesso = time.monotonic()
+        if self.chiesta and adesso > self.chiesta + ATTESA_LUNGA and not dialoghi:
+            self.chiesta = 0.0  # the closing was called off
         if adesso > self.ultimo_rapporto + 3:
             self.ultimo_rapporto = adesso
             self.giudica_rapporti()
@@ -376,7 +378,8 @@ class Scimmia:
         esito = self.u.processo.returncode
         self.dice(f"the program has ended, status {esito}")
         self.giudica_rapporti()
-        lamento = giudici.fine(esito, self.chiesta, self.fatale, comandi, self.vigilio)
+        lamento = giudici.fine(esito, bool(self.chiesta), self.fatale, comandi,
+                               self.vigilio)
         if not lamento and self.p.controllato:
             lamento = giudici.perdite(self.p.segni())
         if lamento:
@@ -711,6 +714,8 @@ class Scimmia:
         """Another program comes to the front; a key or a button may be held meanwhile."""
         altra = self.x.altra()
         tasto = self.caso.choice((None, None, self.un_tasto()))
+        if tasto == "F4":  # with Alt it would close the window
+            tasto = None
         self.dice(f"to another program and back{', holding ' + tasto if tasto else ''}")
         if tasto:
             self.x.premi(tasto)
@@ -756,7 +761,7 @@ class Scimmia:
             self.x.chiudi(finestra.numero)
         elif self.x.attiva() == finestra.numero:
             # It may go before the key comes, and the console be the one that is closed.
-            self.chiesta = True
+            self.chiesta = time.monotonic()
             self.x.tocca("Alt_L", "F4")
 
     def esci(self):
@@ -764,7 +769,7 @@ class Scimmia:
         console = self.console()
         if console:
             self.dice("close the console")
-            self.chiesta = True
+            self.chiesta = time.monotonic()
             self.x.chiudi(console.numero)
 
     def titolo(self):
@@ -825,7 +830,7 @@ class Scimmia:
             if sopra:
                 self.u.prova(self.rispondi)
             else:
-                self.chiesta = True
+                self.chiesta = time.monotonic()
                 console = self.console()
                 if console:
                     self.x.chiudi(console.numero)

@@ -3,13 +3,17 @@
 #include "Contrasto.h"
 #include "Disegni.h"
 #include "DisegniDeiFile.h"
+#include "Stile.h"
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QPushButton>
+#include <QSet>
 #include <QStyle>
+#include <QStyleOptionButton>
 #include <QToolTip>
 #include <gmock/gmock.h>
 
@@ -134,4 +138,45 @@ TEST(Aspetto, the_drawings_of_boxes_and_file_dialogs_are_made_once)
          {QFileIconProvider::Computer, QFileIconProvider::Folder, QFileIconProvider::File}) {
         EXPECT_EQ(uno.icon(tipo).cacheKey(), altro.icon(tipo).cacheKey()) << tipo;
     }
+}
+
+// A style between that sees under which number a panel is drawn.
+class Spia : public QProxyStyle
+{
+public:
+    using QProxyStyle::QProxyStyle;
+    void drawPrimitive(PrimitiveElement quale, const QStyleOption *opzione, QPainter *pittore,
+                       const QWidget *controllo) const override
+    {
+        if (quale == PE_PanelButtonCommand)
+            numeri.insert(opzione->palette.cacheKey());
+        QProxyStyle::drawPrimitive(quale, opzione, pittore, controllo);
+    }
+    mutable QSet<qint64> numeri;
+};
+
+TEST(Aspetto, a_button_made_anew_is_drawn_from_the_same_picture)
+{
+    Stile stile;
+    auto *spia = new Spia(u"Fusion"_s);
+    stile.setBaseStyle(spia);
+    const auto disegna = [&](const QPalette &tavolozza) {
+        QStyleOptionButton pulsante;
+        pulsante.palette = tavolozza;
+        pulsante.rect = {0, 0, 80, 22};
+        QPixmap foglio(80, 22);
+        QPainter pittore(&foglio);
+        stile.drawPrimitive(QStyle::PE_PanelButtonCommand, &pulsante, &pittore, nullptr);
+    };
+    QPushButton uno;
+    QPushButton altro;
+    ASSERT_NE(uno.palette().cacheKey(), altro.palette().cacheKey());
+    disegna(uno.palette());
+    disegna(altro.palette());
+    EXPECT_EQ(spia->numeri.size(), 1);
+    // With colours of its own it is another picture.
+    QPalette rossa = uno.palette();
+    rossa.setColor(QPalette::Button, Qt::red);
+    disegna(rossa);
+    EXPECT_EQ(spia->numeri.size(), 2);
 }
