@@ -187,7 +187,7 @@ void Sessione::Scollega()
     pulsante.setToolTipText(u"Connetti ad Tessaro"_s);
 }
 
-void Sessione::MostraInvio(const QString &testo)
+void Sessione::MostraInvio(const QString &testo, const Abbandono &abbandono)
 {
     if (!COM.PortOpen())
         return;
@@ -199,7 +199,7 @@ void Sessione::MostraInvio(const QString &testo)
         passaErrori([&] { barra.setValore(barra.Value() + 1); });
         pompa();
         // The user may have disconnected meanwhile: what the robot does is no longer asked.
-        if (!COM.PortOpen()) {
+        if (!COM.PortOpen() || (abbandono && abbandono())) {
             barra.setValore(1);
             return;
         }

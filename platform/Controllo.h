@@ -3,6 +3,7 @@
 
 #include "Errore.h"
 #include "Evento.h"
+#include "Tag.h"
 #include "Unita.h"
 
 #include <QMouseEvent>
@@ -36,8 +37,13 @@ public:
         Base::setMouseTracking(true);
     }
 
-    QString Tag() const { return m_tag; }
-    void setTag(const QString &tag) { m_tag = tag; }
+    QString Tag() const { return m_tag.testo(); }
+    void setTag(const QString &tag) { m_tag.imposta(tag); }
+    // From now on the Tag shows what an owner holds.
+    void mostraTag(TestoTag::Lettura lettura, TestoTag::Scrittura scrittura)
+    {
+        m_tag.mostra(std::move(lettura), std::move(scrittura));
+    }
 
     bool Enabled() const { return Base::isEnabled(); }
     // As set for this control, whether or not its window is on the screen.
@@ -119,7 +125,7 @@ private:
         return Unita::pixel(unita) == pixel ? unita : Unita::unita(pixel);
     }
 
-    QString m_tag;
+    TestoTag m_tag;
     double m_left = 0;
     double m_top = 0;
     double m_width = 0;

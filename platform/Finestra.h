@@ -22,8 +22,13 @@ public:
     explicit Finestra(const QString &nome, const QString &titolo);
 
     // The window's own text; it outlives unloading.
-    QString Tag() const { return m_tag; }
-    void setTag(const QString &tag) { m_tag = tag; }
+    QString Tag() const { return m_tag.testo(); }
+    void setTag(const QString &tag) { m_tag.imposta(tag); }
+    // From now on the Tag shows what an owner holds.
+    void mostraTag(TestoTag::Lettura lettura, TestoTag::Scrittura scrittura)
+    {
+        m_tag.mostra(std::move(lettura), std::move(scrittura));
+    }
     QString Caption() const { return windowTitle(); }
     void setCaption(const QString &testo) { setWindowTitle(testo); }
 
@@ -90,7 +95,7 @@ private:
     void scarica(Chiusura come);
     void attiva();
 
-    QString m_tag;
+    TestoTag m_tag;
     QString m_titolo;
     QSize m_misura;
     Pulsante *m_predefinito = nullptr;

@@ -40,9 +40,12 @@ std::vector<qint16> attive(const Elenco &lstImgCamera)
 
 void frmCamera::PreparaAcquisizione()
 {
-    const int s = zoom();
+    m_selezione.lascia();
+    // What is being named already is not replaced.
+    if (nominando())
+        return;
+    const int s = m_video.zoom();
     shpSelezione.hide();
-    shpSelezione.setTag(Numeri::TestoLogico(false));
     quint8 left = inFotogramma(shpSelezione.Left(), s);
     quint8 top = inFotogramma(shpSelezione.Top(), s);
     quint8 width = inFotogramma(shpSelezione.Width(), s);
@@ -60,8 +63,10 @@ void frmCamera::PreparaAcquisizione()
     frmNomeImmagine.imgAcquisita.Move(39 - mezzaLarghezza, 29 - mezzaAltezza);
     frmNomeImmagine.setTag(QString::number(width) + u',' + QString::number(height));
     frmNomeImmagine.imgAcquisita.hide();
-    AcquisisciImmagine(m_fotogramma.Pixel, left, top, width, height);
-    frmNomeImmagine.Mostra();
+    AcquisisciImmagine(m_video.fotogramma().Pixel, left, top, width, height);
+    frmNomeImmagine.MostraSopra(*this);
+    m_selezione.nomina();
+    lasciaMirino();
     // Also where the copy is complete already: the first tick then switches it off.
     frmNomeImmagine.tmrAcquisizione.setEnabled(true);
 }
@@ -99,7 +104,7 @@ void frmCamera::CercaImmagini()
 
 bool frmCamera::cercaTraLeAttive()
 {
-    Ricerca ricerca(m_fotogramma.Pixel);
+    Ricerca ricerca(m_video.fotogramma().Pixel);
     Matrice Modello(Fotogramma::Colonne, Fotogramma::Righe);
     for (const qint16 indice : attive(c.lstImgCamera)) {
         const QString voce = c.lstImgCamera.List(indice);
@@ -109,7 +114,7 @@ bool frmCamera::cercaTraLeAttive()
         leggiModello(leggiRecord(indice), W, H, Modello);
         if (!ricerca.cerca(Modello, W, H))
             continue;
-        const int s = zoom();
+        const int s = m_video.zoom();
         shpImgRilevata.Move(s * ricerca.colonna(), s * ricerca.riga());
         shpImgRilevata.Size(double(s) * W, double(s) * H);
         shpImgRilevata.show();

@@ -1,5 +1,4 @@
 // The picture by keyboard: what a mouse that presses, drags and lets go does on it.
-#include "Numeri.h"
 #include "Tasti.h"
 #include "frmCamera.h"
 
@@ -13,31 +12,31 @@ constexpr int passoLungo = 10;
 
 void frmCamera::keyPressEvent(QKeyEvent *evento)
 {
+    const int codice = Tasti::codice(*evento);
     const int passo = evento->modifiers().testFlag(Qt::ControlModifier) ? passoLungo : 1;
-    switch (Tasti::codice(*evento)) {
+    const bool ripetuto = evento->isAutoRepeat();
+    switch (codice) {
     case Tasti::Sinistra:
-        muoviMirino(-passo, 0);
+        eseguiGestore([=, this] { muoviMirino(-passo, 0); });
         break;
     case Tasti::Destra:
-        muoviMirino(passo, 0);
+        eseguiGestore([=, this] { muoviMirino(passo, 0); });
         break;
     case Tasti::Su:
-        muoviMirino(0, -passo);
+        eseguiGestore([=, this] { muoviMirino(0, -passo); });
         break;
     case Tasti::Giu:
-        muoviMirino(0, passo);
+        eseguiGestore([=, this] { muoviMirino(0, passo); });
         break;
     case Tasti::Spazio:
-        if (!evento->isAutoRepeat())
+        if (!ripetuto)
             eseguiGestore([this] { spazio(); });
         break;
     case Tasti::Esc:
-        if (m_traccia)
-            shpSelezione.hide();
-        lasciaMirino();
+        eseguiGestore([this] { lasciaSelezione(); });
         break;
     case Tasti::F5:
-        if (!evento->isAutoRepeat())
+        if (!ripetuto)
             eseguiGestore([this] { Schermo_DblClick(); });
         break;
     default:
@@ -48,9 +47,11 @@ void frmCamera::keyPressEvent(QKeyEvent *evento)
 // In pixels of the frame; the first move begins at the middle.
 void frmCamera::muoviMirino(int colonne, int righe)
 {
+    if (nominando())
+        return;
     if (m_mirino.isNull())
         m_mirino = Schermo.rect().center();
-    const int s = qMax(1, zoom());
+    const int s = qMax(1, m_video.zoom());
     m_mirino += QPoint(colonne * s, righe * s);
     mostraMirino();
     if (m_traccia)
@@ -69,6 +70,8 @@ void frmCamera::mostraMirino()
 
 void frmCamera::spazio()
 {
+    if (nominando())
+        return;
     if (m_traccia) {
         lasciaMirino();
         Schermo_MouseUp();
@@ -79,6 +82,15 @@ void frmCamera::spazio()
     Schermo_MouseDown(1, 0, m_mirino.x(), m_mirino.y());
     m_traccia = shpSelezione.Visible();
     mostraMirino();
+}
+
+void frmCamera::lasciaSelezione()
+{
+    if (m_traccia) {
+        shpSelezione.hide();
+        m_selezione.interrompi();
+    }
+    lasciaMirino();
 }
 
 void frmCamera::lasciaMirino()

@@ -14,6 +14,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -30,6 +31,7 @@ frmNomeImmagine::frmNomeImmagine(frmImmaginiAcquisite &immagini)
       m_immagini(immagini)
 {
     tmrAcquisizione.setInterval(1);
+    setWindowFlag(Qt::Dialog);
     disponi();
     Disegno();
     txtNomeImmagine.KeyPress.collega(this, &frmNomeImmagine::txtNomeImmagine_KeyPress);
@@ -96,6 +98,13 @@ void frmNomeImmagine::Disegno()
     tmrAcquisizione.setEnabled(false);
 }
 
+void frmNomeImmagine::MostraSopra(QWidget &padrona)
+{
+    winId();
+    windowHandle()->setTransientParent(padrona.window()->windowHandle());
+    Mostra();
+}
+
 void frmNomeImmagine::Activate()
 {
     passaErrori([this] { txtNomeImmagine.SetFocus(); });
@@ -113,7 +122,7 @@ void frmNomeImmagine::pulOK_Click()
 {
     if (txtNomeImmagine.Text().isEmpty())
         return;
-    const QByteArray nome = Codifica::inByte(txtNomeImmagine.Text());
+    const QByteArray nome = inUnaRiga(Codifica::inByte(txtNomeImmagine.Text()));
     QByteArray s;
     bool leggibile = true;
     try {

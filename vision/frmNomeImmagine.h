@@ -18,6 +18,9 @@ public:
 
     void impostaAcquisitore(Acquisitore *acquisitore) { m_acquisitore = acquisitore; }
 
+    // Shows it as a dialog of that window: always in front of it, but the window stays usable.
+    void MostraSopra(QWidget &padrona);
+
     // As large as a frame; imgAcquisita lies on it.
     Superficie areaImmagine;
     SuperficieInPixel imgAcquisita;
