@@ -1,10 +1,12 @@
-// The window's life, its mouse, and the road of a row.
 #include "frmCamera.h"
 
 #include "Mosaico.h"
 #include "Numeri.h"
 #include "Pompa.h"
+#include "RecordImmagine.h"
+#include "Tasti.h"
 
+#include <QKeyEvent>
 #include <QScreen>
 
 using namespace Qt::StringLiterals;
@@ -13,7 +15,8 @@ namespace {
 
 // At the size of the first showing, 8 screen pixels for one of the frame.
 constexpr int zoomIniziale = 8;
-constexpr int latoMirino = 11;
+// How far an arrow key goes with the control key.
+constexpr int passoLungo = 10;
 // More than any port holds back.
 constexpr int lettureMassime = 256;
 
@@ -32,7 +35,6 @@ frmCamera::frmCamera(const ControlliVideo &console, ::frmNomeImmagine &nomeImmag
     legaTag();
     disponi();
     Disegno();
-    frmNomeImmagine.impostaAcquisitore(this);
     Schermo.Resize.collega(this, &frmCamera::Schermo_Resize);
     Schermo.MouseDown.collega(this, &frmCamera::Schermo_MouseDown);
     Schermo.MouseMove.collega(this, &frmCamera::Schermo_MouseMove);
@@ -88,8 +90,6 @@ void frmCamera::disponi()
     Schermo.setFocusPolicy(Qt::StrongFocus);
 
     shpSelezione.setColori(QColor(255, 255, 255, 40), Qt::white);
-    shpMirino.setColori(Qt::transparent, Qt::white);
-    shpMirino.Size(latoMirino, latoMirino);
     shpImgRilevata.setColori(Qt::transparent, giallo);
     // The mouse goes through, as it does through the shapes.
     lblNomeImmagine.setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -119,7 +119,7 @@ void frmCamera::Disegno()
     shpImgRilevata.hide();
     lblNomeImmagine.hide();
     lasciaMirino();
-    m_mirino = {};
+    shpMirino.azzera();
 }
 
 void frmCamera::Load()
@@ -269,10 +269,6 @@ void frmCamera::CalcolaRiga(const QByteArray &riga)
 {
     if (!m_video.acceso() || !Visible())
         return;
-    if (riga == "Azzera") {
-        ricominciaFotogramma();
-        return;
-    }
     try {
         if (!m_video.aggiungi(riga))
             return;
@@ -293,4 +289,125 @@ void frmCamera::mostraFotogramma()
     const int s = m_video.zoom();
     Schermo.Dipingi({s, s},
                     mosaico(m_video.fotogramma().Pixel, Fotogramma::Colonne, Fotogramma::Righe, s));
+}
+
+void frmCamera::PreparaAcquisizione()
+{
+    m_selezione.lascia();
+    // What is being named already is not replaced.
+    if (nominando())
+        return;
+    shpSelezione.hide();
+    const QRectF scelta(shpSelezione.Left(), shpSelezione.Top(), shpSelezione.Width(),
+                        shpSelezione.Height());
+    frmNomeImmagine.nomina(m_video.fotogramma().Pixel, areaInFotogramma(scelta, m_video.zoom()),
+                           *this);
+    m_selezione.nomina();
+    lasciaMirino();
+}
+
+void frmCamera::CercaImmagini()
+{
+    try {
+        if (const auto trovata = cercaTraLeAttive(m_video.fotogramma().Pixel, c.lstImgCamera)) {
+            mostraTrovata(*trovata);
+            return;
+        }
+        shpImgRilevata.hide();
+        lblNomeImmagine.hide();
+    } catch (const Errore &) {
+        c.BarraStato.setPanels(3, u"Errore nella ricerca dell'immagine!"_s);
+    }
+}
+
+void frmCamera::mostraTrovata(const Trovata &trovata)
+{
+    const int s = m_video.zoom();
+    shpImgRilevata.Move(s * trovata.colonna, s * trovata.riga);
+    shpImgRilevata.Size(double(s) * trovata.W, double(s) * trovata.H);
+    shpImgRilevata.show();
+    QFont font = lblNomeImmagine.font();
+    font.setPointSize(qMax(1, s * 3));
+    lblNomeImmagine.setFont(font);
+    lblNomeImmagine.Move(shpImgRilevata.Left() - s,
+                         shpImgRilevata.Top() + shpImgRilevata.Height() - s);
+    lblNomeImmagine.setCaption(nomeImmagine(c.lstImgCamera.List(trovata.indice)));
+    lblNomeImmagine.adjustSize();
+    lblNomeImmagine.show();
+}
+
+// The picture by keyboard: what a mouse that presses, drags and lets go does on it.
+void frmCamera::keyPressEvent(QKeyEvent *evento)
+{
+    const int codice = Tasti::codice(*evento);
+    const int passo = evento->modifiers().testFlag(Qt::ControlModifier) ? passoLungo : 1;
+    const bool ripetuto = evento->isAutoRepeat();
+    switch (codice) {
+    case Tasti::Sinistra:
+        eseguiGestore([=, this] { muoviMirino(-passo, 0); });
+        break;
+    case Tasti::Destra:
+        eseguiGestore([=, this] { muoviMirino(passo, 0); });
+        break;
+    case Tasti::Su:
+        eseguiGestore([=, this] { muoviMirino(0, -passo); });
+        break;
+    case Tasti::Giu:
+        eseguiGestore([=, this] { muoviMirino(0, passo); });
+        break;
+    case Tasti::Spazio:
+        if (!ripetuto)
+            eseguiGestore([this] { spazio(); });
+        break;
+    case Tasti::Esc:
+        eseguiGestore([this] { lasciaSelezione(); });
+        break;
+    case Tasti::F5:
+        if (!ripetuto)
+            eseguiGestore([this] { Schermo_DblClick(); });
+        break;
+    default:
+        Finestra::keyPressEvent(evento);
+    }
+}
+
+// In pixels of the frame.
+void frmCamera::muoviMirino(int colonne, int righe)
+{
+    if (nominando())
+        return;
+    const int s = qMax(1, m_video.zoom());
+    shpMirino.sposta(QPoint(colonne, righe) * s);
+    if (m_traccia)
+        Schermo_MouseMove(1, 0, shpMirino.posto().x(), shpMirino.posto().y());
+}
+
+void frmCamera::spazio()
+{
+    if (nominando())
+        return;
+    if (m_traccia) {
+        lasciaMirino();
+        Schermo_MouseUp();
+        return;
+    }
+    shpMirino.sposta({});
+    Schermo_MouseDown(1, 0, shpMirino.posto().x(), shpMirino.posto().y());
+    m_traccia = shpSelezione.Visible();
+    shpMirino.show();
+}
+
+void frmCamera::lasciaSelezione()
+{
+    if (m_traccia) {
+        shpSelezione.hide();
+        m_selezione.interrompi();
+    }
+    lasciaMirino();
+}
+
+void frmCamera::lasciaMirino()
+{
+    m_traccia = false;
+    shpMirino.hide();
 }

@@ -351,19 +351,19 @@ TEST_F(Camera, ARestartThatFailsLeavesTheVideoOff)
     EXPECT_EQ(camera.fotogramma().Riga, 0);
 }
 
-TEST_F(Camera, AzzeraIsNotHeardWhileVideoIsOffOrTheWindowHidden)
+TEST_F(Camera, NoNewFrameBeginsWhileVideoIsOffOrTheWindowHidden)
 {
     banco.apriCamera();
     banco.mandaRighe(immagineACaso(1), 0, 6);
     camera.Nascondi();
-    camera.CalcolaRiga("Azzera");
+    camera.ricominciaFotogramma();
     EXPECT_EQ(camera.fotogramma().Riga, 7);
     camera.Mostra();
     camera.setTag(u"0"_s);
-    camera.CalcolaRiga("Azzera");
+    camera.ricominciaFotogramma();
     EXPECT_EQ(camera.fotogramma().Riga, 7);
     camera.setTag(u"10"_s);
-    camera.CalcolaRiga("Azzera");
+    camera.ricominciaFotogramma();
     EXPECT_EQ(camera.fotogramma().Riga, 0);
 }
 
