@@ -196,7 +196,7 @@ void UltimaRiga(benchmark::State &stato)
     for (auto _ : stato) {
         stato.PauseTiming();
         const QByteArray &fotogramma = righe[quale ^= 1];
-        banco.camera->CalcolaRiga("Azzera");
+        banco.camera->ricominciaFotogramma();
         for (int riga = 0; riga < 59; ++riga)
             banco.camera->CalcolaRiga(fotogramma.sliced(riga * 160, 160));
         stato.ResumeTiming();

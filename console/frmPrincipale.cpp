@@ -63,7 +63,8 @@ void frmPrincipale::collegaGestori()
     }
     for (int i = 1; i <= 10; ++i)
         collegaFreccia(i);
-    imgFreccia(1).TagScritto.collega([this](const QString &testo) { m_fermo.scrivi(testo); });
+    imgFreccia(1).mostraTag([this] { return m_fermo.testo(); },
+                            [this](const QString &testo) { m_fermo.scrivi(testo); });
     lblStop.Click.collega(this, &frmPrincipale::lblStop_Click);
     collegaTesta();
     collegaVoce();

@@ -229,7 +229,6 @@ private:
     void lblStop_Click();
     // A key goes down, or the mouse on its arrow.
     void premiTasto(int KeyCode, bool ripetuto);
-    void mostraFermo();
     // The window loses the keys and the mouse, and with them the releases of what is held: it is
     // let go now. The one place for keys, arrows and labels.
     void lasciaTutto();

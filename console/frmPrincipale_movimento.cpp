@@ -39,7 +39,6 @@ void frmPrincipale::premiTasto(int KeyCode, bool ripetuto)
     }
     // Only now: a release that was served during the wait has passed, and the latch stays.
     m_fermo.finito(comando);
-    mostraFermo();
 }
 
 void frmPrincipale::KeyUp(int KeyCode, int)
@@ -50,13 +49,7 @@ void frmPrincipale::KeyUp(int KeyCode, int)
     if (std::exchange(m_spazioSuStop, false) || opzBase.Value())
         m_targaStop.rilascia();
     m_fermo.lascia(KeyCode);
-    mostraFermo();
     mnuTastiera_KeyUp(KeyCode);
-}
-
-void frmPrincipale::mostraFermo()
-{
-    imgFreccia(1).setTag(m_fermo.testo());
 }
 
 bool frmPrincipale::event(QEvent *evento)
@@ -99,8 +92,7 @@ void frmPrincipale::lasciaTutto()
     }
     m_spazioSuStop = false;
     m_menuChiesto = false;
-    if (m_fermo.lasciaTutto())
-        mostraFermo();
+    m_fermo.lasciaTutto();
 }
 
 void frmPrincipale::collegaFreccia(int Index)

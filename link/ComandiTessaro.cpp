@@ -89,17 +89,21 @@ void FermaVideo(ControlloSeriale &COM)
     passaErrori([&] { COM.Output(pezzo({12})); });
 }
 
-bool AvviaVideo(ControlloSeriale &COM, quint8 a, quint8 b, EsitoVideo &esito)
+bool AvviaVideo(ControlloSeriale &COM, quint8 a, quint8 b, EsitoVideo &esito,
+                const Abbandono &abbandono)
 {
+    const auto abbandonato = [&] { return abbandono && abbandono(); };
     esito.mostraMessaggio(u"Impostazione del video"_s);
     if (!manda(COM, {pezzo({10}), pezzo({a}), pezzo({128}), pezzo({b})}))
         return false;
-    esito.MostraInvio(u"Impostazione del video OK"_s);
+    esito.MostraInvio(u"Impostazione del video OK"_s, abbandono);
+    if (abbandonato())
+        return false;
     esito.mostraMessaggio(u"Richiesta partenza del video"_s);
     if (!manda3(COM, 11, 160, 0))
         return false;
-    esito.MostraInvio(u"Video partito"_s);
-    return true;
+    esito.MostraInvio(u"Video partito"_s, abbandono);
+    return !abbandonato();
 }
 
 void TestaSu(ControlloSeriale &COM, quint8 n)

@@ -4,13 +4,19 @@
 #include "ControlloSeriale.h"
 #include "Errore.h"
 
+#include <functional>
+
+// Whether whoever began a long command has given it up while it waits; empty: he never does.
+using Abbandono = std::function<bool()>;
+
 // What the one long command tells of its course.
 class EsitoVideo
 {
 public:
     virtual ~EsitoVideo() = default;
     virtual void mostraMessaggio(const QString &testo) = 0;
-    virtual void MostraInvio(const QString &testo) = 0;
+    // Waits for the robot; given up, it ends at once and shows nothing.
+    virtual void MostraInvio(const QString &testo, const Abbandono &abbandono = {}) = 0;
 };
 
 // The bytes of each command, and the pieces in which they are written, are those that the robot
@@ -26,8 +32,10 @@ void ChiudiSessione(ControlloSeriale &COM);
 void FermaVideo(ControlloSeriale &COM);
 
 // Sets the video up and starts it, telling about both; false on a failure. a: the scale, a frame
-// being a times 8 pixels wide and a times 6 high; b goes out as it is, and is 0.
-bool AvviaVideo(ControlloSeriale &COM, quint8 a, quint8 b, EsitoVideo &esito);
+// being a times 8 pixels wide and a times 6 high; b goes out as it is, and is 0. Given up in one of
+// its waits it sends and tells nothing more, and is false, too.
+bool AvviaVideo(ControlloSeriale &COM, quint8 a, quint8 b, EsitoVideo &esito,
+                const Abbandono &abbandono = {});
 
 // n: steps, 1 to 4 up and down, 1 to 12 to the sides.
 void TestaSu(ControlloSeriale &COM, quint8 n);

@@ -265,7 +265,7 @@ void Sessione::Scollega()
     pulsante.setToolTipText(u"Connetti ad Tessaro"_s);
 }
 
-void Sessione::MostraInvio(const QString &testo)
+void Sessione::MostraInvio(const QString &testo, const Abbandono &abbandono)
 {
     if (!COM.PortOpen())
         return;
@@ -279,7 +279,7 @@ void Sessione::MostraInvio(const QString &testo)
         pompa();
         // The user may have disconnected meanwhile, and connected anew: what the robot does is no
         // longer asked.
-        if (!COM.PortOpen() || turno != m_turno) {
+        if (!COM.PortOpen() || turno != m_turno || (abbandono && abbandono())) {
             barra.setValore(1);
             return;
         }

@@ -72,7 +72,7 @@ public:
     void Scollega();
     // Waits, up to 100000 rounds of the pump, until the robot reacts to the command just sent, and
     // shows the text in panel 3, or "Nessuna risposta."; nothing where the port is closed.
-    void MostraInvio(const QString &testo) override;
+    void MostraInvio(const QString &testo, const Abbandono &abbandono = {}) override;
     void mostraMessaggio(const QString &testo) override;
 
 private:

@@ -3,6 +3,7 @@
 
 #include "Errore.h"
 #include "Evento.h"
+#include "Tag.h"
 #include "Unita.h"
 
 #include <QMouseEvent>
@@ -36,11 +37,12 @@ public:
         Base::setMouseTracking(true);
     }
 
-    QString Tag() const { return m_tag; }
-    void setTag(const QString &tag)
+    QString Tag() const { return m_tag.testo(); }
+    void setTag(const QString &tag) { m_tag.imposta(tag); }
+    // From now on the Tag shows what an owner holds.
+    void mostraTag(TestoTag::Lettura lettura, TestoTag::Scrittura scrittura)
     {
-        m_tag = tag;
-        TagScritto(tag);
+        m_tag.mostra(std::move(lettura), std::move(scrittura));
     }
 
     bool Enabled() const { return Base::isEnabled(); }
@@ -83,8 +85,6 @@ public:
     Evento<int, int, double, double> MouseMove;
     Evento<int, int, double, double> MouseUp;
     Evento<> DblClick;
-    // By code: a Tag that shows the state of an owner is written through to it.
-    Evento<const QString &> TagScritto;
 
 protected:
     // 15 on a surface in layout units, 1 on one whose unit is the pixel.
@@ -130,7 +130,7 @@ private:
         return Unita::pixel(unita) == pixel ? unita : Unita::unita(pixel);
     }
 
-    QString m_tag;
+    TestoTag m_tag;
     double m_left = 0;
     double m_top = 0;
     double m_width = 0;

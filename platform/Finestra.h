@@ -24,8 +24,13 @@ public:
     Q_DISABLE_COPY_MOVE(Finestra)
 
     // The window's own text; it outlives unloading.
-    QString Tag() const { return m_tag; }
-    virtual void setTag(const QString &tag) { m_tag = tag; }
+    QString Tag() const { return m_tag.testo(); }
+    virtual void setTag(const QString &tag) { m_tag.imposta(tag); }
+    // From now on the Tag shows what an owner holds.
+    void mostraTag(TestoTag::Lettura lettura, TestoTag::Scrittura scrittura)
+    {
+        m_tag.mostra(std::move(lettura), std::move(scrittura));
+    }
     QString Caption() const { return windowTitle(); }
     void setCaption(const QString &testo) { setWindowTitle(testo); }
 
@@ -103,7 +108,7 @@ private:
     void riportaDavanti();
     void impostaPulsanti();
 
-    QString m_tag;
+    TestoTag m_tag;
     QString m_titolo;
     QSize m_misura;
     Pulsante *m_predefinito = nullptr;

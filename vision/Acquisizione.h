@@ -8,9 +8,6 @@
 class Acquisizione
 {
 public:
-    // At (1, 1) of a table that is no frame: the copy goes on.
-    static constexpr qint32 Prosegui = 100000000;
-
     // Begins anew; all in pixels of the frame, which is kept.
     void inizia(const Matrice &pixel, quint8 left, quint8 top, quint8 width, quint8 height);
 

@@ -55,10 +55,15 @@ void leggiModello(QByteArrayView record, qint32 W, qint32 H, Matrice &Modello)
     }
 }
 
+QByteArray inUnaRiga(QByteArray nome)
+{
+    return nome.replace('\r', ' ').replace('\n', ' ');
+}
+
 QByteArray aggiungiRecord(const QByteArray &s, const QByteArray &nome, const QByteArray &dati)
 {
     QByteArray testo = s;
     if (!testo.isEmpty())
         testo += '\r';
-    return testo + '"' + nome + "\"," + dati;
+    return testo + '"' + inUnaRiga(nome) + "\"," + dati;
 }

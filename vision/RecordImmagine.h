@@ -26,6 +26,9 @@ Misure misureImmagine(const QString &record);
 // is Matrice::FuoriIntervallo.
 void leggiModello(QByteArrayView record, qint32 W, qint32 H, Matrice &Modello);
 
+// The name as a record can hold it: line breaks, which end a record, become blanks.
+QByteArray inUnaRiga(QByteArray nome);
+
 // The file's new text: s, which is empty or ends in the last record, and one record more. dati is
 // the record without its name.
 QByteArray aggiungiRecord(const QByteArray &s, const QByteArray &nome, const QByteArray &dati);

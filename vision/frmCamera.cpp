@@ -1,20 +1,22 @@
-// The window's life, its mouse, and the road of a row.
 #include "frmCamera.h"
 
 #include "Mosaico.h"
 #include "Numeri.h"
 #include "Pompa.h"
+#include "RecordImmagine.h"
+#include "Tasti.h"
 
+#include <QKeyEvent>
 #include <QScreen>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto scalaAvvio = "10"_L1;
-// At the size of the first showing, 8 screen pixels for one of the frame, all of them to be seen.
+// At the size of the first showing, 8 screen pixels for one of the frame.
 constexpr int zoomIniziale = 8;
-constexpr int latoMirino = 11;
+// How far an arrow key goes with the control key.
+constexpr int passoLungo = 10;
 // More than any port holds back.
 constexpr int lettureMassime = 256;
 
@@ -30,14 +32,45 @@ frmCamera::frmCamera(const ControlliVideo &console, ::frmNomeImmagine &nomeImmag
       c(console),
       frmNomeImmagine(nomeImmagine)
 {
+    legaTag();
     disponi();
     Disegno();
-    frmNomeImmagine.impostaAcquisitore(this);
     Schermo.Resize.collega(this, &frmCamera::Schermo_Resize);
     Schermo.MouseDown.collega(this, &frmCamera::Schermo_MouseDown);
     Schermo.MouseMove.collega(this, &frmCamera::Schermo_MouseMove);
     Schermo.MouseUp.collega(this, &frmCamera::Schermo_MouseUp);
     Schermo.DblClick.collega(this, &frmCamera::Schermo_DblClick);
+}
+
+frmCamera::~frmCamera()
+{
+    c.BarraPulsanti.mostraTag({}, {});
+}
+
+// The texts under which the state is seen from outside. One that says nothing changes nothing.
+void frmCamera::legaTag()
+{
+    c.BarraPulsanti.mostraTag(
+        [this] { return m_video.richiesto() ? u"Camera"_s : QString(); },
+        [this](const QString &testo) { m_video.chiedi(testo == u"Camera"_s); });
+    mostraTag([this] { return QString::number(m_video.scala()); },
+              [this](const QString &testo) {
+                  passaErrori([&] { m_video.impostaScala(Numeri::Byte(testo)); });
+              });
+    Schermo.mostraTag([this] { return QString::number(m_video.zoom()); },
+                      [this](const QString &testo) {
+                          passaErrori([&] { m_video.impostaZoom(Numeri::Intero(testo)); });
+                      });
+    shpSelezione.mostraTag(
+        [this] { return m_selezione.mai() ? u"0"_s : Numeri::TestoLogico(m_selezione.finita()); },
+        [this](const QString &testo) {
+            passaErrori([&] {
+                if (Numeri::Logico(testo))
+                    m_selezione.finisci();
+                else
+                    m_selezione.lascia();
+            });
+        });
 }
 
 void frmCamera::disponi()
@@ -57,8 +90,6 @@ void frmCamera::disponi()
     Schermo.setFocusPolicy(Qt::StrongFocus);
 
     shpSelezione.setColori(QColor(255, 255, 255, 40), Qt::white);
-    shpMirino.setColori(Qt::transparent, Qt::white);
-    shpMirino.Size(latoMirino, latoMirino);
     shpImgRilevata.setColori(Qt::transparent, giallo);
     // The mouse goes through, as it does through the shapes.
     lblNomeImmagine.setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -72,40 +103,48 @@ void frmCamera::disponi()
 
     // Narrower, no zoom is left.
     setMinimumSize(Fotogramma::Colonne, Fotogramma::Righe);
-    resize((Fotogramma::Colonne + 1) * zoomIniziale, (Fotogramma::Righe + 1) * zoomIniziale);
+    // The first pixel lies at one zoom's distance from the corner; as much is left at the far
+    // sides.
+    resize((Fotogramma::Colonne + 2) * zoomIniziale, (Fotogramma::Righe + 2) * zoomIniziale);
 }
 
 void frmCamera::Disegno()
 {
-    setTag(u"0"_s);
-    Schermo.setTag(u"0"_s);
+    m_video.azzera();
+    m_selezione.azzera();
     Schermo.Pulisci();
     // Small, so that it takes the window's size, and its zoom, at the next showing.
     Schermo.resize(1, 1);
-    shpSelezione.setTag(u"0"_s);
     shpSelezione.hide();
     shpImgRilevata.hide();
     lblNomeImmagine.hide();
     lasciaMirino();
-    m_mirino = {};
+    shpMirino.azzera();
 }
 
 void frmCamera::Load()
 {
-    if (c.BarraPulsanti.Tag().isEmpty()) {
+    if (!m_video.richiesto()) {
         Scarica();
         return;
     }
+    // What is inside the frame is placed, as the frame is not known yet: being as wide on the left
+    // as on the right it stands in the middle, too.
     const QRect schermo = screen()->availableGeometry();
-    Move(Unita::unita(schermo.x()) + (Unita::unita(schermo.width()) - Width()) / 2,
-         Unita::unita(schermo.y() + schermo.height() / 12.0));
-    AvviaRicezione();
+    setGeometry(qMax(schermo.x(), schermo.x() + (schermo.width() - width()) / 2),
+                schermo.y() + schermo.height() / 12, width(), height());
+    AvviaRicezione(m_video.apri());
 }
 
 void frmCamera::Activate()
 {
-    if (!Numeri::Logico(Tag()))
-        Schermo.Stampa(u"Fallito"_s);
+    if (!m_video.acceso())
+        stampaFallito();
+}
+
+void frmCamera::stampaFallito()
+{
+    Schermo.Stampa(u"Fallito"_s);
 }
 
 void frmCamera::Resize()
@@ -114,34 +153,48 @@ void frmCamera::Resize()
         Schermo.resize(size());
 }
 
-void frmCamera::Unload(bool &)
+void frmCamera::Unload(bool &Cancel)
 {
-    // Nothing was begun where the window was shown without the toolbar.
-    if (c.BarraPulsanti.Tag().isEmpty())
+    switch (m_video.stato()) {
+    case Video::Stato::Chiuso:
+        // Shown without the toolbar: nothing was begun.
         return;
-    if (c.COM.PortOpen() && Numeri::Valore(Tag()) != 0) {
+    case Video::Stato::InChiusura:
+        // The line is being emptied, and the window goes when that is done.
+        Cancel = true;
+        return;
+    case Video::Stato::InAvvio:
+    case Video::Stato::Attivo:
+    case Video::Stato::Fallito:
+        break;
+    }
+    const bool inviava = m_video.chiudi();
+    if (c.COM.PortOpen() && inviava) {
         ComandiTessaro::FermaVideo(c.COM);
         c.BarraStato.setPanels(3, u"Video interrotto"_s);
         ComandiTessaro::RichiediStatoA(c.COM);
         ComandiTessaro::RichiediStatoB(c.COM);
     }
-    c.BarraPulsanti.setTag({});
+    m_video.chiedi(false);
     SvuotaRicezione();
+    // What was asked for meanwhile met a window on its way out.
+    m_video.chiedi(false);
 }
 
 void frmCamera::Schermo_Resize()
 {
-    if (!Numeri::Logico(Tag()))
+    if (!m_video.acceso())
         return;
     Schermo.Pulisci();
-    const int colonne = Numeri::Byte(Tag()) * 8;
-    Schermo.setTag(QString::number(Numeri::Lungo(Schermo.Width()) / (colonne * Unita::perPixel)));
+    m_video.misura(Schermo.width());
 }
 
 void frmCamera::Schermo_MouseDown(int, int, double X, double Y)
 {
     lasciaMirino();
-    if (!Numeri::Logico(Tag()) || frmNomeImmagine.Visible())
+    const bool disegna = m_video.acceso() && !nominando();
+    m_selezione.premi(disegna, nominando());
+    if (!disegna)
         return;
     shpSelezione.Move(X, Y);
     shpSelezione.Size(1, 1);
@@ -150,7 +203,7 @@ void frmCamera::Schermo_MouseDown(int, int, double X, double Y)
 
 void frmCamera::Schermo_MouseMove(int Button, int, double X, double Y)
 {
-    if (Button != 1 || !Numeri::Logico(Tag()) || frmNomeImmagine.Visible())
+    if (Button != 1 || !m_video.acceso() || nominando())
         return;
     passaErrori([&] { shpSelezione.setWidth(X - shpSelezione.Left()); });
     passaErrori([&] { shpSelezione.setHeight(Y - shpSelezione.Top()); });
@@ -158,25 +211,40 @@ void frmCamera::Schermo_MouseMove(int Button, int, double X, double Y)
 
 void frmCamera::Schermo_MouseUp()
 {
-    shpSelezione.setTag(Numeri::TestoLogico(true));
+    m_selezione.rilascia(nominando());
 }
 
 void frmCamera::Schermo_DblClick()
 {
+    const bool fallito = m_video.stato() == Video::Stato::Fallito;
+    const std::optional<Video::Avvio> avvio = m_video.riavvia();
+    if (!avvio)
+        return;
     ComandiTessaro::FermaVideo(c.COM);
     SvuotaRicezione();
-    AvviaRicezione();
-    shpSelezione.setTag(Numeri::TestoLogico(false));
+    if (m_video.abbandonato(*avvio))
+        return;
+    if (fallito)
+        Schermo.Pulisci();
+    AvviaRicezione(*avvio);
+    if (m_video.abbandonato(*avvio))
+        return;
+    if (fallito && m_video.stato() == Video::Stato::Fallito)
+        stampaFallito();
+    m_selezione.lascia();
     Schermo.update();
 }
 
-void frmCamera::AvviaRicezione()
+void frmCamera::AvviaRicezione(Video::Avvio avvio)
 {
-    setTag(scalaAvvio);
-    if (!ComandiTessaro::AvviaVideo(c.COM, Numeri::Byte(Tag()), 0, c.esito)) {
-        setTag(u"0"_s);
+    m_video.impostaScala(Video::ScalaDiAvvio);
+    // The surface may have got another size while there was no video.
+    if (m_video.misura(Schermo.width()))
+        Schermo.Pulisci();
+    const bool partito = ComandiTessaro::AvviaVideo(c.COM, m_video.scala(), 0, c.esito,
+                                                    [&] { return m_video.abbandonato(avvio); });
+    if (m_video.finisci(avvio, partito) && !partito)
         c.BarraStato.setPanels(3, {});
-    }
 }
 
 void frmCamera::SvuotaRicezione()
@@ -187,36 +255,28 @@ void frmCamera::SvuotaRicezione()
         }
     });
     c.tmrElabInput.accumulatore.svuota();
-    CalcolaRiga("Azzera");
+    ricominciaFotogramma();
     pompa();
 }
 
-bool frmCamera::cameraAperta() const
+void frmCamera::ricominciaFotogramma()
 {
-    return c.BarraPulsanti.Tag() == u"Camera"_s;
-}
-
-int frmCamera::zoom() const
-{
-    return Numeri::Intero(Schermo.Tag());
+    if (m_video.acceso() && Visible())
+        m_video.ricomincia();
 }
 
 void frmCamera::CalcolaRiga(const QByteArray &riga)
 {
-    if (!Numeri::Logico(Tag()) || !Visible())
+    if (!m_video.acceso() || !Visible())
         return;
-    if (riga == "Azzera") {
-        m_fotogramma.Riga = 0;
-        return;
-    }
     try {
-        if (!m_fotogramma.aggiungi(riga, Numeri::Byte(Tag())))
+        if (!m_video.aggiungi(riga))
             return;
         mostraFotogramma();
-        if (Numeri::Logico(shpSelezione.Tag()))
+        if (m_selezione.finita())
             PreparaAcquisizione();
         CercaImmagini();
-        m_fotogramma.Riga = 0;
+        m_video.ricomincia();
     } catch (const Errore &) {
         c.BarraStato.setPanels(
             3, u"Attenzione: errore nella visualizzazione delle immagini della videocamera!"_s);
@@ -226,6 +286,128 @@ void frmCamera::CalcolaRiga(const QByteArray &riga)
 void frmCamera::mostraFotogramma()
 {
     // The first box lies at one box's distance from the corner.
-    const int s = zoom();
-    Schermo.Dipingi({s, s}, mosaico(m_fotogramma.Pixel, Fotogramma::Colonne, Fotogramma::Righe, s));
+    const int s = m_video.zoom();
+    Schermo.Dipingi({s, s},
+                    mosaico(m_video.fotogramma().Pixel, Fotogramma::Colonne, Fotogramma::Righe, s));
+}
+
+void frmCamera::PreparaAcquisizione()
+{
+    m_selezione.lascia();
+    // What is being named already is not replaced.
+    if (nominando())
+        return;
+    shpSelezione.hide();
+    const QRectF scelta(shpSelezione.Left(), shpSelezione.Top(), shpSelezione.Width(),
+                        shpSelezione.Height());
+    frmNomeImmagine.nomina(m_video.fotogramma().Pixel, areaInFotogramma(scelta, m_video.zoom()),
+                           *this);
+    m_selezione.nomina();
+    lasciaMirino();
+}
+
+void frmCamera::CercaImmagini()
+{
+    try {
+        if (const auto trovata = cercaTraLeAttive(m_video.fotogramma().Pixel, c.lstImgCamera)) {
+            mostraTrovata(*trovata);
+            return;
+        }
+        shpImgRilevata.hide();
+        lblNomeImmagine.hide();
+    } catch (const Errore &) {
+        c.BarraStato.setPanels(3, u"Errore nella ricerca dell'immagine!"_s);
+    }
+}
+
+void frmCamera::mostraTrovata(const Trovata &trovata)
+{
+    const int s = m_video.zoom();
+    shpImgRilevata.Move(s * trovata.colonna, s * trovata.riga);
+    shpImgRilevata.Size(double(s) * trovata.W, double(s) * trovata.H);
+    shpImgRilevata.show();
+    QFont font = lblNomeImmagine.font();
+    font.setPointSize(qMax(1, s * 3));
+    lblNomeImmagine.setFont(font);
+    lblNomeImmagine.Move(shpImgRilevata.Left() - s,
+                         shpImgRilevata.Top() + shpImgRilevata.Height() - s);
+    lblNomeImmagine.setCaption(nomeImmagine(c.lstImgCamera.List(trovata.indice)));
+    lblNomeImmagine.adjustSize();
+    lblNomeImmagine.show();
+}
+
+// The picture by keyboard: what a mouse that presses, drags and lets go does on it.
+void frmCamera::keyPressEvent(QKeyEvent *evento)
+{
+    const int codice = Tasti::codice(*evento);
+    const int passo = evento->modifiers().testFlag(Qt::ControlModifier) ? passoLungo : 1;
+    const bool ripetuto = evento->isAutoRepeat();
+    switch (codice) {
+    case Tasti::Sinistra:
+        eseguiGestore([=, this] { muoviMirino(-passo, 0); });
+        break;
+    case Tasti::Destra:
+        eseguiGestore([=, this] { muoviMirino(passo, 0); });
+        break;
+    case Tasti::Su:
+        eseguiGestore([=, this] { muoviMirino(0, -passo); });
+        break;
+    case Tasti::Giu:
+        eseguiGestore([=, this] { muoviMirino(0, passo); });
+        break;
+    case Tasti::Spazio:
+        if (!ripetuto)
+            eseguiGestore([this] { spazio(); });
+        break;
+    case Tasti::Esc:
+        eseguiGestore([this] { lasciaSelezione(); });
+        break;
+    case Tasti::F5:
+        if (!ripetuto)
+            eseguiGestore([this] { Schermo_DblClick(); });
+        break;
+    default:
+        Finestra::keyPressEvent(evento);
+    }
+}
+
+// In pixels of the frame.
+void frmCamera::muoviMirino(int colonne, int righe)
+{
+    if (nominando())
+        return;
+    const int s = qMax(1, m_video.zoom());
+    shpMirino.sposta(QPoint(colonne, righe) * s);
+    if (m_traccia)
+        Schermo_MouseMove(1, 0, shpMirino.posto().x(), shpMirino.posto().y());
+}
+
+void frmCamera::spazio()
+{
+    if (nominando())
+        return;
+    if (m_traccia) {
+        lasciaMirino();
+        Schermo_MouseUp();
+        return;
+    }
+    shpMirino.sposta({});
+    Schermo_MouseDown(1, 0, shpMirino.posto().x(), shpMirino.posto().y());
+    m_traccia = shpSelezione.Visible();
+    shpMirino.show();
+}
+
+void frmCamera::lasciaSelezione()
+{
+    if (m_traccia) {
+        shpSelezione.hide();
+        m_selezione.interrompi();
+    }
+    lasciaMirino();
+}
+
+void frmCamera::lasciaMirino()
+{
+    m_traccia = false;
+    shpMirino.hide();
 }

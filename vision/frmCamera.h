@@ -1,41 +1,43 @@
 // The live picture of the robot's camera.
 #pragma once
 
-#include "Acquisitore.h"
-#include "Acquisizione.h"
 #include "Ascoltatori.h"
 #include "ControlliVideo.h"
 #include "Finestra.h"
-#include "Fotogramma.h"
 #include "InPixel.h"
+#include "Mirino.h"
+#include "RicercaAttive.h"
+#include "Selezione.h"
+#include "Video.h"
 #include "frmNomeImmagine.h"
 
 // Its Tag is the video scale: "10" while video runs, "0" where it could not be started.
-class frmCamera : public Finestra, public AscoltatoreVideo, public Acquisitore
+class frmCamera : public Finestra, public AscoltatoreVideo
 {
     Q_OBJECT
 
 public:
     frmCamera(const ControlliVideo &console, frmNomeImmagine &nomeImmagine);
+    ~frmCamera() override;
+    Q_DISABLE_COPY_MOVE(frmCamera)
 
-    // Whether the video window was asked for from the toolbar and is not closed yet.
-    bool cameraAperta() const override;
+    bool cameraAperta() const override { return m_video.richiesto(); }
     // Takes a row of 160 bytes, more being ignored; with the 60th one the frame is painted and
-    // searched. "Azzera" begins a new frame. Nothing where video does not run or the window is not
-    // visible. Failures are told in panel 3.
+    // searched. Nothing if video does not run or the window is not visible. Failures are told in
+    // panel 3.
     void CalcolaRiga(const QByteArray &riga) override;
-    void AcquisisciImmagine(const Matrice &matrice, quint8 left, quint8 top, quint8 width,
-                            quint8 height) override;
+    // The next row is a frame's first. Nothing in the same cases.
+    void ricominciaFotogramma();
 
     // The rows that came since the last frame, over that frame.
-    const Fotogramma &fotogramma() const { return m_fotogramma; }
+    const Fotogramma &fotogramma() const { return m_video.fotogramma(); }
 
     // Its Tag is the zoom: how many screen pixels one pixel of the frame occupies.
     Superficie Schermo;
     // Its Tag tells whether a finished selection waits for the next complete frame.
     FormaInPixel shpSelezione;
     // Where the keyboard points; to be seen only while it is used.
-    FormaInPixel shpMirino;
+    Mirino shpMirino;
     FormaInPixel shpImgRilevata;
     EtichettaInPixel lblNomeImmagine;
 
@@ -51,6 +53,7 @@ protected:
 
 private:
     void disponi();
+    void legaTag();
     void Schermo_Resize();
     void Schermo_MouseDown(int Button, int Shift, double X, double Y);
     void Schermo_MouseMove(int Button, int Shift, double X, double Y);
@@ -59,23 +62,23 @@ private:
 
     bool tasto(const QKeyEvent &evento);
     void muoviMirino(int colonne, int righe);
-    void mostraMirino();
     void spazio();
+    void lasciaSelezione();
     void lasciaMirino();
 
-    void AvviaRicezione();
+    void AvviaRicezione(Video::Avvio avvio);
     void SvuotaRicezione();
+    void stampaFallito();
     void mostraFotogramma();
     void PreparaAcquisizione();
     void CercaImmagini();
-    bool cercaTraLeAttive();
-    int zoom() const;
+    void mostraTrovata(const Trovata &trovata);
+    bool nominando() const { return frmNomeImmagine.Visible(); }
 
     ControlliVideo c;
     ::frmNomeImmagine &frmNomeImmagine;
-    Fotogramma m_fotogramma;
-    Acquisizione m_acquisizione;
-    // Where the keyboard points on Schermo, and whether it is drawing a selection.
-    QPoint m_mirino;
+    Video m_video;
+    Selezione m_selezione;
+    // Whether the keyboard is drawing the selection.
     bool m_traccia = false;
 };

@@ -1,8 +1,8 @@
 #include "frmNomeImmagine.h"
 
-#include "Acquisizione.h"
 #include "ArchivioImmagini.h"
 #include "Codifica.h"
+#include "Colore.h"
 #include "Fotogramma.h"
 #include "Gest_File.h"
 #include "Messaggi.h"
@@ -14,6 +14,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -30,6 +31,7 @@ frmNomeImmagine::frmNomeImmagine(frmImmaginiAcquisite &immagini)
       m_immagini(immagini)
 {
     tmrAcquisizione.setInterval(1);
+    setWindowFlag(Qt::Dialog);
     disponi();
     Disegno();
     txtNomeImmagine.KeyPress.collega(this, &frmNomeImmagine::txtNomeImmagine_KeyPress);
@@ -97,6 +99,36 @@ void frmNomeImmagine::Disegno()
     tmrAcquisizione.setEnabled(false);
 }
 
+void frmNomeImmagine::nomina(const Matrice &pixel, const Area &area, QWidget &padrona)
+{
+    imgAcquisita.Move(39 - area.width / 2, 29 - area.height / 2);
+    setTag(QString::number(area.width) + u',' + QString::number(area.height));
+    imgAcquisita.hide();
+    m_acquisizione.inizia(pixel, area.left, area.top, area.width, area.height);
+    AcquisisciImmagine();
+    winId();
+    windowHandle()->setTransientParent(padrona.window()->windowHandle());
+    Mostra();
+    // Also where the copy is complete already: the first tick then switches it off.
+    tmrAcquisizione.setEnabled(true);
+}
+
+void frmNomeImmagine::AcquisisciImmagine()
+{
+    QString record = Tag();
+    const bool finita = m_acquisizione.prosegui([&](int colonna, int riga, qint32 colore) {
+        imgAcquisita.Riempi({colonna, riga, 1, 1}, QColor(rgb(colore)));
+        record += u',' + QString::number(colore);
+    });
+    setTag(record);
+    if (!finita)
+        return;
+    tmrAcquisizione.setEnabled(false);
+    pulOK.setEnabled(true);
+    imgAcquisita.show();
+    lblAttesa.hide();
+}
+
 void frmNomeImmagine::Activate()
 {
     passaErrori([this] { txtNomeImmagine.SetFocus(); });
@@ -114,7 +146,7 @@ void frmNomeImmagine::pulOK_Click()
 {
     if (txtNomeImmagine.Text().isEmpty())
         return;
-    const QByteArray nome = Codifica::inByte(txtNomeImmagine.Text());
+    const QByteArray nome = inUnaRiga(Codifica::inByte(txtNomeImmagine.Text()));
     QByteArray s;
     bool leggibile = true;
     try {
@@ -143,7 +175,5 @@ void frmNomeImmagine::pulAnnulla_Click()
 
 void frmNomeImmagine::tmrAcquisizione_Timer()
 {
-    Matrice prosegui(1, 1);
-    prosegui(1, 1) = Acquisizione::Prosegui;
-    m_acquisitore->AcquisisciImmagine(prosegui, 0, 0, 0, 0);
+    AcquisisciImmagine();
 }

@@ -1,7 +1,8 @@
 // The dialog that names a selected area and stores it.
 #pragma once
 
-#include "Acquisitore.h"
+#include "Acquisizione.h"
+#include "Area.h"
 #include "CasellaTesto.h"
 #include "Finestra.h"
 #include "InPixel.h"
@@ -16,7 +17,10 @@ class frmNomeImmagine : public Finestra
 public:
     explicit frmNomeImmagine(frmImmaginiAcquisite &immagini);
 
-    void impostaAcquisitore(Acquisitore *acquisitore) { m_acquisitore = acquisitore; }
+    // Begins to copy an area of the frame, and shows the dialog while the copy goes on. It belongs
+    // to that window: it is always in front of it, but the window stays usable. If a pixel lies
+    // outside the frame it fails with Matrice::FuoriIntervallo, and there is no dialog.
+    void nomina(const Matrice &pixel, const Area &area, QWidget &padrona);
 
     // As large as a frame; imgAcquisita lies on it.
     Superficie areaImmagine;
@@ -34,11 +38,12 @@ protected:
 
 private:
     void disponi();
+    void AcquisisciImmagine();
     void txtNomeImmagine_KeyPress(int &KeyAscii);
     void pulOK_Click();
     void pulAnnulla_Click();
     void tmrAcquisizione_Timer();
 
     frmImmaginiAcquisite &m_immagini;
-    Acquisitore *m_acquisitore = nullptr;
+    Acquisizione m_acquisizione;
 };

@@ -25,7 +25,7 @@ struct EsitoFinto : EsitoVideo
     std::function<void()> durante;
 
     void mostraMessaggio(const QString &testo) override { registro << testo; }
-    void MostraInvio(const QString &testo) override
+    void MostraInvio(const QString &testo, const Abbandono &) override
     {
         registro << u"MostraInvio "_s + testo;
         if (durante)
@@ -132,6 +132,24 @@ TEST(AvviaVideo, IsFalseWhereTheUserDisconnectsBetweenItsSteps)
     EXPECT_EQ(seriale.porta.scritti(), b({10, 1, 128, 0}));
     EXPECT_EQ(esito.registro.last(), u"Richiesta partenza del video"_s);
     EXPECT_EQ(messaggi.visti().size(), 1);
+}
+
+TEST(AvviaVideo, GivenUpInAWaitItSendsAndTellsNothingMore)
+{
+    for (const int attesa : {1, 2}) {
+        SerialeFinto seriale;
+        seriale.apri();
+        const RispondiMessaggi messaggi;
+        EsitoFinto esito;
+        int attese = 0;
+        esito.durante = [&] { ++attese; };
+        EXPECT_FALSE(
+            ComandiTessaro::AvviaVideo(seriale.COM, 5, 0, esito, [&] { return attese >= attesa; }));
+        EXPECT_EQ(seriale.porta.scritti(),
+                  attesa == 1 ? b({10, 5, 128, 0}) : b({10, 5, 128, 0, 11, 160, 0}));
+        EXPECT_EQ(esito.registro.size(), attesa == 1 ? 2 : 4);
+        EXPECT_TRUE(messaggi.visti().isEmpty());
+    }
 }
 
 TEST(AvviaVideo, AFailingPieceEndsItWithFalse)

@@ -157,13 +157,17 @@ TEST_F(ControlloTest, a_further_button_does_not_take_the_click_away)
     EXPECT_EQ(click, 1);
 }
 
-TEST_F(ControlloTest, a_tag_that_is_written_is_reported)
+TEST_F(ControlloTest, a_tag_that_shows_an_owner_is_read_from_it_and_written_to_it)
 {
-    QStringList visti;
-    controllo.TagScritto.collega([&](const QString &tag) { visti << tag; });
+    QString stato = u"primo"_s;
+    controllo.mostraTag([&] { return stato; }, [&](const QString &testo) { stato = testo; });
+    EXPECT_EQ(controllo.Tag(), u"primo"_s);
     controllo.setTag(u"SI"_s);
+    EXPECT_EQ(stato, u"SI"_s);
     EXPECT_TRUE(controllo.setProperty("Tag", u"NO"_s));
-    EXPECT_EQ(visti, (QStringList{u"SI"_s, u"NO"_s}));
+    EXPECT_EQ(stato, u"NO"_s);
+    stato = u"altro"_s;
+    EXPECT_EQ(controllo.property("Tag").toString(), u"altro"_s);
 }
 
 TEST_F(ControlloTest, disabled_it_gets_no_mouse_events)

@@ -244,3 +244,21 @@ TEST(StoreOf50Megabytes, IsReadAndTheVideoGoesOn)
     EXPECT_EQ(banco.camera.lblNomeImmagine.Caption(), u"Pallone"_s);
     EXPECT_TRUE(banco.camera.shpImgRilevata.Visible());
 }
+
+TEST(CercaImmaginiGuaste, BehindARecordThatALineBreakHasSplitTheOthersAreFound)
+{
+    const QImage scena = immagineACaso(21);
+    BancoSuPortaFinta banco("\"Nessuna\",2,1,77,88\r\"Pal\rla\",1,1,6\r" +
+                            record("Tazza", scena, {5, 5, 6, 4}));
+    Elenco &lstImgCamera = banco.console.lstImgCamera;
+    ASSERT_EQ(lstImgCamera.ListCount(), 4);
+    banco.apriCamera();
+    // The spoilt half is the one that the start makes active: the video goes on all the same.
+    banco.manda(scena);
+    EXPECT_EQ(banco.camera.fotogramma().Riga, 0);
+    lstImgCamera.setItemData(1, 0);
+    lstImgCamera.setItemData(3, 1);
+    banco.manda(scena);
+    EXPECT_TRUE(banco.camera.shpImgRilevata.Visible());
+    EXPECT_EQ(banco.camera.lblNomeImmagine.Caption(), u"Tazza"_s);
+}

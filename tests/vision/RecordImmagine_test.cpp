@@ -176,6 +176,11 @@ TEST(NomeDoppio, ATextWithoutQuotationMarksIsComparedFromItsStart)
     EXPECT_FALSE(nomeDoppio("P", "Pallone"));
 }
 
+TEST(AggiungiRecord, ALineBreakInANameBecomesABlank)
+{
+    EXPECT_EQ(aggiungiRecord({}, "Pal\rla\nros\r\nsa", "1,1,5"), "\"Pal la ros  sa\",1,1,5");
+}
+
 class FileImmagini : public testing::Test
 {
 protected:
@@ -215,4 +220,24 @@ TEST_F(FileImmagini, AnEmptyFileHasNoRecord)
 TEST_F(FileImmagini, AMissingFileIsToldAsSuch)
 {
     EXPECT_EQ(erroreDi([] { leggiRecord(0); }), Errore::FileNonTrovato);
+}
+
+TEST_F(FileImmagini, EveryLineEndEndsARecord)
+{
+    scrivi("\"a\",1,1,5\r\"b\",1,1,6\r\n\"c\",1,1,7\n\"d\",1,1,8\r\n");
+    EXPECT_EQ(leggiRecord(1), "\"b\",1,1,6");
+    EXPECT_EQ(leggiRecord(2), "\"c\",1,1,7");
+    EXPECT_EQ(leggiRecord(3), "\"d\",1,1,8");
+    EXPECT_EQ(erroreDi([] { leggiRecord(4); }), Errore::FineDelFile);
+}
+
+TEST_F(FileImmagini, ARecordThatALineBreakHasSplitIsReadAsFarAsItGoes)
+{
+    scrivi("\"a\",1,1,5\r\"Pal\rla\",1,1,6\r\"c\",1,1,7");
+    EXPECT_EQ(leggiRecord(0), "\"a\",1,1,5");
+    const QString meta = QString::fromLatin1(leggiRecord(1));
+    EXPECT_EQ(nomeImmagine(meta), QString());
+    EXPECT_EQ(misureImmagine(meta).W, 0);
+    EXPECT_EQ(leggiRecord(2), "la\",1,1,6");
+    EXPECT_EQ(leggiRecord(3), "\"c\",1,1,7");
 }

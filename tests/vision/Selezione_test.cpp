@@ -6,6 +6,7 @@
 #include "Scritte.h"
 
 #include <QTest>
+#include <QWindow>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <iostream>
@@ -246,19 +247,127 @@ TEST_F(Selezione, BehindTheLastColumnThereIsNothingToTake)
     EXPECT_FALSE(nome.tmrAcquisizione.Enabled());
 }
 
-TEST_F(Selezione, DragsAreIgnoredWhileTheDialogIsThereButReleasesCount)
+TEST_F(Selezione, WhileTheDialogIsThereNothingOnThePictureReplacesWhatIsNamed)
 {
     trascina({100, 100}, {150, 190});
     banco.manda(immagine);
     finisci();
-    trascina({300, 300}, {400, 400});
+    const QString prima = nome.Tag();
+    const std::vector<std::function<void()>> atti{
+        [this] {
+            QTest::mouseClick(&Schermo, Qt::LeftButton, {}, {300, 300});
+        },
+        [this] {
+            QTest::mouseClick(&Schermo, Qt::RightButton, {}, {300, 300});
+        },
+        [this] {
+            trascina({300, 300}, {400, 400});
+        },
+        [this] {
+            QTest::mouseDClick(&Schermo, Qt::LeftButton, {}, {300, 300});
+        },
+        [this] {
+            QWheelEvent giro(QPointF(300, 300), QPointF(300, 300), {}, {0, 120}, Qt::NoButton, {},
+                             Qt::NoScrollPhase, false);
+            QApplication::sendEvent(&Schermo, &giro);
+        },
+        [this] {
+            portaTasti();
+            for (const int tasto : {Qt::Key_Left, Qt::Key_Space, Qt::Key_Right, Qt::Key_Down,
+                                    Qt::Key_Space, Qt::Key_F5})
+                QTest::keyClick(&Schermo, static_cast<Qt::Key>(tasto));
+        },
+        [this] { camera.resize(410, 320); },
+        // Nor does it come from outside.
+        [this] { shpSelezione.setTag(u"True"_s); },
+    };
+    for (size_t i = 0; i < atti.size(); ++i) {
+        atti[i]();
+        EXPECT_FALSE(shpSelezione.Visible()) << i;
+        EXPECT_FALSE(camera.shpMirino.Visible()) << i;
+        EXPECT_EQ(rettangolo(), QRectF(100, 100, 50, 90)) << i;
+        banco.manda(immaginePiena(0x000000));
+        gira(20);
+        EXPECT_TRUE(nome.Visible()) << i;
+        EXPECT_EQ(nome.Tag(), prima) << i;
+        EXPECT_TRUE(nome.imgAcquisita.Visible()) << i;
+        EXPECT_EQ(nome.imgAcquisita.Left(), 37) << i;
+        EXPECT_EQ(shpSelezione.Tag(), u"False"_s) << i;
+    }
+    // Nor is anything of it left when the dialog is gone.
+    nome.Scarica();
+    banco.manda(immagine);
+    EXPECT_FALSE(nome.Visible());
+}
+
+TEST_F(Selezione, AClickUnderTheDialogIsNoneWhenTheDialogIsGoneBeforeTheNextFrame)
+{
+    trascina({100, 100}, {150, 190});
+    banco.manda(immagine);
+    finisci();
+    QTest::mouseClick(&Schermo, Qt::LeftButton, {}, {300, 300});
+    nome.Scarica();
+    banco.manda(immagine);
+    EXPECT_FALSE(nome.Visible());
+    EXPECT_EQ(shpSelezione.Tag(), u"False"_s);
+}
+
+TEST_F(Selezione, APressUnderTheDialogIsNoneEvenIfItsReleaseComesLater)
+{
+    trascina({100, 100}, {150, 190});
+    banco.manda(immagine);
+    finisci();
+    QTest::mousePress(&Schermo, Qt::LeftButton, {}, {300, 300});
+    nome.Scarica();
+    QTest::mouseRelease(&Schermo, Qt::LeftButton, {}, {300, 300});
+    banco.manda(immagine);
+    EXPECT_FALSE(nome.Visible());
+    // The next one is one again.
+    trascina({100, 200}, {160, 290});
+    banco.manda(immagine);
+    finisci();
+    EXPECT_EQ(nome.Tag(), record(6, 9, 11, 21, 6, 9));
+}
+
+TEST_F(Selezione, ADragThatTheDialogInterruptsComesToNothing)
+{
+    trascina({100, 100}, {150, 190});
+    QTest::mousePress(&Schermo, Qt::LeftButton, {}, {300, 300});
+    muovi({400, 400});
+    banco.manda(immagine);
+    finisci();
     EXPECT_FALSE(shpSelezione.Visible());
-    EXPECT_EQ(rettangolo(), QRectF(100, 100, 50, 90));
-    EXPECT_EQ(shpSelezione.Tag(), u"True"_s);
-    // So the same area is taken anew from the next frame.
-    banco.manda(immaginePiena(0x000000));
-    ASSERT_TRUE(aspetta([this] { return !nome.tmrAcquisizione.Enabled(); }));
-    EXPECT_EQ(nome.Tag(), u"5,9"_s + u",0"_s.repeated(45));
+    nome.Scarica();
+    QTest::mouseRelease(&Schermo, Qt::LeftButton, {}, {420, 420});
+    banco.manda(immagine);
+    EXPECT_FALSE(nome.Visible());
+}
+
+TEST_F(Selezione, WhatTheKeyboardDrawsWhileTheDialogComesComesToNothing)
+{
+    portaTasti();
+    trascina({100, 100}, {150, 190});
+    QTest::keyClick(&Schermo, Qt::Key_Space);
+    QTest::keyClick(&Schermo, Qt::Key_Right);
+    banco.manda(immagine);
+    finisci();
+    EXPECT_FALSE(camera.shpMirino.Visible());
+    nome.Scarica();
+    portaTasti();
+    QTest::keyClick(&Schermo, Qt::Key_Right);
+    EXPECT_FALSE(shpSelezione.Visible());
+    banco.manda(immagine);
+    EXPECT_FALSE(nome.Visible());
+}
+
+TEST_F(Selezione, TheDialogStaysInFrontOfTheCamera)
+{
+    trascina({100, 100}, {150, 190});
+    banco.manda(immagine);
+    ASSERT_TRUE(nome.Visible());
+    EXPECT_EQ(nome.windowHandle()->transientParent(), camera.windowHandle());
+    EXPECT_EQ(nome.windowType(), Qt::Dialog);
+    EXPECT_EQ(nome.windowModality(), Qt::NonModal);
 }
 
 TEST_F(Selezione, WithoutVideoNoRectangleAppears)

@@ -51,12 +51,64 @@ TEST_F(Camera, TheToolbarOpensItAndStartsTheVideo)
     EXPECT_TRUE(vuoto(Schermo));
 }
 
-TEST_F(Camera, StandsInTheMiddleOfTheScreensWidth)
+TEST_F(Camera, StandsWithItsFrameInTheMiddleOfTheScreensWidth)
+{
+    for (int volta = 0; volta < 2; ++volta) {
+        if (volta == 0)
+            banco.apriCamera();
+        else
+            banco.premi(3);
+        const QRect schermo = camera.screen()->availableGeometry();
+        EXPECT_NEAR(camera.frameGeometry().center().x(), schermo.center().x(), 1);
+        EXPECT_TRUE(schermo.contains(camera.frameGeometry()));
+        // Moved away and closed it stands there again.
+        camera.move(3, 3);
+        camera.close();
+    }
+}
+
+TEST_F(Camera, AtItsFirstSizeTheBandAroundThePictureIsTheSameOnAllSides)
 {
     banco.apriCamera();
-    const QRect schermo = camera.screen()->availableGeometry();
-    // The frame around it is not known yet when it takes its place.
-    EXPECT_NEAR(camera.geometry().center().x(), schermo.center().x(), 8);
+    EXPECT_EQ(Schermo.Tag(), u"8"_s);
+    banco.manda(immaginePiena(0xFFFFFF));
+    const QImage visto = disegno(Schermo);
+    QRect dipinto;
+    for (int y = 0; y < visto.height(); ++y)
+        for (int x = 0; x < visto.width(); ++x)
+            if (qAlpha(visto.pixel(x, y)) != 0)
+                dipinto |= QRect(x, y, 1, 1);
+    const int banda = qRound(8 * visto.devicePixelRatio());
+    EXPECT_EQ(dipinto, visto.rect().adjusted(banda, banda, -banda, -banda));
+}
+
+TEST_F(Camera, AZoomThatIsNoneIsLeftOut)
+{
+    banco.apriCamera();
+    for (const auto *testo : {u"99999", u"-99999"}) {
+        Schermo.setTag(QString::fromUtf16(testo));
+        EXPECT_EQ(Schermo.Tag(), u"8"_s);
+        QTest::keyClick(&Schermo, Qt::Key_Left);
+    }
+    Schermo.setTag(u"3"_s);
+    EXPECT_EQ(Schermo.Tag(), u"3"_s);
+}
+
+TEST_F(Camera, WhatIsWrittenIntoTheTagsHolds)
+{
+    banco.apriCamera();
+    camera.setProperty("Tag", u"0"_s);
+    EXPECT_EQ(camera.property("Tag"), u"0"_s);
+    banco.mandaRighe(immagineACaso(1), 0, 3);
+    EXPECT_EQ(camera.fotogramma().Riga, 0);
+    camera.setProperty("Tag", u"10"_s);
+    banco.console.BarraPulsanti.setProperty("Tag", QString());
+    banco.mandaRighe(immagineACaso(1), 0, 3);
+    EXPECT_EQ(camera.fotogramma().Riga, 0);
+    banco.console.BarraPulsanti.setProperty("Tag", u"Camera"_s);
+    EXPECT_EQ(banco.console.BarraPulsanti.property("Tag"), u"Camera"_s);
+    banco.mandaRighe(immagineACaso(1), 0, 3);
+    EXPECT_EQ(camera.fotogramma().Riga, 4);
 }
 
 TEST_F(Camera, ShownWithoutTheToolbarItGoesAwayAtOnceAndTouchesNothing)
@@ -299,19 +351,19 @@ TEST_F(Camera, ARestartThatFailsLeavesTheVideoOff)
     EXPECT_EQ(camera.fotogramma().Riga, 0);
 }
 
-TEST_F(Camera, AzzeraIsNotHeardWhileVideoIsOffOrTheWindowHidden)
+TEST_F(Camera, NoNewFrameBeginsWhileVideoIsOffOrTheWindowHidden)
 {
     banco.apriCamera();
     banco.mandaRighe(immagineACaso(1), 0, 6);
     camera.Nascondi();
-    camera.CalcolaRiga("Azzera");
+    camera.ricominciaFotogramma();
     EXPECT_EQ(camera.fotogramma().Riga, 7);
     camera.Mostra();
     camera.setTag(u"0"_s);
-    camera.CalcolaRiga("Azzera");
+    camera.ricominciaFotogramma();
     EXPECT_EQ(camera.fotogramma().Riga, 7);
     camera.setTag(u"10"_s);
-    camera.CalcolaRiga("Azzera");
+    camera.ricominciaFotogramma();
     EXPECT_EQ(camera.fotogramma().Riga, 0);
 }
 

@@ -181,6 +181,33 @@ TEST_F(NomeImmagine, ALongerNameThanTheStoredOneIsTaken)
     EXPECT_EQ(file(), "\"Pallone\",2,1,5,6\r\"Pallone1\",2,1,5,6");
 }
 
+TEST_F(NomeImmagine, ANameWithALineBreakIsStoredInOneLine)
+{
+    // Whatever the box lets through.
+    const QSignalBlocker zitta(nome.txtNomeImmagine);
+    for (const auto *testo : {u"Pal\rla", u"Taz\nza", u"Me\r\nla"})
+        ok(QString::fromUtf16(testo));
+    const QByteArrayList righe = file().split('\r');
+    ASSERT_EQ(righe.size(), 3);
+    for (const QByteArray &riga : righe) {
+        EXPECT_TRUE(riga.startsWith('"') && riga.endsWith("\",2,1,5,6")) << riga.toStdString();
+        EXPECT_FALSE(riga.contains('\n'));
+    }
+    RispondiMessaggi risposte;
+    ok(u"Pal\rla"_s);
+    EXPECT_EQ(risposte.testi(), QStringList(u"Il nome esiste già!"_s));
+    EXPECT_EQ(file().count('\r'), 2);
+}
+
+TEST_F(NomeImmagine, AFileThatALineBreakHasSpoiltKeepsAllThatItHolds)
+{
+    const QByteArray guasto = "\"a\",1,1,5\r\"Pal\rla\",1,1,6\r\"c\",1,1,7";
+    banco.cartella.scrivi(u"Immagini.dat"_s, guasto);
+    ok(u"Tazza"_s);
+    EXPECT_FALSE(nome.Visible());
+    EXPECT_EQ(file(), guasto + "\r\"Tazza\",2,1,5,6");
+}
+
 TEST_F(NomeImmagine, OnAFullDiskTheOldFileSurvivesInSilence)
 {
     if (!DiscoPieno::possibile())
