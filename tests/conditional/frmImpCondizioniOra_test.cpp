@@ -25,10 +25,11 @@ protected:
     }
     void esci() { tasto(Qt::Key_Tab); }
     // A key held for that many repeats, each going to whatever has the focus then; not let go yet.
-    void tieni(Qt::Key quale, int ripetizioni)
+    void tieni(Qt::Key quale, int ripetizioni, bool giaPremuto = false)
     {
         for (int i = 0; i <= ripetizioni; ++i) {
-            QKeyEvent evento(QEvent::KeyPress, quale, Qt::NoModifier, QString(), i > 0);
+            const bool ripetuto = giaPremuto || i > 0;
+            QKeyEvent evento(QEvent::KeyPress, quale, Qt::NoModifier, QString(), ripetuto);
             QWidget *dove = dialogo.focusWidget();
             QApplication::sendEvent(dove ? dove : &dialogo, &evento);
         }
@@ -281,7 +282,7 @@ TEST_F(FrmImpCondizioniOra, AKeyThatIsHeldInAComboGoesThroughItsRowsAndNothingEl
         const int prima = caso.combo.ListIndex();
         tieni(Qt::Key_Up, 2);
         EXPECT_EQ(caso.combo.ListIndex(), prima - 3);
-        tieni(Qt::Key_Up, 45);
+        tieni(Qt::Key_Up, 45, true);
         EXPECT_EQ(caso.combo.ListIndex(), 0) << "and stays there";
         lascia(Qt::Key_Up);
         EXPECT_THAT(attivi(), ElementsAre(caso.pannello));
