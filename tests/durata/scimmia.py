@@ -115,7 +115,8 @@ class Scimmia:
         self.caso = self.p.caso = self.u.caso = random.Random(seme)
         self.p.dettagli(f"monkey round, seed {seme}")
         self.prepara()
-        fine = min(fine, time.monotonic() + self.caso.uniform(*DURATA))
+        # Learning the looks may have taken what time there was.
+        fine = max(min(fine, time.monotonic() + self.caso.uniform(*DURATA)), time.monotonic() + 30)
         while time.monotonic() < fine:
             self.robot_passo()
             self.vigila()
