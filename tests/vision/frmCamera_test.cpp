@@ -85,8 +85,8 @@ TEST_F(Camera, AtItsFirstSizeTheBandAroundThePictureIsTheSameOnAllSides)
 TEST_F(Camera, AZoomThatIsNoneIsLeftOut)
 {
     banco.apriCamera();
-    for (const auto *testo : {u"99999", u"-99999"}) {
-        Schermo.setTag(QString::fromUtf16(testo));
+    for (const QString &testo : {u"99999"_s, u"-99999"_s}) {
+        Schermo.setTag(testo);
         EXPECT_EQ(Schermo.Tag(), u"8"_s);
         QTest::keyClick(&Schermo, Qt::Key_Left);
     }
