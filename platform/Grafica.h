@@ -42,7 +42,8 @@ public:
     virtual std::optional<bool> spunta() const { return {}; }
 };
 
-// Adds a Click on the left button's release inside, after MouseUp.
+// Adds a Click on the left button's release inside, after MouseUp. The second press of a double
+// click raises MouseDown, but no second Click: who clicks twice means it once.
 template <class Base>
 class Cliccabile : public Controllo<Base>, public Azionabile
 {
@@ -52,6 +53,9 @@ public:
         dichiaraAzionabili();
     }
     Evento<> Click;
+
+    // From now on the second press of a double click gives a Click of its own.
+    void conDoppioClick() { m_conDoppio = true; }
 
     bool prendeClick() const override
     {
@@ -69,7 +73,9 @@ public:
 protected:
     void mousePressEvent(QMouseEvent *evento) override
     {
-        m_premuto = evento->button() == Qt::LeftButton;
+        // The second press of a double click comes here, too.
+        const bool secondo = evento->type() == QEvent::MouseButtonDblClick;
+        m_premuto = evento->button() == Qt::LeftButton && (!secondo || m_conDoppio);
         Controllo<Base>::mousePressEvent(evento);
     }
     void mouseReleaseEvent(QMouseEvent *evento) override
@@ -85,6 +91,7 @@ protected:
 
 private:
     bool m_premuto = false;
+    bool m_conDoppio = false;
 };
 
 class Etichetta : public Cliccabile<QLabel>
