@@ -52,8 +52,8 @@ struct ArchivioTest : ::testing::Test
     void diTutti(const QString &nome, const QByteArray &byte)
     {
         contenuto(nome, byte);
-        QFile::setPermissions(nome, QFile::permissions(nome) | QFile::WriteOwner |
-                                        QFile::ReadOther | QFile::WriteOther);
+        QFile::setPermissions(nome, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup |
+                                        QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther);
     }
 
     QString prima;
@@ -395,7 +395,7 @@ TEST_F(ArchivioTest, a_file_that_can_neither_be_replaced_nor_written_is_error_75
     if (!SenzaDiritti::possibile())
         GTEST_SKIP() << "folders have no rights here";
     contenuto(u"prova.dat"_s, "old");
-    QFile::setPermissions(u"prova.dat"_s, QFile::ReadOwner | QFile::ReadOther);
+    QFile::setPermissions(u"prova.dat"_s, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
     {
         const SenzaDiritti chiusa(cartella.path());
         EXPECT_EQ(scrivi(u"prova.dat"_s, "new"), Errore::AccessoNegato);
