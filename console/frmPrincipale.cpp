@@ -6,6 +6,7 @@
 #include "Codifica.h"
 #include "Collocazione.h"
 #include "FileProgDat.h"
+#include "ListaMosse.h"
 #include "Messaggi.h"
 #include "Numeri.h"
 #include "Pompa.h"
@@ -188,10 +189,7 @@ bool frmPrincipale::ListaAttiva() const
 
 void frmPrincipale::AggiungiMossa(const QString &riga)
 {
-    Elenco &lstMosse = *m_finestre.lstMosse;
-    lstMosse.AddItem(riga, lstMosse.ListIndex() + 1);
-    lstMosse.setListIndex(lstMosse.ListIndex() + 1);
-    lstMosse.setTag(Numeri::TestoLogico(false));
+    ListaMosse(*m_finestre.lstMosse).inserisci(riga);
 }
 
 void frmPrincipale::RidaiFuoco()

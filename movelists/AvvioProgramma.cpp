@@ -1,5 +1,7 @@
 #include "AvvioProgramma.h"
 
+#include "Cartella.h"
+
 #include <QFileInfo>
 #include <QProcess>
 
@@ -7,16 +9,43 @@
 #include <qt_windows.h>
 #endif
 
-QStringList programmaEArgomenti(const QString &testo)
+using namespace Qt::StringLiterals;
+
+// The program of that name in the program's folder; empty if there is none, or if the name has a
+// folder of its own.
+static QString nellaCartella(const QString &nome, const QString &cartella)
 {
-    if (QFileInfo(testo).isFile())
-        return {testo};
-    return QProcess::splitCommand(testo);
+    if (nome.isEmpty() || nomeDelFile(nome) != nome)
+        return {};
+    QStringList nomi{nome};
+#ifdef Q_OS_WIN
+    nomi += nome + u".exe"_s;
+#endif
+    for (const QString &cercato : nomi) {
+        const QFileInfo file(conSeparatore(cartella) + cercato);
+        if (file.isFile() && file.isExecutable())
+            return file.absoluteFilePath();
+    }
+    return {};
 }
 
-bool avviaProgramma(const QString &testo)
+QStringList programmaEArgomenti(const QString &testo, const QString &cartella)
 {
-    QStringList parole = programmaEArgomenti(testo);
+    if (const QString intero = nellaCartella(testo, cartella); !intero.isEmpty())
+        return {intero};
+    if (QFileInfo(testo).isFile())
+        return {testo};
+    QStringList parole = QProcess::splitCommand(testo);
+    if (!parole.isEmpty()) {
+        if (const QString primo = nellaCartella(parole.constFirst(), cartella); !primo.isEmpty())
+            parole.first() = primo;
+    }
+    return parole;
+}
+
+bool avviaProgramma(const QString &testo, const QString &cartella)
+{
+    QStringList parole = programmaEArgomenti(testo, cartella);
     if (parole.isEmpty() || parole.constFirst().isEmpty())
         return false;
     QProcess processo;

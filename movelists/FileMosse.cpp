@@ -2,10 +2,16 @@
 
 #include "Archivio.h"
 #include "Codifica.h"
-#include "Errore.h"
 #include "Numeri.h"
 
+using namespace Qt::StringLiterals;
+
 namespace FileMosse {
+
+Errore listaPiena()
+{
+    return Errore(Errore::Overflow, u"Una lista ha al massimo %1 comandi"_s.arg(righeMassime));
+}
 
 QByteArray scritto(const QStringList &righe)
 {
@@ -17,11 +23,16 @@ QByteArray scritto(const QStringList &righe)
 
 void leggi(int numero, const std::function<void(const QString &)> &aggiungi)
 {
-    const qint16 ultima = Numeri::Intero(Archivio::leggiNumero(numero));
+    // The count is a field like the lines: in quotes it is read without them, and an empty first
+    // line is 0.
+    const double conteggio = Numeri::Valore(Archivio::leggiCampo(numero));
+    if (conteggio > righeMassime)
+        throw listaPiena();
+    const qint16 ultima = Numeri::Intero(conteggio);
     for (int i = 0; i <= ultima; ++i) {
         const QByteArray campo = Archivio::leggiCampo(numero);
         if (i == righeMassime)
-            throw Errore(Errore::Overflow);
+            throw listaPiena();
         aggiungi(Codifica::daByte(campo));
     }
 }

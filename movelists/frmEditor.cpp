@@ -9,6 +9,7 @@
 #include "Tasti.h"
 
 #include <QDir>
+#include <QWindow>
 
 frmEditor::frmEditor(ConsoleEditor &console, const Orologio &orologio, const QString &cartella)
     : Finestra(u"frmEditor"_s, u"Sequor"_s),
@@ -33,11 +34,14 @@ void frmEditor::collegaGestori()
     imgVigilio.Click.collega(this, &frmEditor::imgVigilio_Click);
     lstMosse.KeyDown.collega(this, &frmEditor::lstMosse_KeyDown);
     lstMosse.MouseDown.collega([this](int, int, double, double) { lstMosse_MouseDown(); });
+    lstMosse.viewport()->installEventFilter(this);
     lstMosse.MouseMove.collega(
         [this](int Button, int, double, double) { lstMosse_MouseMove(Button); });
 
     pulCanc.Click.collega(this, &frmEditor::pulCanc_Click);
-    // The second half of a double click is a Click of its own.
+    // A double click moves a line by two places.
+    pulSu.conDoppioClick();
+    pulGiu.conDoppioClick();
     pulSu.Click.collega(this, &frmEditor::pulSu_Click);
     pulGiu.Click.collega(this, &frmEditor::pulGiu_Click);
     pulPausa.Click.collega([this] {
@@ -207,6 +211,22 @@ void frmEditor::lstMosse_MouseDown()
     // The row may have been deleted since it was run.
     passaErrori([this] { lstMosse.setListIndex(Numeri::Intero(pulEsegui.Tag())); });
     passaErrori([this] { pulEsegui.SetFocus(); });
+}
+
+bool frmEditor::eventFilter(QObject *oggetto, QEvent *evento)
+{
+    if (evento->type() == QEvent::Expose && oggetto == windowHandle() && m_daRivedere &&
+        windowHandle()->isExposed()) {
+        m_daRivedere = false;
+        rientra();
+    }
+    // Of a double click the list gets no second MouseDown, though it gets the focus once more.
+    if (evento->type() == QEvent::MouseButtonDblClick && oggetto == lstMosse.viewport() &&
+        tmrEseguiMosse.Enabled()) {
+        eseguiGestore([this] { lstMosse_MouseDown(); });
+        return true;
+    }
+    return Finestra::eventFilter(oggetto, evento);
 }
 
 void frmEditor::lstMosse_MouseMove(int Button)

@@ -87,6 +87,9 @@ protected:
     void Unload(bool &Cancel) override;
     void MouseMove() override;
 
+    bool eventFilter(QObject *oggetto, QEvent *evento) override;
+    void showEvent(QShowEvent *evento) override;
+
 private:
     // A picture button with the numbers of its two pictures.
     struct Disegnato
@@ -102,6 +105,9 @@ private:
     void collegaGestori();
     void collegaMenu();
     void colloca();
+    // On the screen, the frame included.
+    void metti(const QRect &conCornice);
+    void rientra();
 
     bool ChiediSalvataggio();
     bool ListaVuota(bool mostra);
@@ -136,6 +142,8 @@ private:
     QString m_cartella;
     VigilioEditor *m_vigilio = nullptr;
     CameraEditor *m_camera = nullptr;
+    // The window was shown, and has not been seen yet.
+    bool m_daRivedere = false;
     std::array<Disegnato, 6> m_disegnati{{{&pulCanc, 1, 7},
                                           {&pulPausa, 2, 8},
                                           {&pulSu, 3, 9},

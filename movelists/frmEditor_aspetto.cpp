@@ -1,11 +1,15 @@
 // How the window looks, and its design values.
+#include "PostoAccanto.h"
 #include "RigaTagliata.h"
 #include "frmEditor.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QScreen>
+#include <QShowEvent>
 #include <QVBoxLayout>
+#include <QWindow>
 
 namespace {
 
@@ -32,6 +36,8 @@ void frmEditor::disponi()
     mnuFileSalvacome.setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
 
     lstMosse.setItemDelegate(new RigaTagliata(&lstMosse));
+    // What tells one long line from the next stands at its ends: "Programma", and the program.
+    lstMosse.setTextElideMode(Qt::ElideMiddle);
     lstMosse.setAccessibleName(u"Lista delle mosse"_s);
     // A long name must not widen the window: its tool tip has it whole.
     lblFile.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -110,6 +116,30 @@ void frmEditor::Disegno()
     normali();
 }
 
+// What the window system puts around a window. It tells only when a window is shown: before that,
+// what it has put around another one holds.
+static QMargins cornice(const QWidget &finestra)
+{
+    const auto sua = [](const QWidget &quale) {
+        return quale.windowHandle() ? quale.windowHandle()->frameMargins() : QMargins();
+    };
+    if (const QMargins propria = sua(finestra); !propria.isNull())
+        return propria;
+    for (const QWidget *altra : QApplication::topLevelWidgets()) {
+        if (altra->isVisible() && qobject_cast<const Finestra *>(altra) && !sua(*altra).isNull())
+            return sua(*altra);
+    }
+    return {};
+}
+
+static QList<QRect> schermi()
+{
+    QList<QRect> liberi;
+    for (const QScreen *schermo : QGuiApplication::screens())
+        liberi += schermo->availableGeometry();
+    return liberi;
+}
+
 void frmEditor::colloca()
 {
     constexpr double distanza = 200;
@@ -118,16 +148,39 @@ void frmEditor::colloca()
     // Wide letters widen the window when it is shown: what stands beside it is reckoned with that.
     ensurePolished();
     layout()->activate();
-    Move(console.Left + console.Width + distanza, console.Top - piuInAlto);
-    // A console at the right edge of the last screen leaves no place beside it, and the user could
-    // never reach the window there.
-    const QScreen *suo = screen();
-    if (suo->virtualGeometry().intersects(frameGeometry()))
+    metti(postoAccanto(
+        {Unita::pixel(console.Left), Unita::pixel(console.Top), Unita::pixel(console.Width), 1},
+        size().grownBy(cornice(*this)), {Unita::pixel(distanza), Unita::pixel(piuInAlto)},
+        schermi()));
+}
+
+void frmEditor::metti(const QRect &conCornice)
+{
+    const QMargins bordi = cornice(*this);
+    if (windowHandle()) {
+        setGeometry(conCornice.marginsRemoved(bordi));
+    } else {
+        resize(conCornice.size().shrunkBy(bordi));
+        move(conCornice.topLeft());
+    }
+}
+
+// The screen on which the window was may be gone by the time the console brings it back, and its
+// own frame is known only now.
+void frmEditor::rientra()
+{
+    if (WindowState() != 0)
         return;
-    const QRect libero = suo->availableGeometry();
-    const int aSinistra = Unita::pixel(console.Left - distanza) - frameGeometry().width();
-    move(aSinistra >= libero.left()
-             ? aSinistra
-             : libero.right() - Unita::pixel(distanza) - frameGeometry().width(),
-         qBound(libero.top(), y(), qMax(libero.top(), libero.bottom() + 1 - height())));
+    const QRect conCornice = geometry().marginsAdded(cornice(*this));
+    if (const QRect visibile = riportata(conCornice, schermi()); visibile != conCornice)
+        metti(visibile);
+}
+
+void frmEditor::showEvent(QShowEvent *evento)
+{
+    Finestra::showEvent(evento);
+    if (evento->spontaneous())
+        return;
+    m_daRivedere = true;
+    windowHandle()->installEventFilter(this);
 }

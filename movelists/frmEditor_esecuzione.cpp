@@ -74,7 +74,7 @@ void frmEditor::tmrEseguiMosse_Timer()
     if (mossa.specie == Mossa::Specie::Camera && m_camera)
         passaErrori([this] { m_camera->mostra(); });
     if (mossa.specie == Mossa::Specie::Programma)
-        avviaProgramma(mossa.programma);
+        avviaProgramma(mossa.programma, m_cartella);
     // Refused, the default stands.
     if (mossa.attesa)
         passaErrori([&] { tmrEseguiMosse.setInterval(*mossa.attesa); });

@@ -4,6 +4,8 @@
 #include "Archivio.h"
 #include "Cartella.h"
 #include "FileMosse.h"
+#include "Gest_File.h"
+#include "ListaMosse.h"
 #include "Messaggi.h"
 #include "Numeri.h"
 #include "VisErrori.h"
@@ -77,7 +79,8 @@ void frmEditor::ApriLista(const QString &percorso)
     lstMosse.Clear();
     // A failure leaves the file open: the next one to use its number is told so.
     Archivio::apri(1, percorso, Archivio::Modo::Lettura);
-    FileMosse::leggi(1, [this](const QString &riga) { lstMosse.AddItem(riga); });
+    ListaMosse lista(lstMosse);
+    FileMosse::leggi(1, [&lista](const QString &riga) { lista.accoda(riga); });
     Archivio::chiudi();
     lblFile.setCaption(nomeDelFile(percorso));
     lstMosse.setTag(Numeri::TestoLogico(true));
@@ -95,12 +98,7 @@ void frmEditor::mnuFileSalva_Click()
     for (int i = 0; i < lstMosse.ListCount(); ++i)
         righe += lstMosse.List(i);
     // No failure is told; a file that cannot be written whole stays as it was.
-    const bool scritto =
-        passaErrori([&] { Archivio::apri(1, Finestre.FileName(), Archivio::Modo::Scrittura); }) &&
-        passaErrori([&] { Archivio::stampa(1, FileMosse::scritto(righe)); });
-    if (scritto)
-        passaErrori([] { Archivio::chiudi(); });
-    else
+    if (!passaErrori([&] { ScriviFile(Finestre.FileName(), FileMosse::scritto(righe)); }))
         Archivio::abbandona();
     lblFile.setCaption(nomeDelFile(Finestre.FileName()));
     lstMosse.setTag(Numeri::TestoLogico(true));

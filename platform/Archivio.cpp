@@ -2,11 +2,10 @@
 
 #include "Errore.h"
 #include "Numeri.h"
+#include "Scrittura.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
-#include <filesystem>
 #include <map>
 #include <memory>
 
@@ -20,9 +19,7 @@ struct FileAperto
     QByteArray contenuto;
     qsizetype letti = 0;
     // Writing.
-    std::unique_ptr<QSaveFile> uscita;
-    // Where the written file goes at the end, if it is written under another name until then.
-    QString definitivo;
+    std::unique_ptr<Scrittura> uscita;
 };
 
 std::map<int, FileAperto> aperti;
@@ -66,38 +63,9 @@ FileAperto perScrittura(const QString &nome)
 {
     if (!QFileInfo(nome).dir().exists())
         throw Errore(Errore::PercorsoNonTrovato);
-    // What is not whole yet lies beside the old file, under a name that is longer by so many bytes.
-    constexpr qsizetype aggiunta = 7;
-    constexpr qsizetype nomeMassimo = 255;
-    const QFileInfo info(nome);
-    const bool lungo = QFile::encodeName(info.fileName()).size() > nomeMassimo - aggiunta;
-    if (lungo && info.exists() && (info.isDir() || !info.isWritable()))
-        throw Errore(Errore::AccessoNegato);
     FileAperto aperto;
-    aperto.definitivo = lungo ? nome : QString();
-    aperto.uscita =
-        std::make_unique<QSaveFile>(lungo ? info.dir().filePath(u"salvataggio.tmp"_s) : nome);
-    if (!aperto.uscita->open(QIODevice::WriteOnly))
-        throw Errore(Errore::AccessoNegato);
+    aperto.uscita = std::make_unique<Scrittura>(nome);
     return aperto;
-}
-
-// 0, or the number of the error that kept the old file where it was.
-int conferma(FileAperto &file)
-{
-    // A commit does not notice that the last bytes could not be written.
-    if (!file.uscita->flush() || !file.uscita->commit())
-        return file.uscita->error() == QFileDevice::PermissionsError ? Errore::AccessoNegato
-                                                                     : Errore::DiscoPieno;
-    if (file.definitivo.isEmpty())
-        return 0;
-    std::error_code errore;
-    std::filesystem::rename(QFileInfo(file.uscita->fileName()).filesystemFilePath(),
-                            QFileInfo(file.definitivo).filesystemFilePath(), errore);
-    if (!errore)
-        return 0;
-    QFile::remove(file.uscita->fileName());
-    return Errore::AccessoNegato;
 }
 
 bool bianco(char c)
@@ -160,8 +128,12 @@ void chiudi()
 {
     int errore = 0;
     for (auto &[numero, file] : aperti) {
-        if (const int proprio = file.uscita ? conferma(file) : 0; proprio != 0)
-            errore = proprio;
+        try {
+            if (file.uscita)
+                file.uscita->conferma();
+        } catch (const Errore &proprio) {
+            errore = proprio.numero();
+        }
     }
     aperti.clear();
     if (errore != 0)
@@ -249,8 +221,7 @@ void stampa(int numero, const QByteArray &byte)
     FileAperto &f = file(numero);
     if (!f.uscita)
         throw Errore(Errore::FileNonAperto);
-    if (f.uscita->write(byte) != byte.size())
-        throw Errore(Errore::DiscoPieno);
+    f.uscita->aggiungi(byte);
 }
 
 } // namespace Archivio

@@ -13,8 +13,9 @@ enum class Modo { Lettura, Scrittura };
 // directory, and one file there whatever the case of its letters, as on Windows.
 void apri(int numero, const QString &nome, Modo modo);
 
-// Closes all files. What was written takes the place of the file that was there only now, whole;
-// where that fails (Errore::DiscoPieno, AccessoNegato) the old file stays as it was.
+// Closes all files. What was written takes the place of the file that was there only now, whole
+// (Scrittura says how); if that fails (Errore::DiscoPieno, AccessoNegato) the old file stays as it
+// was.
 void chiudi();
 // Closes all files and drops what was written since they were opened.
 void abbandona();

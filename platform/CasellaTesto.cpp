@@ -24,6 +24,15 @@ CasellaTesto::~CasellaTesto()
     disconnect(qApp, nullptr, this, nullptr);
 }
 
+void CasellaTesto::setText(const QString &testo)
+{
+    if (testo == text())
+        return;
+    const qsizetype dallaFine = text().size() - cursorPosition();
+    QLineEdit::setText(testo);
+    setCursorPosition(static_cast<int>(qMax<qsizetype>(0, text().size() - dallaFine)));
+}
+
 QString CasellaTesto::filtrato(const QString &battuto)
 {
     QString passati;

@@ -16,6 +16,8 @@ public:
     ~CasellaTesto() override;
 
     QString Text() const { return text(); }
+    // The caret stays where the user types: as far from the text's end as it was.
+    void setText(const QString &testo);
 
     // Whenever the text changes, by the user or by code.
     Evento<> Change;

@@ -41,8 +41,9 @@ bool SenzaDiritti::possibile()
 
 SenzaDiritti::SenzaDiritti(const QString &cartella) : m_cartella(cartella)
 {
-    QFile::setPermissions(m_cartella,
-                          QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
+    // Root's group stays this process' own.
+    QFile::setPermissions(m_cartella, QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup |
+                                          QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
     if (::geteuid() == 0)
         m_eraRoot = ::seteuid(65534) == 0;
 }

@@ -1,5 +1,7 @@
 #include "Banco.h"
 
+#include "ListaMosse.h"
+
 #include <QLineEdit>
 #include <gtest/gtest.h>
 #include <utility>
@@ -13,9 +15,7 @@ ControlloSeriale &ConsoleFinta::COM()
 
 void ConsoleFinta::AggiungiMossa(const QString &riga)
 {
-    lstMosse->AddItem(riga, lstMosse->ListIndex() + 1);
-    lstMosse->setListIndex(lstMosse->ListIndex() + 1);
-    lstMosse->setTag(u"False"_s);
+    ListaMosse(*lstMosse).inserisci(riga);
 }
 
 void ConsoleFinta::nota(const QString &testo)
@@ -91,6 +91,13 @@ void Banco::clicca(QWidget &controllo, std::optional<QPoint> dove)
     const QPoint punto = controllo.mapTo(&editor, dove.value_or(controllo.rect().center()));
     QTest::mousePress(editor.windowHandle(), Qt::LeftButton, {}, punto);
     QTest::mouseRelease(editor.windowHandle(), Qt::LeftButton, {}, punto);
+}
+
+void Banco::cliccaDueVolte(QWidget &controllo, std::optional<QPoint> dove, Qt::MouseButton pulsante)
+{
+    // Through the window, as the system gives it: the focus goes along.
+    QTest::mouseDClick(editor.windowHandle(), pulsante, {},
+                       controllo.mapTo(&editor, dove.value_or(controllo.rect().center())));
 }
 
 void Banco::muovi(QWidget &controllo, std::optional<QPoint> dove)

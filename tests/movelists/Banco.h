@@ -127,6 +127,9 @@ public:
     QStringList righe() const;
     // A click of the mouse on a control, through the window.
     void clicca(QWidget &controllo, std::optional<QPoint> dove = {});
+    // Two presses so close together that the second one comes as a double click.
+    void cliccaDueVolte(QWidget &controllo, std::optional<QPoint> dove = {},
+                        Qt::MouseButton pulsante = Qt::LeftButton);
     void muovi(QWidget &controllo, std::optional<QPoint> dove = {});
     // Where a row of the list lies, in its window.
     QPoint posto(int riga) const;

@@ -2,6 +2,7 @@
 #include "Attesa.h"
 #include "CartellaDiProva.h"
 #include "ComandiTessaro.h"
+#include "Modali.h"
 #include "PortaAsio.h"
 #include "Scritte.h"
 #include "Simulatore.h"
@@ -158,6 +159,19 @@ TEST_F(CorsaTest, ARunEndsWhenTheConsoleDisconnects)
     aspettaFine();
     EXPECT_EQ(editor.pulEsegui.Caption(), u"ESEGUI"_s);
     EXPECT_TRUE(robot.diario().comandi().isEmpty());
+}
+
+TEST_F(CorsaTest, TheConsoleCannotOverfillTheOpenList)
+{
+    editor.Mostra();
+    for (int i = 0; i < 32767; ++i)
+        editor.lstMosse.AddItem(u"Stop"_s);
+    const RispondiMessaggi messaggi;
+    principale.AggiungiMossa(u"Foto"_s);
+    EXPECT_EQ(messaggi.testi(), QStringList{u"Una lista ha al massimo 32767 comandi"_s});
+    EXPECT_EQ(editor.lstMosse.ListCount(), 32767);
+    EXPECT_EQ(editor.lstMosse.ListIndex(), -1);
+    EXPECT_EQ(editor.lstMosse.Tag(), u"True"_s);
 }
 
 TEST_F(CorsaTest, TheConsoleWritesIntoTheOpenListAndSendsNothing)

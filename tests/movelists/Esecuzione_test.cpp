@@ -396,6 +396,35 @@ TEST_F(EsecuzioneTest, MovingLinesDuringARunIsTaken)
     EXPECT_EQ(mandati(), QList<QByteArray>{fermo});
 }
 
+TEST_F(EsecuzioneTest, ADoublePressInTheRunningListLeavesTheRunAlone)
+{
+    console.accelera = false;
+    avvia({u"Pausa 60000"_s, u"Foto"_s, u"Stop"_s});
+    aspettaRighe(1);
+    const QWidget &vista = *lista.viewport();
+    const QPoint sottoLeRighe(vista.width() / 2, vista.height() - 3);
+    for (const Qt::MouseButton pulsante : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+        for (const QPoint dove : {lista.visualItemRect(lista.item(2)).center(),
+                                  lista.visualItemRect(lista.item(0)).center(), sottoLeRighe}) {
+            editor.opzInsComandi.setFocus();
+            cliccaDueVolte(*lista.viewport(), dove, pulsante);
+            EXPECT_EQ(lista.ListIndex(), 0) << pulsante;
+            EXPECT_TRUE(editor.pulEsegui.hasFocus()) << pulsante;
+            QTest::keyClick(editor.windowHandle(), Qt::Key_Down);
+            EXPECT_EQ(lista.ListIndex(), 0) << pulsante;
+        }
+    }
+    EXPECT_TRUE(timer.Enabled());
+}
+
+TEST_F(EsecuzioneTest, ADoubleClickInAListAtRestKeepsTheFocusThere)
+{
+    riempi({u"Foto"_s, u"Stop"_s});
+    cliccaDueVolte(*lista.viewport(), lista.visualItemRect(lista.item(1)).center());
+    EXPECT_EQ(lista.ListIndex(), 1);
+    EXPECT_TRUE(lista.hasFocus());
+}
+
 TEST_F(EsecuzioneTest, DeletingAllLinesLeavesTheRunStuckUntilOneComes)
 {
     console.accelera = false;
@@ -460,6 +489,13 @@ TEST_F(EsecuzioneTest, TheRunnerStopsWhenNoListIsLeftToIt)
     aspettaFine();
     EXPECT_EQ(vigilio.fermato, 1);
     EXPECT_EQ(editor.imgVigilio.Picture(), 3);
+}
+
+TEST_F(EsecuzioneTest, ABareNameStartsTheProgramInTheProgramsFolder)
+{
+    programmaDiProva(cartella, u"gioco.exe"_s);
+    EXPECT_EQ(corsa({u"Programma gioco.exe"_s, u"Stop"_s}), QList<QByteArray>{fermo});
+    EXPECT_TRUE(aspetta([&] { return programmaFinito(cartella); }));
 }
 
 TEST_F(EsecuzioneTest, AStartLooksAfterTheRunnerToo)

@@ -160,7 +160,21 @@ TEST_F(FileMosseTest, AFractionInTheCountIsRoundedHalfToEven)
 TEST_F(FileMosseTest, AnEmptyFileFails)
 {
     EXPECT_EQ(leggi("").errore, Errore::FineDelFile);
-    EXPECT_EQ(leggi("  \r\n \r\n").errore, Errore::FineDelFile);
+    EXPECT_EQ(leggi("  ").errore, Errore::FineDelFile);
+}
+
+TEST_F(FileMosseTest, ACountInQuotesIsThatCount)
+{
+    EXPECT_EQ(righe("\" 1 \"\r\nFoto\r\nStop\r\nCiao\r\n"), (QStringList{u"Foto"_s, u"Stop"_s}));
+    EXPECT_EQ(righe("\"0\",Foto,Stop"), QStringList{u"Foto"_s});
+}
+
+TEST_F(FileMosseTest, AnEmptyFirstLineIsTheCountZero)
+{
+    EXPECT_EQ(righe("\r\nFoto\r\nStop\r\n"), QStringList{u"Foto"_s});
+    EXPECT_EQ(righe(",Foto"), QStringList{u"Foto"_s});
+    EXPECT_EQ(righe("  \r\n \r\n"), QStringList{u""_s});
+    EXPECT_EQ(leggi("\r\n").errore, Errore::FineDelFile);
 }
 
 TEST_F(FileMosseTest, ALineBeyondTheListsLimitFails)

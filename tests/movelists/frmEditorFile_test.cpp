@@ -157,6 +157,27 @@ TEST_F(EditorFileTest, AFullDiskLeavesTheOldFileAsItWas)
     EXPECT_EQ(cartella.leggi(u"vecchia.sqm"_s).size(), 8 + 5000 * 15);
 }
 
+TEST_F(EditorFileTest, AFolderThatTakesNoNewFilesKeepsNoListFromItsFile)
+{
+    if (!SenzaDiritti::possibile())
+        GTEST_SKIP() << "folders have no rights here";
+    mostra();
+    const RispondiMessaggi messaggi;
+    cartella.scrivi(u"lista.sqm"_s, " 1 \r\nFoto\r\nAvanti veloce\r\n");
+    QFile::setPermissions(cartella.percorso(u"lista.sqm"_s),
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup |
+                              QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther);
+    riempi({u"Stop"_s});
+    editor.Finestre.setFileName(cartella.percorso(u"lista.sqm"_s));
+    {
+        const SenzaDiritti chiusa(cartella.percorso());
+        editor.mnuFileSalva.trigger();
+    }
+    EXPECT_EQ(cartella.leggi(u"lista.sqm"_s), " 0 \r\nStop\r\n");
+    EXPECT_EQ(cartella.elenco(), QStringList{u"lista.sqm"_s});
+    EXPECT_TRUE(messaggi.visti().isEmpty());
+}
+
 TEST_F(EditorFileTest, AFileWithoutRightsIsNotOpenedAndIsTold)
 {
     if (!permessiContano())
@@ -396,6 +417,22 @@ TEST_F(EditorFileTest, TheLongestListIsLoadedAndShown)
     editor.Finestre.setFileName(cartella.percorso(u"copia.sqm"_s));
     editor.mnuFileSalva.trigger();
     EXPECT_EQ(cartella.leggi(u"copia.sqm"_s), file);
+}
+
+TEST_F(EditorFileTest, AFileOfTooManyLinesIsToldClearlyAndFillsTheList)
+{
+    mostra();
+    const RispondiMessaggi messaggi;
+    for (const QByteArray &conteggio : {QByteArray(" 32767 "), QByteArray(" 40000 ")}) {
+        cartella.scrivi(u"troppo.sqm"_s,
+                        conteggio + "\r\n" + QByteArray("Stop\r\n").repeated(40001));
+        const RispondiFile utente(cartella.percorso(u"troppo.sqm"_s));
+        editor.mnuFileApri.trigger();
+        Archivio::abbandona();
+    }
+    ASSERT_EQ(messaggi.testi(), (QStringList{u"Una lista ha al massimo 32767 comandi"_s,
+                                             u"Una lista ha al massimo 32767 comandi"_s}));
+    EXPECT_EQ(messaggi.visti()[0].icona, QMessageBox::Critical);
 }
 
 TEST_F(EditorFileTest, AHugeLineIsShownWithoutHarm)

@@ -2,7 +2,13 @@
 #include "Banco.h"
 #include "Contrasto.h"
 
+#include <QAccessible>
+#include <QHelpEvent>
 #include <QMenu>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTextDocumentFragment>
+#include <QToolTip>
 #include <gmock/gmock.h>
 
 namespace {
@@ -77,6 +83,47 @@ TEST_F(FrmEditorTest, StandsOnTheOtherSideWhereTheConsoleIsFlushWithTheScreensEd
     EXPECT_LT(editor.frameGeometry().right(), sinistra);
 }
 
+TEST_F(FrmEditorTest, IsWhollyOnTheScreenWhereverTheConsoleStands)
+{
+    const QRect schermo = editor.screen()->availableGeometry();
+    const int larga = 300;
+    for (const int x : {-larga, -larga / 2, 0, schermo.width() / 2, schermo.width() - larga,
+                        schermo.width() - larga / 2, schermo.width() - 3, schermo.width() + 500}) {
+        for (const int y : {-500, -40, 0, 100, schermo.height() - 50, schermo.height() + 300}) {
+            console.dove = {Unita::unita(x), Unita::unita(y), Unita::unita(larga)};
+            editor.Mostra();
+            EXPECT_TRUE(aspetta([&] { return schermo.contains(editor.frameGeometry()); }))
+                << x << ' ' << y << ": " << editor.frameGeometry().x() << ' '
+                << editor.frameGeometry().y() << ' ' << editor.frameGeometry().width() << ' '
+                << editor.frameGeometry().height();
+            editor.Scarica();
+        }
+    }
+}
+
+TEST_F(FrmEditorTest, ComesBackWhollyOntoTheScreenAfterTheConsoleHidIt)
+{
+    const QRect schermo = editor.screen()->availableGeometry();
+    mostra();
+    editor.move(schermo.width() - 20, 100);
+    editor.Nascondi();
+    editor.Mostra();
+    EXPECT_TRUE(aspetta([&] { return schermo.contains(editor.frameGeometry()); }));
+}
+
+TEST_F(FrmEditorTest, StaysAtItsPlaceWhenTheConsoleHidIt)
+{
+    mostra();
+    editor.move(40, 60);
+    const QRect prima = editor.geometry();
+    for (int i = 0; i < 3; ++i) {
+        editor.Nascondi();
+        editor.Mostra();
+        gira(20);
+    }
+    EXPECT_EQ(editor.geometry(), prima);
+}
+
 TEST_F(FrmEditorTest, TheMenusStandInTheirOrder)
 {
     const auto voci = [](const QMenu *menu) {
@@ -149,6 +196,28 @@ TEST_F(FrmEditorTest, ADialogGivesTheLineOfItsMode)
     EXPECT_EQ(righe(),
               (QStringList{u"Pausa 250"_s, u"Pausa 3000"_s, u"Frase 14"_s, u"Suono 16"_s,
                            u"Ripeti all'infinito"_s, u"Ripeti 1 volta"_s, u"Ripeti 5 volte"_s}));
+}
+
+TEST_F(FrmEditorTest, AFullListTakesNoLineAndSaysSo)
+{
+    mostra();
+    riempi(QStringList(32766, u"Stop"_s));
+    lista.setListIndex(3);
+    const RispondiMessaggi messaggi;
+    editor.mnuInsCamera.trigger();
+    EXPECT_EQ(lista.ListCount(), 32767);
+    EXPECT_TRUE(messaggi.visti().isEmpty());
+    lista.setTag(u"True"_s);
+    editor.mnuInsTSu.trigger();
+    conValore([this] { editor.mnuInsPausa.trigger(); }, [](frmValore &v) { scrivi(v, u"250"_s); });
+    EXPECT_EQ(lista.ListCount(), 32767);
+    EXPECT_EQ(lista.ListIndex(), 4);
+    EXPECT_EQ(lista.Text(), u"Camera"_s);
+    EXPECT_EQ(lista.Tag(), u"True"_s);
+    ASSERT_EQ(messaggi.visti().size(), 2);
+    EXPECT_EQ(messaggi.visti()[0].testo, u"Una lista ha al massimo 32767 comandi"_s);
+    EXPECT_EQ(messaggi.visti()[0].titolo, u"Sequor"_s);
+    EXPECT_EQ(messaggi.visti()[0].icona, QMessageBox::Information);
 }
 
 TEST_F(FrmEditorTest, ADialogThatIsClosedGivesNoLine)
@@ -240,25 +309,31 @@ TEST_F(FrmEditorTest, ADoubleClickMovesByTwoPlaces)
 {
     mostra();
     riempi({u"A"_s, u"B"_s, u"C"_s, u"D"_s, u"E"_s});
-    const auto doppio = [&](Immagine &pulsante) {
-        // As the window system gives it: the second press comes as a double click.
-        const QPoint punto = pulsante.rect().center();
-        for (const QEvent::Type tipo : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
-                                        QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
-            const bool premuto = tipo != QEvent::MouseButtonRelease;
-            QMouseEvent evento(tipo, punto, pulsante.mapToGlobal(punto), Qt::LeftButton,
-                               premuto ? Qt::LeftButton : Qt::NoButton, {});
-            QCoreApplication::sendEvent(&pulsante, &evento);
-        }
-    };
     lista.setListIndex(0);
-    doppio(editor.pulGiu);
+    cliccaDueVolte(editor.pulGiu);
     EXPECT_EQ(righe(), (QStringList{u"B"_s, u"C"_s, u"A"_s, u"D"_s, u"E"_s}));
     EXPECT_EQ(lista.ListIndex(), 2);
     lista.setListIndex(4);
-    doppio(editor.pulSu);
+    cliccaDueVolte(editor.pulSu);
     EXPECT_EQ(righe(), (QStringList{u"B"_s, u"C"_s, u"E"_s, u"A"_s, u"D"_s}));
     EXPECT_EQ(lista.ListIndex(), 2);
+}
+
+TEST_F(FrmEditorTest, ADoubleClickDeletesOneLine)
+{
+    mostra();
+    riempi({u"A"_s, u"B"_s, u"C"_s, u"D"_s});
+    lista.setListIndex(1);
+    cliccaDueVolte(editor.pulCanc);
+    EXPECT_EQ(righe(), (QStringList{u"A"_s, u"C"_s, u"D"_s}));
+    EXPECT_EQ(lista.ListIndex(), 1);
+}
+
+TEST_F(FrmEditorTest, ADoubleClickOpensTheRunnerOnce)
+{
+    mostra();
+    cliccaDueVolte(editor.imgVigilio);
+    EXPECT_EQ(vigilio.mostrato, 1);
 }
 
 TEST_F(FrmEditorTest, AtTheEndsNothingMoves)
@@ -416,6 +491,46 @@ TEST_F(FrmEditorTest, ALineOfAHundredThousandCharactersIsShownAndKept)
     lista.setListIndex(49);
     clicca(editor.pulSu);
     EXPECT_EQ(lista.ListIndex(), 48);
+}
+
+TEST_F(FrmEditorTest, ALineThatIsCutIsReadWholeInItsToolTip)
+{
+    mostra();
+    const QString lunga = u"Programma C:\\Programmi\\"_s +
+                          u"una <b>cartella</b> & un nome molto lungo\\"_s.repeated(8) +
+                          u"gioco.exe"_s;
+    riempi({u"Stop"_s, lunga, u"Foto"_s});
+    // The list stays as wide as it is, whatever stands in its first line.
+    lista.AddItem(lunga, 0);
+    gira(20);
+    EXPECT_FALSE(lista.horizontalScrollBar()->isVisible());
+    const auto suggerimento = [&](int riga) {
+        const QPoint dove = lista.visualItemRect(lista.item(riga)).center();
+        QHelpEvent evento(QEvent::ToolTip, dove, lista.viewport()->mapToGlobal(dove));
+        QCoreApplication::sendEvent(lista.viewport(), &evento);
+        return QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText().remove(u'\n');
+    };
+    EXPECT_EQ(suggerimento(0), lunga);
+    for (const QWidget *finestra : QApplication::topLevelWidgets()) {
+        if (finestra->inherits("QTipLabel")) {
+            EXPECT_LE(finestra->width(), editor.screen()->availableGeometry().width());
+        }
+    }
+    EXPECT_EQ(suggerimento(2), lunga);
+    QToolTip::hideText();
+    EXPECT_TRUE(aspetta([] { return !QToolTip::isVisible(); }));
+    EXPECT_EQ(suggerimento(1), QString());
+    EXPECT_EQ(suggerimento(3), QString());
+}
+
+TEST_F(FrmEditorTest, AScreenReaderReadsALongLineWhole)
+{
+    mostra();
+    const QString lunga(3000, u'x');
+    riempi({u"Stop"_s, lunga});
+    QAccessibleInterface *voce = QAccessible::queryAccessibleInterface(&lista)->child(1);
+    ASSERT_TRUE(voce);
+    EXPECT_EQ(voce->text(QAccessible::Name), lunga);
 }
 
 TEST_F(FrmEditorTest, EverythingIsFoundByItsName)

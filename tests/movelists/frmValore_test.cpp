@@ -180,6 +180,35 @@ TEST_F(FrmValoreTest, AnEmptiedNumberSelectsNothingAndStaysEmpty)
     }
 }
 
+TEST_F(FrmValoreTest, TypingInTheMiddleKeepsItsPlace)
+{
+    for (const QString &modo : {u"Frase"_s, u"Ripeti"_s, u"Pausa"_s}) {
+        conDialogo(modo, [&] {
+            scrivi(u"5"_s);
+            QTest::keyClick(&m_dialogo->txtValore, Qt::Key_Home);
+            QTest::keyClicks(&m_dialogo->txtValore, u"12"_s);
+            EXPECT_EQ(testo(), u"125"_s) << modo.toStdString();
+        });
+    }
+}
+
+TEST_F(FrmValoreTest, ANumberThatTheListPutsRightKeepsTheCaretsPlace)
+{
+    conDialogo(u"Frase"_s, [&] {
+        // The row of 15 is chosen at the second digit, and gives the number without its zero.
+        scrivi(u"05"_s);
+        QTest::keyClick(&m_dialogo->txtValore, Qt::Key_Left);
+        QTest::keyClicks(&m_dialogo->txtValore, u"1"_s);
+        EXPECT_EQ(testo(), u"15"_s);
+        QTest::keyClicks(&m_dialogo->txtValore, u"2"_s);
+        EXPECT_EQ(testo(), u"125"_s);
+        QTest::keyClick(&m_dialogo->txtValore, Qt::Key_Backspace);
+        EXPECT_EQ(testo(), u"15"_s);
+        QTest::keyClicks(&m_dialogo->txtValore, u"3"_s);
+        EXPECT_EQ(testo(), u"135"_s);
+    });
+}
+
 TEST_F(FrmValoreTest, OnlyDigitsCanBeTyped)
 {
     conDialogo(u"Pausa"_s, [&] {

@@ -38,6 +38,24 @@ struct ArchivioTest : ::testing::Test
         Archivio::apri(1, u"prova.dat"_s, Modo::Lettura);
     }
 
+    static int scrivi(const QString &nome, const QByteArray &byte)
+    {
+        const int errore = erroreDi([&] {
+            Archivio::apri(1, nome, Modo::Scrittura);
+            Archivio::stampa(1, byte);
+            Archivio::chiudi();
+        });
+        Archivio::abbandona();
+        return errore;
+    }
+    // A file that everybody may write.
+    void diTutti(const QString &nome, const QByteArray &byte)
+    {
+        contenuto(nome, byte);
+        QFile::setPermissions(nome, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup |
+                                        QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther);
+    }
+
     QString prima;
     QTemporaryDir cartella;
 };
@@ -322,6 +340,94 @@ TEST_F(ArchivioTest, a_failed_close_closes_all_the_same_and_keeps_the_old_file)
     EXPECT_EQ(errore, Errore::DiscoPieno);
     EXPECT_EQ(contenuto(u"prova.dat"_s), "old");
     EXPECT_EQ(erroreDi([] { Archivio::apri(1, u"prova.dat"_s, Modo::Scrittura); }), 0);
+}
+
+TEST_F(ArchivioTest, in_a_folder_that_takes_no_new_files_a_file_is_written_in_its_place)
+{
+    if (!SenzaDiritti::possibile())
+        GTEST_SKIP() << "folders have no rights here";
+    for (const QString &nome : {u"prova.dat"_s, QString(255, u'x')}) {
+        for (const QByteArray &byte : {QByteArray("a new and longer text"), QByteArray("short")}) {
+            diTutti(nome, "the old text");
+            int errore = 0;
+            {
+                const SenzaDiritti chiusa(cartella.path());
+                errore = scrivi(cartella.filePath(nome), byte);
+            }
+            EXPECT_EQ(errore, 0);
+            EXPECT_EQ(contenuto(nome), byte);
+            EXPECT_EQ(QDir().entryList(QDir::Files), QStringList{nome});
+        }
+        QFile::remove(nome);
+    }
+}
+
+TEST_F(ArchivioTest, a_file_written_in_its_place_is_left_alone_until_it_is_closed)
+{
+    if (!SenzaDiritti::possibile())
+        GTEST_SKIP() << "folders have no rights here";
+    diTutti(u"prova.dat"_s, "old");
+    const SenzaDiritti chiusa(cartella.path());
+    Archivio::apri(1, u"prova.dat"_s, Modo::Scrittura);
+    Archivio::stampa(1, "half");
+    EXPECT_EQ(contenuto(u"prova.dat"_s), "old");
+    Archivio::abbandona();
+    EXPECT_EQ(contenuto(u"prova.dat"_s), "old");
+}
+
+TEST_F(ArchivioTest, a_full_disk_in_its_place_brings_the_old_text_back)
+{
+    if (!SenzaDiritti::possibile() || !DiscoPieno::possibile())
+        GTEST_SKIP() << "no full disk here, or folders without rights";
+    diTutti(u"prova.dat"_s, "the old text");
+    int errore = 0;
+    {
+        const SenzaDiritti chiusa(cartella.path());
+        const DiscoPieno pieno(1000);
+        errore = scrivi(u"prova.dat"_s, QByteArray(100000, 'x'));
+    }
+    EXPECT_EQ(errore, Errore::DiscoPieno);
+    EXPECT_EQ(contenuto(u"prova.dat"_s), "the old text");
+}
+
+TEST_F(ArchivioTest, a_file_that_can_neither_be_replaced_nor_written_is_error_75)
+{
+    if (!SenzaDiritti::possibile())
+        GTEST_SKIP() << "folders have no rights here";
+    contenuto(u"prova.dat"_s, "old");
+    QFile::setPermissions(u"prova.dat"_s, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+    {
+        const SenzaDiritti chiusa(cartella.path());
+        EXPECT_EQ(scrivi(u"prova.dat"_s, "new"), Errore::AccessoNegato);
+        EXPECT_EQ(scrivi(u"altro.dat"_s, "new"), Errore::AccessoNegato);
+    }
+    EXPECT_EQ(contenuto(u"prova.dat"_s), "old");
+    EXPECT_EQ(QDir().entryList(QDir::Files), QStringList{u"prova.dat"_s});
+}
+
+TEST_F(ArchivioTest, no_file_of_somebody_elses_is_touched_by_a_long_name)
+{
+    contenuto(u"salvataggio.tmp"_s, "somebody else's");
+    EXPECT_EQ(scrivi(cartella.filePath(QString(250, u'x')), "new"), 0);
+    EXPECT_EQ(contenuto(QString(250, u'x')), "new");
+    EXPECT_EQ(contenuto(u"salvataggio.tmp"_s), "somebody else's");
+    EXPECT_EQ(QDir().entryList(QDir::Files).size(), 2);
+}
+
+TEST_F(ArchivioTest, a_link_stays_a_link_whatever_the_length_of_the_names)
+{
+    const QString lungo(255, u'x');
+    contenuto(lungo, "old");
+    if (!collega(lungo, u"corto"_s))
+        GTEST_SKIP() << "no links here";
+    EXPECT_EQ(scrivi(u"corto"_s, "new"), 0);
+    EXPECT_EQ(contenuto(lungo), "new");
+    EXPECT_TRUE(QFileInfo(u"corto"_s).isSymbolicLink());
+    const QString altro(255, u'y');
+    ASSERT_TRUE(collega(u"breve"_s, altro));
+    EXPECT_EQ(scrivi(cartella.filePath(altro), "newer"), 0);
+    EXPECT_EQ(contenuto(u"breve"_s), "newer");
+    EXPECT_TRUE(QFileInfo(altro).isSymbolicLink());
 }
 
 TEST_F(ArchivioTest, a_name_of_any_length_that_a_folder_takes_is_written_and_replaced)

@@ -65,6 +65,17 @@ TEST_F(CasellaTestoTest, a_change_by_code_raises_change)
     EXPECT_EQ(modifiche, QStringList{u"22"_s});
 }
 
+TEST_F(CasellaTestoTest, a_text_that_code_puts_in_order_keeps_the_carets_place)
+{
+    pronta();
+    testo.Change.collega([this] { testo.setText(QString::number(testo.Text().toInt())); });
+    testo.setText(u"5"_s);
+    QTest::keyClick(&testo, Qt::Key_Home);
+    QTest::keyClicks(&testo, u"012"_s);
+    EXPECT_EQ(testo.Text(), u"125"_s);
+    EXPECT_EQ(testo.cursorPosition(), 2);
+}
+
 TEST_F(CasellaTestoTest, each_typed_character_raises_change)
 {
     pronta();
