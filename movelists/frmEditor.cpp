@@ -37,7 +37,9 @@ void frmEditor::collegaGestori()
         [this](int Button, int, double, double) { lstMosse_MouseMove(Button); });
 
     pulCanc.Click.collega(this, &frmEditor::pulCanc_Click);
-    // The second half of a double click is a Click of its own.
+    // A double click moves a line by two places.
+    pulSu.conDoppioClick();
+    pulGiu.conDoppioClick();
     pulSu.Click.collega(this, &frmEditor::pulSu_Click);
     pulGiu.Click.collega(this, &frmEditor::pulGiu_Click);
     pulPausa.Click.collega([this] {
