@@ -69,6 +69,10 @@ bool frmPrincipale::event(QEvent *evento)
 
 bool frmPrincipale::eventFilter(QObject *oggetto, QEvent *evento)
 {
+    // The frame of a colour list would hand it on to the window, which forgets the head's side.
+    if (evento->type() == QEvent::MouseMove &&
+        (oggetto == &mnuComparsaOn || oggetto == &mnuComparsaOff))
+        return true;
     // A list or a menu that opens takes keys and mouse as well, and leaves the window active.
     if (evento->type() == QEvent::Show && oggetto->isWidgetType() &&
         static_cast<QWidget *>(oggetto)->windowType() == Qt::Popup)

@@ -9,8 +9,12 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QPointer>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
+#include <functional>
+#include <optional>
+#include <utility>
 
 namespace {
 
@@ -41,6 +45,37 @@ bool siVede(const QWidget &finestra)
 bool eAperta(const QWidget &finestra)
 {
     return siVede(finestra) && !finestra.isMinimized();
+}
+
+// X11 gives each repeat of a held key as a release and a press of the same moment, and Qt takes
+// the release for an automatic one only if the press has come with it. While a handler's wait keeps
+// the events running it often has not: the release is then held back until it is sure.
+struct RilascioSospeso
+{
+    int codice;
+    quint64 quando;
+    std::function<void()> consegna;
+};
+std::optional<RilascioSospeso> sospeso;
+
+// Milliseconds: how far the two may be apart, and how long the press may be on its way.
+constexpr quint64 stessoMomento = 2;
+constexpr int attesaDelTasto = 150;
+
+void consegnaSospeso()
+{
+    if (const auto rilascio = std::exchange(sospeso, {}))
+        rilascio->consegna();
+}
+
+void sospendi(QObject &finestra, RilascioSospeso rilascio)
+{
+    const quint64 quando = rilascio.quando;
+    sospeso = std::move(rilascio);
+    QTimer::singleShot(attesaDelTasto, &finestra, [quando] {
+        if (sospeso && sospeso->quando == quando)
+            consegnaSospeso();
+    });
 }
 
 } // namespace
@@ -255,14 +290,29 @@ bool Finestra::eventFilter(QObject *oggetto, QEvent *evento)
     if (!controllo || controllo->window() != this)
         return false;
     auto *tasto = static_cast<QKeyEvent *>(evento);
+    const quint64 quando = tasto->timestamp();
     if (!primaTappa(*tasto))
         return false;
     const int codice = Tasti::codice(*tasto);
     const int maiuscole = numeroMaiuscole(tasto->modifiers());
-    if (evento->type() == QEvent::KeyPress)
+    const bool premuto = evento->type() == QEvent::KeyPress;
+    if (premuto && sospeso && sospeso->codice == codice &&
+        quando - sospeso->quando <= stessoMomento)
+        sospeso.reset(); // the key is still held
+    else
+        consegnaSospeso();
+    if (premuto) {
         eseguiGestore([&] { KeyDown(codice, maiuscole); });
-    else if (!tasto->isAutoRepeat())
-        eseguiGestore([&] { KeyUp(codice, maiuscole); });
+    } else if (!tasto->isAutoRepeat()) {
+        const auto consegna = [questa = QPointer(this), codice, maiuscole] {
+            if (questa)
+                eseguiGestore([&] { questa->KeyUp(codice, maiuscole); });
+        };
+        if (QGuiApplication::platformName() == u"xcb")
+            sospendi(*this, {codice, quando, consegna});
+        else
+            consegna();
+    }
     return false;
 }
 

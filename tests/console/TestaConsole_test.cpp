@@ -266,7 +266,7 @@ TEST(TestaConsole, TheLabelsSinkWithTheirShapesAndComeBack)
     ConsoleInProva c;
     ASSERT_TRUE(c.mostraCollegata());
     frmPrincipale &f = c.finestra;
-    struct Targa
+    struct Caso
     {
         Etichetta &etichetta;
         Forma &forma;
@@ -274,10 +274,10 @@ TEST(TestaConsole, TheLabelsSinkWithTheirShapesAndComeBack)
         double top;
         double topDopo;
     };
-    for (const Targa &t :
-         {Targa{f.lblAccLED, f.Shape3, 60, 240, 240}, Targa{f.lblSpLED, f.Shape4, 1140, 240, 240},
-          Targa{f.lblScattaFoto, f.Shape12, 4500, 2040, 2040},
-          Targa{f.lblStop, f.shpStop, 2490, 3900, 3915}}) {
+    for (const Caso &t :
+         {Caso{f.lblAccLED, f.Shape3, 60, 240, 240}, Caso{f.lblSpLED, f.Shape4, 1140, 240, 240},
+          Caso{f.lblScattaFoto, f.Shape12, 4500, 2040, 2040},
+          Caso{f.lblStop, f.shpStop, 2490, 3900, 3915}}) {
         SCOPED_TRACE(t.etichetta.objectName().toStdString());
         for (const bool lista : {false, true}) {
             c.attivaLista(lista);
@@ -440,6 +440,8 @@ TEST(TestaConsole, ADoubleClickOnTheHeadSwitchesNothing)
     QMouseEvent seconda(QEvent::MouseButtonDblClick, QPointF(1, 30),
                         lista.viewport()->mapToGlobal(QPointF(1, 30)), Qt::LeftButton,
                         Qt::LeftButton, {});
+    // A release puts the clock of the test's mouse on by more than a double click's time.
+    seconda.setTimestamp(static_cast<quint64>(QTest::lastMouseTimestamp - 400));
     QApplication::sendEvent(lista.viewport(), &seconda);
     EXPECT_TRUE(c.frmEditor.mosse().isEmpty());
     EXPECT_TRUE(comparsa(c, true));

@@ -116,6 +116,33 @@ TEST_F(ControlloTest, no_click_comes_of_another_button_or_of_a_release_outside)
     EXPECT_EQ(volte, 0);
 }
 
+TEST_F(ControlloTest, the_second_press_of_a_double_click_is_a_press_but_no_click)
+{
+    int premuto = 0;
+    int click = 0;
+    int doppi = 0;
+    controllo.MouseDown.collega([&](int, int, double, double) { ++premuto; });
+    controllo.Click.collega([&] { ++click; });
+    controllo.DblClick.collega([&] { ++doppi; });
+    QTest::mouseDClick(finestra.windowHandle(), Qt::LeftButton, {}, {30, 35});
+    EXPECT_EQ(premuto, 2);
+    EXPECT_EQ(doppi, 1);
+    EXPECT_EQ(click, 1);
+    QTest::mouseClick(finestra.windowHandle(), Qt::LeftButton, {}, {30, 35});
+    EXPECT_EQ(click, 2) << "the press after it is a click again";
+}
+
+TEST_F(ControlloTest, a_double_click_is_a_further_click_where_that_was_asked_for)
+{
+    int click = 0;
+    controllo.Click.collega([&] { ++click; });
+    controllo.conDoppioClick();
+    QTest::mouseDClick(finestra.windowHandle(), Qt::LeftButton, {}, {30, 35});
+    EXPECT_EQ(click, 2);
+    QTest::mouseDClick(finestra.windowHandle(), Qt::RightButton, {}, {30, 35});
+    EXPECT_EQ(click, 2);
+}
+
 TEST_F(ControlloTest, a_double_click_whose_first_press_was_elsewhere_is_a_click)
 {
     int click = 0;

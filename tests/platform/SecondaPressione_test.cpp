@@ -52,6 +52,7 @@ TEST_F(SecondaPressioneTest, does_not_answer_the_box_that_the_first_has_opened)
         QTimer::singleShot(0, &box, [&] {
             QMouseEvent seconda(QEvent::MouseButtonDblClick, QPointF(5, 5), QPointF(5, 5),
                                 Qt::LeftButton, Qt::LeftButton, {});
+            seconda.setTimestamp(static_cast<quint64>(QTest::lastMouseTimestamp));
             QApplication::sendEvent(box.button(QMessageBox::Ok), &seconda);
             QTest::mouseRelease(box.button(QMessageBox::Ok), Qt::LeftButton);
             EXPECT_TRUE(box.isVisible());
