@@ -287,7 +287,10 @@ TEST(Sessione, AnErrorThatNobodyHandledSendsNothingWithThePortClosed)
         {
             BancoSessioneFinta p;
             p.porta.scritto = [](const QByteArray &) { std::cerr << "sent" << std::endl; };
+            p.messaggi.mentreAperto = [](const QMessageBox &box) {
+                std::cerr << box.text().toStdString() << "|" << std::endl;
+            };
             eseguiGestore([] { throw Errore(Errore::FineDelFile); });
         },
-        ::testing::ExitedWithCode(1), "^[^s]*$");
+        ::testing::ExitedWithCode(1), "\\(62\\)[^|]*\\|\n$");
 }
