@@ -1,3 +1,5 @@
+option(LUMBRA_PCH "The large headers that all tests include are compiled once" ON)
+
 # piano(name SOURCES ... LINKS ...): one folder, one static library. Its headers are found only by
 # who links it, so that an include against the floors does not compile.
 function(piano name)
@@ -13,6 +15,9 @@ function(prova name)
     cmake_parse_arguments(P "" "" "SOURCES;LINKS" ${ARGN})
     add_executable(${name} ${P_SOURCES})
     target_link_libraries(${name} PRIVATE ${P_LINKS} prova_main avvisi)
+    if(LUMBRA_PCH)
+        target_precompile_headers(${name} REUSE_FROM prova_main)
+    endif()
     if(CMAKE_CROSSCOMPILING)
         add_test(NAME ${name} COMMAND ${name})
         set_tests_properties(${name} PROPERTIES TIMEOUT 1200)
