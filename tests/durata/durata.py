@@ -228,7 +228,7 @@ class Prova(Giri):
         righe += ["", f"seed                      {self.seme}",
                   f"duration                  {minuti:.1f} min",
                   f"rounds                    {len(self.fasi_fatte)}",
-                  f"phases                    {len(set(self.fasi_fatte))} of {len(self.fasi)}",
+                  f"phases                    {len(set(self.fasi_fatte) - {'monkey'})} of {len(self.fasi)}",
                   f"the user's deeds          {self.u.azioni}",
                   f"commands, bytes to robot  {self.comandi}, {self.byte}",
                   f"message boxes             {sum(avvisi.values())}",
