@@ -7,19 +7,17 @@
 
 #include <QTest>
 #include <QWindow>
-#include <cstdlib>
 #include <gtest/gtest.h>
-#include <iostream>
 
 namespace {
 
 const QString erroreVideo =
     u"Attenzione: errore nella visualizzazione delle immagini della videocamera!"_s;
 
-class Selezione : public testing::Test
+class SceltaSulVideo : public testing::Test
 {
 protected:
-    Selezione()
+    SceltaSulVideo()
     {
         banco.apriCamera();
         // 80 times 10 and some more, so that a drag can end beyond the last column.
@@ -77,7 +75,7 @@ protected:
 
 } // namespace
 
-TEST_F(Selezione, AtFirstThereIsNone)
+TEST_F(SceltaSulVideo, AtFirstThereIsNone)
 {
     EXPECT_FALSE(shpSelezione.Visible());
     EXPECT_EQ(shpSelezione.Tag(), u"0"_s);
@@ -85,7 +83,7 @@ TEST_F(Selezione, AtFirstThereIsNone)
     EXPECT_FALSE(nome.Visible());
 }
 
-TEST_F(Selezione, APressShowsAPointAndADragOpensIt)
+TEST_F(SceltaSulVideo, APressShowsAPointAndADragOpensIt)
 {
     QTest::mousePress(&Schermo, Qt::LeftButton, {}, {100, 200});
     EXPECT_TRUE(shpSelezione.Visible());
@@ -97,7 +95,7 @@ TEST_F(Selezione, APressShowsAPointAndADragOpensIt)
     EXPECT_EQ(shpSelezione.Tag(), u"True"_s);
 }
 
-TEST_F(Selezione, ItIsSeenOnAWhitePictureToo)
+TEST_F(SceltaSulVideo, ItIsSeenOnAWhitePictureToo)
 {
     banco.manda(immaginePiena(0xFFFFFF));
     QTest::mousePress(&Schermo, Qt::LeftButton, {}, {100, 200});
@@ -109,7 +107,7 @@ TEST_F(Selezione, ItIsSeenOnAWhitePictureToo)
     EXPECT_LT(scuro, 120);
 }
 
-TEST_F(Selezione, ADragUpOrLeftKeepsTheLastSizeThatWasOne)
+TEST_F(SceltaSulVideo, ADragUpOrLeftKeepsTheLastSizeThatWasOne)
 {
     QTest::mousePress(&Schermo, Qt::LeftButton, {}, {100, 200});
     muovi({130, 240});
@@ -121,7 +119,7 @@ TEST_F(Selezione, ADragUpOrLeftKeepsTheLastSizeThatWasOne)
     EXPECT_EQ(rettangolo(), QRectF(100, 200, 50, 60));
 }
 
-TEST_F(Selezione, OnlyTheLeftButtonAloneDrags)
+TEST_F(SceltaSulVideo, OnlyTheLeftButtonAloneDrags)
 {
     QTest::mousePress(&Schermo, Qt::RightButton, {}, {100, 200});
     EXPECT_EQ(rettangolo(), QRectF(100, 200, 1, 1));
@@ -133,7 +131,7 @@ TEST_F(Selezione, OnlyTheLeftButtonAloneDrags)
     EXPECT_EQ(shpSelezione.Tag(), u"True"_s);
 }
 
-TEST_F(Selezione, TheNextFrameTurnsItIntoARecordOnePixelFurther)
+TEST_F(SceltaSulVideo, TheNextFrameTurnsItIntoARecordOnePixelFurther)
 {
     trascina({100, 200}, {160, 290});
     banco.manda(immagine);
@@ -143,7 +141,7 @@ TEST_F(Selezione, TheNextFrameTurnsItIntoARecordOnePixelFurther)
     EXPECT_EQ(nome.Tag(), record(6, 9, 11, 21, 6, 9));
 }
 
-TEST_F(Selezione, ItTakesTheFrameInWhichItEndsAndNoLaterOne)
+TEST_F(SceltaSulVideo, ItTakesTheFrameInWhichItEndsAndNoLaterOne)
 {
     trascina({100, 100}, {700, 500});
     banco.manda(immagine);
@@ -152,7 +150,7 @@ TEST_F(Selezione, ItTakesTheFrameInWhichItEndsAndNoLaterOne)
     EXPECT_EQ(nome.Tag(), record(60, 40, 11, 11, 60, 40));
 }
 
-TEST_F(Selezione, TheDialogIsThereAfterTwoRowsAndTheTimerCopiesTheRest)
+TEST_F(SceltaSulVideo, TheDialogIsThereAfterTwoRowsAndTheTimerCopiesTheRest)
 {
     trascina({100, 100}, {150, 190});
     nome.tmrAcquisizione.setInterval(0);
@@ -170,7 +168,7 @@ TEST_F(Selezione, TheDialogIsThereAfterTwoRowsAndTheTimerCopiesTheRest)
     EXPECT_FALSE(nome.lblAttesa.Visible());
 }
 
-TEST_F(Selezione, TheDialogShowsThePictureInTheMiddleOfItsArea)
+TEST_F(SceltaSulVideo, TheDialogShowsThePictureInTheMiddleOfItsArea)
 {
     trascina({100, 100}, {160, 190});
     banco.manda(immagine);
@@ -189,7 +187,7 @@ TEST_F(Selezione, TheDialogShowsThePictureInTheMiddleOfItsArea)
     EXPECT_EQ(visto.pixelColor(1, 10).alpha(), 0);
 }
 
-TEST_F(Selezione, AClickGivesARecordWithoutASizeAndOneColour)
+TEST_F(SceltaSulVideo, AClickGivesARecordWithoutASizeAndOneColour)
 {
     QTest::mouseClick(&Schermo, Qt::LeftButton, {}, {105, 203});
     banco.manda(immagine);
@@ -200,7 +198,7 @@ TEST_F(Selezione, AClickGivesARecordWithoutASizeAndOneColour)
     EXPECT_EQ(nome.Tag(), record(0, 0, 11, 21, 1, 1));
 }
 
-TEST_F(Selezione, TwoRowsAreCompleteBeforeTheDialogIsThere)
+TEST_F(SceltaSulVideo, TwoRowsAreCompleteBeforeTheDialogIsThere)
 {
     trascina({100, 100}, {130, 120});
     banco.manda(immagine);
@@ -209,7 +207,7 @@ TEST_F(Selezione, TwoRowsAreCompleteBeforeTheDialogIsThere)
     EXPECT_EQ(nome.Tag(), record(3, 2, 11, 11, 3, 2));
 }
 
-TEST_F(Selezione, InTheCornerItBeginsAtOne)
+TEST_F(SceltaSulVideo, InTheCornerItBeginsAtOne)
 {
     trascina({2, 3}, {52, 43});
     banco.manda(immagine);
@@ -217,7 +215,7 @@ TEST_F(Selezione, InTheCornerItBeginsAtOne)
     EXPECT_EQ(nome.Tag(), record(5, 4, 2, 2, 5, 4));
 }
 
-TEST_F(Selezione, BeyondTheEdgesItIsCutToTheFrame)
+TEST_F(SceltaSulVideo, BeyondTheEdgesItIsCutToTheFrame)
 {
     trascina({700, 500}, {1300, 1200});
     banco.manda(immagine);
@@ -225,7 +223,7 @@ TEST_F(Selezione, BeyondTheEdgesItIsCutToTheFrame)
     EXPECT_EQ(nome.Tag(), record(10, 10, 71, 51, 10, 10));
 }
 
-TEST_F(Selezione, FarBeyondTheEdgesTheVideoFailsUntilADoubleClick)
+TEST_F(SceltaSulVideo, FarBeyondTheEdgesTheVideoFailsUntilADoubleClick)
 {
     trascina({100, 100}, {5000, 200});
     banco.manda(immagine);
@@ -238,7 +236,7 @@ TEST_F(Selezione, FarBeyondTheEdgesTheVideoFailsUntilADoubleClick)
     EXPECT_EQ(camera.fotogramma().Riga, 0);
 }
 
-TEST_F(Selezione, BehindTheLastColumnThereIsNothingToTake)
+TEST_F(SceltaSulVideo, BehindTheLastColumnThereIsNothingToTake)
 {
     QTest::mouseClick(&Schermo, Qt::LeftButton, {}, {805, 203});
     banco.manda(immagine);
@@ -247,7 +245,7 @@ TEST_F(Selezione, BehindTheLastColumnThereIsNothingToTake)
     EXPECT_FALSE(nome.tmrAcquisizione.Enabled());
 }
 
-TEST_F(Selezione, WhileTheDialogIsThereNothingOnThePictureReplacesWhatIsNamed)
+TEST_F(SceltaSulVideo, WhileTheDialogIsThereNothingOnThePictureReplacesWhatIsNamed)
 {
     trascina({100, 100}, {150, 190});
     banco.manda(immagine);
@@ -300,7 +298,7 @@ TEST_F(Selezione, WhileTheDialogIsThereNothingOnThePictureReplacesWhatIsNamed)
     EXPECT_FALSE(nome.Visible());
 }
 
-TEST_F(Selezione, AClickUnderTheDialogIsNoneWhenTheDialogIsGoneBeforeTheNextFrame)
+TEST_F(SceltaSulVideo, AClickUnderTheDialogIsNoneWhenTheDialogIsGoneBeforeTheNextFrame)
 {
     trascina({100, 100}, {150, 190});
     banco.manda(immagine);
@@ -312,7 +310,7 @@ TEST_F(Selezione, AClickUnderTheDialogIsNoneWhenTheDialogIsGoneBeforeTheNextFram
     EXPECT_EQ(shpSelezione.Tag(), u"False"_s);
 }
 
-TEST_F(Selezione, APressUnderTheDialogIsNoneEvenIfItsReleaseComesLater)
+TEST_F(SceltaSulVideo, APressUnderTheDialogIsNoneEvenIfItsReleaseComesLater)
 {
     trascina({100, 100}, {150, 190});
     banco.manda(immagine);
@@ -329,7 +327,7 @@ TEST_F(Selezione, APressUnderTheDialogIsNoneEvenIfItsReleaseComesLater)
     EXPECT_EQ(nome.Tag(), record(6, 9, 11, 21, 6, 9));
 }
 
-TEST_F(Selezione, ADragThatTheDialogInterruptsComesToNothing)
+TEST_F(SceltaSulVideo, ADragThatTheDialogInterruptsComesToNothing)
 {
     trascina({100, 100}, {150, 190});
     QTest::mousePress(&Schermo, Qt::LeftButton, {}, {300, 300});
@@ -343,7 +341,7 @@ TEST_F(Selezione, ADragThatTheDialogInterruptsComesToNothing)
     EXPECT_FALSE(nome.Visible());
 }
 
-TEST_F(Selezione, WhatTheKeyboardDrawsWhileTheDialogComesComesToNothing)
+TEST_F(SceltaSulVideo, WhatTheKeyboardDrawsWhileTheDialogComesComesToNothing)
 {
     portaTasti();
     trascina({100, 100}, {150, 190});
@@ -360,7 +358,7 @@ TEST_F(Selezione, WhatTheKeyboardDrawsWhileTheDialogComesComesToNothing)
     EXPECT_FALSE(nome.Visible());
 }
 
-TEST_F(Selezione, TheDialogStaysInFrontOfTheCamera)
+TEST_F(SceltaSulVideo, TheDialogStaysInFrontOfTheCamera)
 {
     trascina({100, 100}, {150, 190});
     banco.manda(immagine);
@@ -370,7 +368,7 @@ TEST_F(Selezione, TheDialogStaysInFrontOfTheCamera)
     EXPECT_EQ(nome.windowModality(), Qt::NonModal);
 }
 
-TEST_F(Selezione, WithoutVideoNoRectangleAppears)
+TEST_F(SceltaSulVideo, WithoutVideoNoRectangleAppears)
 {
     camera.setTag(u"0"_s);
     trascina({100, 100}, {150, 190});
@@ -378,7 +376,7 @@ TEST_F(Selezione, WithoutVideoNoRectangleAppears)
     EXPECT_EQ(shpSelezione.Tag(), u"True"_s);
 }
 
-TEST_F(Selezione, ADisconnectionDuringTheCopyLeavesTheDialogToFinish)
+TEST_F(SceltaSulVideo, ADisconnectionDuringTheCopyLeavesTheDialogToFinish)
 {
     trascina({100, 100}, {500, 500});
     nome.tmrAcquisizione.setInterval(0);
@@ -397,7 +395,7 @@ TEST_F(Selezione, ADisconnectionDuringTheCopyLeavesTheDialogToFinish)
               "\"Palla\"," + record(40, 40, 11, 11, 40, 40).toLatin1());
 }
 
-TEST_F(Selezione, CancelledInTheMiddleOfTheCopyTheNextOneIsWhole)
+TEST_F(SceltaSulVideo, CancelledInTheMiddleOfTheCopyTheNextOneIsWhole)
 {
     trascina({100, 100}, {500, 500});
     nome.tmrAcquisizione.setInterval(0);
@@ -413,7 +411,7 @@ TEST_F(Selezione, CancelledInTheMiddleOfTheCopyTheNextOneIsWhole)
     EXPECT_EQ(nome.Tag(), record(6, 9, 11, 21, 6, 9));
 }
 
-TEST_F(Selezione, ADisconnectionWhileADuplicateNameIsToldIsSurvived)
+TEST_F(SceltaSulVideo, ADisconnectionWhileADuplicateNameIsToldIsSurvived)
 {
     banco.cartella.scrivi(u"Immagini.dat"_s, "\"Palla\",1,1,5");
     trascina({100, 100}, {130, 130});
@@ -432,24 +430,7 @@ TEST_F(Selezione, ADisconnectionWhileADuplicateNameIsToldIsSurvived)
     EXPECT_EQ(banco.cartella.leggi(u"Immagini.dat"_s), "\"Palla\",1,1,5");
 }
 
-TEST_F(Selezione, AFailureInAKeysHandlerIsShownAndEndsTheProgramAsAnyOther)
-{
-    portaTasti();
-    EXPECT_EXIT(
-        {
-            RispondiMessaggi risposte;
-            risposte.mentreAperto = [](const QMessageBox &box) {
-                std::cerr << box.text().toStdString();
-            };
-            QTest::keyClick(&Schermo, Qt::Key_Space);
-            camera.setTag(u"ciao"_s);
-            QTest::keyClick(&Schermo, Qt::Key_Right);
-            std::_Exit(0);
-        },
-        testing::ExitedWithCode(1), "Tipo non corrispondente");
-}
-
-TEST_F(Selezione, TheKeyboardSelectsWhatTheMouseSelects)
+TEST_F(SceltaSulVideo, TheKeyboardSelectsWhatTheMouseSelects)
 {
     EXPECT_FALSE(camera.shpMirino.Visible());
     portaTasti();
@@ -479,7 +460,7 @@ TEST_F(Selezione, TheKeyboardSelectsWhatTheMouseSelects)
     EXPECT_EQ(nome.Tag(), conTasti);
 }
 
-TEST_F(Selezione, EscLeavesTheOneThatTheKeyboardDraws)
+TEST_F(SceltaSulVideo, EscLeavesTheOneThatTheKeyboardDraws)
 {
     portaTasti();
     QTest::keyClick(&Schermo, Qt::Key_Space);
@@ -494,7 +475,7 @@ TEST_F(Selezione, EscLeavesTheOneThatTheKeyboardDraws)
     EXPECT_FALSE(shpSelezione.Visible()) << "the arrows point and draw nothing";
 }
 
-TEST_F(Selezione, TheKeyboardPointsNowhereOutsideThePicture)
+TEST_F(SceltaSulVideo, TheKeyboardPointsNowhereOutsideThePicture)
 {
     portaTasti();
     for (int i = 0; i < 20; ++i) {
@@ -505,7 +486,7 @@ TEST_F(Selezione, TheKeyboardPointsNowhereOutsideThePicture)
     EXPECT_EQ(rettangolo().topLeft(), QPointF(1, 1));
 }
 
-TEST_F(Selezione, F5RestartsTheVideoAndSelectsNothing)
+TEST_F(SceltaSulVideo, F5RestartsTheVideoAndSelectsNothing)
 {
     portaTasti();
     banco.comandi();
