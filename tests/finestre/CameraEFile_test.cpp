@@ -20,6 +20,7 @@ struct CameraEFile : ::testing::Test
         esplora.Mostra();
         p.manda(b({42, 1, 0, 47, 1, 2, 4, 'd', 'i', 's', 'k', 0, 47, 1, 1, 1, 'a', 0, 42, 1, 255}));
         EXPECT_EQ(esplora.Tag(), QString());
+        p.comandi();
     }
     ~CameraEFile() override { p.console.motore.ascoltaFile(nullptr); }
 
