@@ -156,6 +156,7 @@ void Elenco::mousePressEvent(QMouseEvent *evento)
 {
     const QPoint punto = evento->position().toPoint();
     const QListWidgetItem *sotto = itemAt(punto);
+    ++m_pressioni;
     // The left button alone chooses a row.
     if (evento->button() != Qt::LeftButton) {
         premuto(evento);
@@ -164,7 +165,6 @@ void Elenco::mousePressEvent(QMouseEvent *evento)
     m_clickDovuto = sotto && sullaSpunta(sotto, punto);
     const int prima = currentRow();
     m_premuta = indexAt(punto);
-    ++m_pressioni;
     {
         const QScopedValueRollback zitto(m_zitto, m_zitto || m_clickDovuto);
         Controllo::mousePressEvent(evento);

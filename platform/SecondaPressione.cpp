@@ -24,8 +24,8 @@ protected:
         case QEvent::MouseButtonPress: {
             const quint64 quando = static_cast<QMouseEvent *>(evento)->timestamp();
             // A press that nobody takes travels up through the parents.
-            const bool inViaggio =
-                m_premuto && quando == m_quando && controllo->isAncestorOf(m_premuto);
+            const bool inViaggio = m_premuto && quando == m_quando && controllo != m_premuto &&
+                                   controllo->isAncestorOf(m_premuto);
             if (!inViaggio)
                 m_aperti.clear();
             m_premuto = controllo;
