@@ -362,12 +362,12 @@ protected:
 
 } // namespace
 
-TEST_P(SeraGuasta, AListThatCannotBeReadEndsTheProgramWithItsErrorAloneAndTheSession)
+TEST_P(SeraGuasta, AListThatCannotBeReadEndsTheProgramWithItsErrorAlone)
 {
+    // A process of its own: drawing has started threads, which a fork would lose.
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
     crea(u"caldo.sqm"_s, Caldo);
     EXPECT_EXIT(guasta(), testing::ExitedWithCode(1), GetParam().errore);
-    // What the program sent last of all is still on the line.
-    EXPECT_TRUE(aspetta([this] { return robot.diario().conta(u"ChiudiSessione"_s) == 1; }));
 }
 
 INSTANTIATE_TEST_SUITE_P(
