@@ -59,7 +59,7 @@ bool frmPrincipale::event(QEvent *evento)
     // A dialog comes up while the window is not the active one.
     case QEvent::WindowBlocked:
     case QEvent::Hide:
-        lasciaTutto();
+        eseguiGestore([this] { lasciaTutto(); });
         break;
     default:
         break;
@@ -76,7 +76,7 @@ bool frmPrincipale::eventFilter(QObject *oggetto, QEvent *evento)
     // A list or a menu that opens takes keys and mouse as well, and leaves the window active.
     if (evento->type() == QEvent::Show && oggetto->isWidgetType() &&
         static_cast<QWidget *>(oggetto)->windowType() == Qt::Popup)
-        lasciaTutto();
+        eseguiGestore([this] { lasciaTutto(); });
     m_ripetuto =
         evento->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(evento)->isAutoRepeat();
     const bool esito = Finestra::eventFilter(oggetto, evento);

@@ -17,10 +17,15 @@ ENTRATE = re.compile(r"^(\w*Event|event|eventFilter|doAction|sizeHint|displayTex
                      r"rowsInserted|rowsAboutToBeRemoved|reset|moveCursor|selectionCommand)$")
 # Looked at: another class has a function of that name that can fail, or this call cannot fail there.
 VISTE = {
+    ("Accessibile.cpp", "doAction", "azione"),
+    ("Controllo.h", "mousePressEvent", "premuto"),
     ("Cornice.cpp", "paintEvent", "titolo"),
+    ("Elenco.cpp", "mousePressEvent", "premuto"),
     ("Finestra.cpp", "event", "attiva"),
     ("Pulsanti.cpp", "eventFilter", "passo"),  # it asks for the limits first
     ("Pulsanti.cpp", "connect", "passo"),
+    ("TastoTenuto.cpp", "eventFilter", "finito"),
+    ("TastoTenuto.cpp", "eventFilter", "premuto"),
 }
 
 
