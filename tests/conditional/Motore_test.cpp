@@ -116,8 +116,12 @@ TEST_F(MotoreTest, StoppingWhenNothingIsStartedTouchesOnlyTheFontAndTheTag)
 TEST_F(MotoreTest, TheStartBringsAMinimisedEditorBack)
 {
     editor.Mostra();
+    mostraVigilio({u"a.sqm"_s});
+    imposta(0, u"no,no,25,no,no"_s);
     editor.setWindowState(1);
-    avvia({{u"a.sqm"_s, u"no,no,25,no,no"_s}});
+    seriale.apri();
+    processor.pulAvvia.click();
+    EXPECT_TRUE(processor.avviato());
     EXPECT_EQ(editor.WindowState(), 0);
 }
 
