@@ -45,6 +45,13 @@ def sessione_chiusa(comandi):
     return 3 not in sessione or sessione[-1] == 4
 
 
+def porta_chiusa_prima(diario, ora):
+    """Whether the program had closed its port before that moment, in ms of the robot's clock, and
+    not opened it again: an attempt that fails closes it, and then there is no session to end."""
+    vicende = re.findall(r"^ *(\d+) +Porta (aperta|chiusa) dal programma$", diario, re.M)
+    return bool(vicende) and vicende[-1][1] == "chiusa" and int(vicende[-1][0]) < ora
+
+
 class Perdita:
     """When a robot's line loses all: from, to, in ms since the robot's start, as the robot's own
     clock has it. What is sent then may never come."""

@@ -236,6 +236,21 @@ class Fine(unittest.TestCase):
         self.assertFalse(giudici.sessione_chiusa([*self.CHIUSA, *self.APERTA, (1,)]))
 
 
+class PortaChiusa(unittest.TestCase):
+    DIARIO = ("    54874                    Porta aperta dal programma\n"
+              "    74933  19 65 0           BaseStop\n"
+              "    82909                    Porta chiusa dal programma\n")
+
+    def test_an_attempt_that_failed_has_closed_the_port_before_the_end(self):
+        self.assertTrue(giudici.porta_chiusa_prima(self.DIARIO, 90000))
+
+    def test_a_port_that_closes_with_the_program_or_was_opened_again_was_open(self):
+        self.assertFalse(giudici.porta_chiusa_prima(self.DIARIO, 82000))
+        ancora = self.DIARIO + "    85000                    Porta aperta dal programma\n"
+        self.assertFalse(giudici.porta_chiusa_prima(ancora, 90000))
+        self.assertFalse(giudici.porta_chiusa_prima("", 90000))
+
+
 class LineaPersa(unittest.TestCase):
     def test_it_may_swallow_what_was_sent_in_its_time(self):
         perdita = Perdita(20000, 20000)

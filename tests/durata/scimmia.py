@@ -25,6 +25,7 @@ from schermo import CONSOLE, SEQUOR, VIGILIO, raccogli
 from servitore_x import ServitoreX
 from utente import Guaio
 
+NOME_IMMAGINE = "Dai un nome all'immagine"
 FILE = ("Apri", "Salva con nome")  # the titles of the file dialogs
 FRECCE = {
     "Controlla la base": ("Su", "Sinistra", "Destra", "Giù", "Alza il bacino", "Abbassa il bacino"),
@@ -316,7 +317,8 @@ class Scimmia:
     def giudica_padri(self, finestre):
         for dialogo in (f for f in finestre if f.dialogo):
             lamento = giudici.senza_padre(dialogo.sopra, dialogo.capo, self.x.del_programma())
-            if not lamento:
+            # The naming of a picture outlives the video window that it came from.
+            if not lamento or (dialogo.titolo == NOME_IMMAGINE and self.x.nostra(dialogo.sopra)):
                 continue
             # It may be going away, or its parent.
             time.sleep(0.5)
@@ -376,6 +378,10 @@ class Scimmia:
                 if giudici.sessione_chiusa(comandi):
                     break
                 time.sleep(0.1)
+        if comandi is not None and self.chiesta:
+            with open(self.p.base + ".diario", encoding="utf-8") as file:
+                if giudici.porta_chiusa_prima(file.read(), 1000 * (self.chiesta - self.nato)):
+                    comandi = None
         esito = self.u.processo.returncode
         self.dice(f"the program has ended, status {esito}")
         self.giudica_rapporti()

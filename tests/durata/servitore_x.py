@@ -111,6 +111,13 @@ class ServitoreX:
         """The numbers of all its windows that the window manager knows."""
         return {f.id for f in self.gestite() if self.classe(f) == NOSTRO}
 
+    def nostra(self, numero):
+        """Whether a window of that number is the program's, also one that it has hidden."""
+        try:
+            return self.classe(self.d.create_resource_object("window", numero)) == NOSTRO
+        except errore_x.XError:
+            return False
+
     def mostrata(self, finestra):
         try:
             return finestra.get_attributes().map_state == X.IsViewable
