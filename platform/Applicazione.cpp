@@ -3,6 +3,8 @@
 #include "Aspetto.h"
 #include "Disegni.h"
 #include "Italiano.h"
+#include "SecondaPressione.h"
+#include "TastiRipetuti.h"
 
 #include <QApplication>
 
@@ -13,6 +15,8 @@ void preparaApplicazione(QApplication &app)
     // Qt would end the program with its last window, and a box counts as one.
     QApplication::setQuitOnLastWindowClosed(false);
     QCoreApplication::setQuitLockEnabled(false);
+    fermaSecondePressioni(app);
+    fermaTastiRipetuti(app);
     installaItaliano(app);
     impostaAspetto();
     QApplication::setDesktopFileName(u"lumbra"_s);

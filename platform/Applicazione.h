@@ -3,6 +3,7 @@
 
 class QApplication;
 
-// The language, the look, and that no closing of a window or a box ends the program: it ends by
-// terminaProgramma only. After the application was made, before its first window.
+// The language, the look, what held keys and second presses do in all windows, and that no closing
+// of a window or a box ends the program: it ends by terminaProgramma only. Once, after the
+// application was made, before its first window.
 void preparaApplicazione(QApplication &app);

@@ -1,8 +1,6 @@
 #include "Finestra.h"
 
-#include "SecondaPressione.h"
 #include "Tasti.h"
-#include "TastiRipetuti.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -85,8 +83,6 @@ Finestra::Finestra(const QString &nome, const QString &titolo) : m_titolo(titolo
     setObjectName(nome);
     setWindowTitle(titolo);
     setMouseTracking(true);
-    fermaSecondePressioni();
-    fermaTastiRipetuti();
     perAttivita().append(this);
 }
 

@@ -68,11 +68,7 @@ private:
 
 } // namespace
 
-void fermaSecondePressioni()
+void fermaSecondePressioni(QApplication &app)
 {
-    static QObject *guardia = nullptr;
-    if (guardia)
-        return;
-    guardia = new Guardia(qApp);
-    qApp->installEventFilter(guardia);
+    app.installEventFilter(new Guardia(&app));
 }

@@ -2,5 +2,7 @@
 // box or a list that came up under the pointer is there to be read first.
 #pragma once
 
-// From now on, in all windows of the program. Further calls change nothing.
-void fermaSecondePressioni();
+class QApplication;
+
+// From now on, in all windows of the program.
+void fermaSecondePressioni(QApplication &app);

@@ -2,9 +2,8 @@
 
 #include "Tasti.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QKeyEvent>
-#include <QPointer>
 
 namespace {
 
@@ -26,11 +25,7 @@ protected:
 
 } // namespace
 
-void fermaTastiRipetuti()
+void fermaTastiRipetuti(QApplication &app)
 {
-    static QPointer<FermaRipetuti> filtro;
-    if (filtro)
-        return;
-    filtro = new FermaRipetuti(QCoreApplication::instance());
-    QCoreApplication::instance()->installEventFilter(filtro);
+    app.installEventFilter(new FermaRipetuti(&app));
 }

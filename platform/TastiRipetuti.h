@@ -2,5 +2,7 @@
 // press has just opened or uncovered, and answer a question that nobody has read.
 #pragma once
 
-// For all windows, boxes and file dialogs of the program; more than one call does nothing more.
-void fermaTastiRipetuti();
+class QApplication;
+
+// From now on, in all windows, boxes and file dialogs of the program.
+void fermaTastiRipetuti(QApplication &app);
