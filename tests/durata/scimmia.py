@@ -27,6 +27,7 @@ from utente import Guaio
 
 NOME_IMMAGINE = "Dai un nome all'immagine"
 FILE = ("Apri", "Salva con nome")  # the titles of the file dialogs
+VISTE = ("Vista elenco", "Vista dettagliata")  # there, the chosen one is held down by Qt
 FRECCE = {
     "Controlla la base": ("Su", "Sinistra", "Destra", "Giù", "Alza il bacino", "Abbassa il bacino"),
     "Controlla le braccia": ("Alza il braccio sinistro", "Alza il braccio destro",
@@ -426,7 +427,8 @@ class Scimmia:
             raccogli(finestra, "push button", None, trovati)
             raccogli(finestra, "label", None, trovati)
             for oggetto in trovati:
-                if oggetto.getState().contains(pyatspi.STATE_PRESSED):
+                if (oggetto.getState().contains(pyatspi.STATE_PRESSED) and
+                        not (finestra.name in FILE and oggetto.name in VISTE)):
                     esito.append(f"button {oggetto.name!r} of {finestra.name!r}")
                 if console and finestra.name.startswith(CONSOLE) and oggetto.name in self.targhe:
                     area = oggetto.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
