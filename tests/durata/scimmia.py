@@ -27,7 +27,7 @@ from utente import Guaio
 
 NOME_IMMAGINE = "Dai un nome all'immagine"
 FILE = ("Apri", "Salva con nome")  # the titles of the file dialogs
-VISTE = ("Vista elenco", "Vista dettagliata")  # there, the chosen one is held down by Qt
+VISTE = ("Vista a elenco", "Vista dettagliata")  # there, the chosen one is held down by Qt
 FRECCE = {
     "Controlla la base": ("Su", "Sinistra", "Destra", "Giù", "Alza il bacino", "Abbassa il bacino"),
     "Controlla le braccia": ("Alza il braccio sinistro", "Alza il braccio destro",
