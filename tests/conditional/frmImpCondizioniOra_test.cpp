@@ -231,7 +231,7 @@ TEST_F(FrmImpCondizioniOra, AnArrowKeyThatIsHeldSpinsItsBoxAndNothingElse)
 {
     for (int i = 0; i < 3; ++i) {
         apri(u"no,no,no,no,no"_s);
-        const Numero &numero = numeri()[i];
+        const Numero numero = numeri()[i];
         numero.testo.setFocus();
         const int prima = numero.barra.Value();
         tieni(Qt::Key_Up, 5);
