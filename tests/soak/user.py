@@ -9,6 +9,7 @@ import pyatspi
 from screen import CONSOLE, Schermo, mostrato, raccogli, xdotool
 
 PAZIENZA = 90.0
+DOPPIO_CLIC = 0.6  # seconds after which a second click is one of its own; the desktop's are 0.4
 
 
 class Guaio(Exception):
@@ -26,6 +27,7 @@ class Utente(Schermo):
         self.strani = []
         self.posti = {}
         self.azioni = 0
+        self.ultimo_clic = None, 0.0
 
     # Waiting. Whatever is waited for, the program must live and its boxes are answered.
 
@@ -192,7 +194,12 @@ class Utente(Schermo):
         self.davanti(CONSOLE)
         x, y = posti[nome]
         xdotool("mousemove", "--window", self.numero_finestra(CONSOLE), x, y)
+        # The second click of a double click does nothing on most pictures: two clicks are meant.
+        ultimo, quando = self.ultimo_clic
+        if ultimo == (nome, bottone):
+            time.sleep(max(0.0, quando + DOPPIO_CLIC - time.monotonic()))
         xdotool("click", bottone)
+        self.ultimo_clic = (nome, bottone), time.monotonic()
 
     def apri(self, strumento, titolo):
         self.clic_console(strumento)
