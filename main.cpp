@@ -1,14 +1,14 @@
 // Builds the windows, ties them together, starts.
-#include "Applicazione.h"
-#include "Cartella.h"
-#include "Comandi.h"
-#include "PortaAsio.h"
-#include "VigilioVicino.h"
-#include "frmCamera.h"
-#include "frmEditor.h"
-#include "frmEsploraFile.h"
-#include "frmPrincipale.h"
-#include "frmProcessor.h"
+#include "controls/Applicazione.h"
+#include "base/Cartella.h"
+#include "controls/Comandi.h"
+#include "serial/PortaAsio.h"
+#include "conditional/VigilioVicino.h"
+#include "vision/frmCamera.h"
+#include "movelists/frmEditor.h"
+#include "filebrowser/frmEsploraFile.h"
+#include "console/frmPrincipale.h"
+#include "conditional/frmProcessor.h"
 
 #include <QApplication>
 

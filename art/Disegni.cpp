@@ -1,4 +1,4 @@
-#include "Disegni.h"
+#include "art/Disegni.h"
 
 #include <QGuiApplication>
 #include <QPixmap>

@@ -1,7 +1,7 @@
 // What the mouse costs over the head and over a colour list, and the arrows' animation.
-#include "PortaAsio.h"
-#include "Terminale.h"
-#include "frmPrincipale.h"
+#include "serial/PortaAsio.h"
+#include "benchmarks/Terminale.h"
+#include "console/frmPrincipale.h"
 
 #include <QApplication>
 #include <QMouseEvent>

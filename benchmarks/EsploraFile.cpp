@@ -1,10 +1,10 @@
 // The file browser: how long after its last byte a file is on the disk, how the program answers
 // during a fetch at the line's speed, and whether a long listing slows down.
-#include "Pompa.h"
-#include "PortaAsio.h"
-#include "Terminale.h"
-#include "frmEsploraFile.h"
-#include "frmPrincipale.h"
+#include "base/Pompa.h"
+#include "serial/PortaAsio.h"
+#include "benchmarks/Terminale.h"
+#include "filebrowser/frmEsploraFile.h"
+#include "console/frmPrincipale.h"
 
 #include <QApplication>
 #include <QTimer>

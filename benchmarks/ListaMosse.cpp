@@ -1,12 +1,12 @@
 // Move lists: the longest one loaded and shown, scrolled, its lines read; the time that a run of
 // short pauses takes.
-#include "Archivio.h"
-#include "ControlloSeriale.h"
-#include "FileMosse.h"
-#include "Mossa.h"
-#include "PortaAsio.h"
-#include "Terminale.h"
-#include "frmEditor.h"
+#include "base/Archivio.h"
+#include "serial/ControlloSeriale.h"
+#include "movelists/FileMosse.h"
+#include "movelists/Mossa.h"
+#include "serial/PortaAsio.h"
+#include "benchmarks/Terminale.h"
+#include "movelists/frmEditor.h"
 
 #include <QApplication>
 #include <QScrollBar>

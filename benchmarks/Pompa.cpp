@@ -1,8 +1,8 @@
 // How long the message pump's idle rounds take, and how much of a core they use: a wait of 100000
 // rounds is to last 3 to 6 seconds and to leave three quarters of a core alone.
-#include "Pompa.h"
-#include "Barre.h"
-#include "Temporizzatore.h"
+#include "base/Pompa.h"
+#include "controls/Barre.h"
+#include "controls/Temporizzatore.h"
 
 #include <benchmark/benchmark.h>
 #include <ctime>

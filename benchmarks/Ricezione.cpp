@@ -1,9 +1,9 @@
 // How fast the receive engine is: bytes from the pseudo-terminal to the console's controls, and the
 // time a telegram takes with little and with much waiting behind it.
-#include "Pompa.h"
-#include "PortaAsio.h"
-#include "Terminale.h"
-#include "frmPrincipale.h"
+#include "base/Pompa.h"
+#include "serial/PortaAsio.h"
+#include "benchmarks/Terminale.h"
+#include "console/frmPrincipale.h"
 
 #include <benchmark/benchmark.h>
 #include <thread>

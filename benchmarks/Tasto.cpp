@@ -1,9 +1,9 @@
 // How long it takes from a key press to the first byte of its command at the far end of the
 // pseudo-terminal, with a robot that goes on sending telemetry.
-#include "Pompa.h"
-#include "PortaAsio.h"
-#include "Terminale.h"
-#include "frmPrincipale.h"
+#include "base/Pompa.h"
+#include "serial/PortaAsio.h"
+#include "benchmarks/Terminale.h"
+#include "console/frmPrincipale.h"
 
 #include <QApplication>
 #include <QKeyEvent>

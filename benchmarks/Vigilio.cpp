@@ -1,13 +1,13 @@
 // The runner with a thousand lists: a telemetry text against all their conditions, the start with
 // its check for conflicts, and the time from the last byte of a temperature on the wire to the
 // first byte of the list that it starts.
-#include "Pompa.h"
-#include "PortaAsio.h"
-#include "Terminale.h"
-#include "VigilioVicino.h"
-#include "frmEditor.h"
-#include "frmPrincipale.h"
-#include "frmProcessor.h"
+#include "base/Pompa.h"
+#include "serial/PortaAsio.h"
+#include "benchmarks/Terminale.h"
+#include "conditional/VigilioVicino.h"
+#include "movelists/frmEditor.h"
+#include "console/frmPrincipale.h"
+#include "conditional/frmProcessor.h"
 
 #include <QApplication>
 #include <benchmark/benchmark.h>

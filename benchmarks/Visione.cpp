@@ -1,11 +1,11 @@
 // The video window: decoding, searching, painting, and frames as fast as a pseudo-terminal brings
 // them.
-#include "Pompa.h"
-#include "PortaAsio.h"
-#include "Ricerca.h"
-#include "Terminale.h"
-#include "frmCamera.h"
-#include "frmPrincipale.h"
+#include "base/Pompa.h"
+#include "serial/PortaAsio.h"
+#include "vision/Ricerca.h"
+#include "benchmarks/Terminale.h"
+#include "vision/frmCamera.h"
+#include "console/frmPrincipale.h"
 
 #include <QApplication>
 #include <QTimer>

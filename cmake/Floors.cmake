@@ -1,11 +1,11 @@
 option(LUMBRA_PCH "The large headers that all tests include are compiled once" ON)
 
-# floor(name SOURCES ... LINKS ...): one folder, one static library. Its headers are found only by
-# who links it, so that an include against the floors does not compile.
+# floor(name SOURCES ... LINKS ...): one folder, one static library. An include says its folder; that
+# none runs upward is a test of tests/rules.
 function(floor name)
     cmake_parse_arguments(P "" "" "SOURCES;LINKS" ${ARGN})
     add_library(${name} STATIC ${P_SOURCES})
-    target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
     target_link_libraries(${name} PUBLIC ${P_LINKS} PRIVATE warnings)
 endfunction()
 

@@ -1,6 +1,6 @@
-#include "Condizione.h"
+#include "conditional/Condizione.h"
 
-#include "Numeri.h"
+#include "base/Numeri.h"
 
 #include <QStringList>
 

@@ -1,8 +1,8 @@
-#include "ProgDat.h"
+#include "conditional/ProgDat.h"
 
-#include "Codifica.h"
-#include "Condizione.h"
-#include "FileProgDat.h"
+#include "base/Codifica.h"
+#include "conditional/Condizione.h"
+#include "shell/FileProgDat.h"
 
 namespace ProgDat {
 

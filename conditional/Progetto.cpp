@@ -1,8 +1,8 @@
-#include "Progetto.h"
+#include "conditional/Progetto.h"
 
-#include "Codifica.h"
-#include "Errore.h"
-#include "Numeri.h"
+#include "base/Codifica.h"
+#include "base/Errore.h"
+#include "base/Numeri.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include "PulsanteAvvia.h"
+#include "conditional/PulsanteAvvia.h"
 
-#include "Disegni.h"
+#include "art/Disegni.h"
 
 using namespace Qt::StringLiterals;
 

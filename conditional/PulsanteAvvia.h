@@ -2,7 +2,7 @@
 // written it.
 #pragma once
 
-#include "Pulsanti.h"
+#include "controls/Pulsanti.h"
 
 class PulsanteAvvia : public Pulsante
 {

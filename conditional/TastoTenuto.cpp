@@ -1,8 +1,8 @@
-#include "TastoTenuto.h"
+#include "conditional/TastoTenuto.h"
 
-#include "CasellaTesto.h"
-#include "Combo.h"
-#include "Tasti.h"
+#include "controls/CasellaTesto.h"
+#include "controls/Combo.h"
+#include "controls/Tasti.h"
 
 #include <QKeyEvent>
 #include <utility>

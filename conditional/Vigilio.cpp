@@ -1,4 +1,4 @@
-#include "Vigilio.h"
+#include "conditional/Vigilio.h"
 
 Vigilio::Avvio::Avvio(Vigilio &vigilio) : m_vigilio(vigilio)
 {

@@ -1,6 +1,6 @@
-#include "VigilioVicino.h"
+#include "conditional/VigilioVicino.h"
 
-#include "frmProcessor.h"
+#include "conditional/frmProcessor.h"
 
 void VigilioVicino::mostra()
 {

@@ -1,7 +1,7 @@
 // The runner, as the editor sees it.
 #pragma once
 
-#include "Vicini.h"
+#include "movelists/Vicini.h"
 
 class frmProcessor;
 

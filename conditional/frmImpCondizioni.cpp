@@ -1,8 +1,8 @@
-#include "frmImpCondizioni.h"
+#include "conditional/frmImpCondizioni.h"
 
-#include "Archivio.h"
-#include "Numeri.h"
-#include "ProgDat.h"
+#include "base/Archivio.h"
+#include "base/Numeri.h"
+#include "conditional/ProgDat.h"
 
 #include <algorithm>
 

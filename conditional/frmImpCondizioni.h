@@ -2,18 +2,18 @@
 // field, of which only those that are active go into the condition.
 #pragma once
 
-#include "ArrayControlli.h"
-#include "CasellaTesto.h"
-#include "Combo.h"
-#include "Condizione.h"
-#include "Cornice.h"
-#include "Disegni.h"
-#include "Elenco.h"
-#include "Finestra.h"
-#include "Grafica.h"
-#include "Pulsanti.h"
-#include "TastoTenuto.h"
-#include "Vicini.h"
+#include "controls/ArrayControlli.h"
+#include "controls/CasellaTesto.h"
+#include "controls/Combo.h"
+#include "conditional/Condizione.h"
+#include "controls/Cornice.h"
+#include "art/Disegni.h"
+#include "controls/Elenco.h"
+#include "controls/Finestra.h"
+#include "controls/Grafica.h"
+#include "controls/Pulsanti.h"
+#include "conditional/TastoTenuto.h"
+#include "movelists/Vicini.h"
 
 using namespace Qt::StringLiterals;
 

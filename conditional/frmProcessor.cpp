@@ -1,16 +1,16 @@
 // The window: its lines, its project, what it asks.
-#include "frmProcessor.h"
+#include "conditional/frmProcessor.h"
 
-#include "Archivio.h"
-#include "Cartella.h"
-#include "Condizione.h"
-#include "Gest_File.h"
-#include "Messaggi.h"
-#include "Numeri.h"
-#include "ProgDat.h"
-#include "Tasti.h"
-#include "VisErrori.h"
-#include "frmEditor.h"
+#include "base/Archivio.h"
+#include "base/Cartella.h"
+#include "conditional/Condizione.h"
+#include "shell/Gest_File.h"
+#include "controls/Messaggi.h"
+#include "base/Numeri.h"
+#include "conditional/ProgDat.h"
+#include "controls/Tasti.h"
+#include "shell/VisErrori.h"
+#include "movelists/frmEditor.h"
 
 #include <QFileInfo>
 #include <QHash>

@@ -1,18 +1,18 @@
 // The Vigilio: which lists take part, under which condition, and the engine that starts them.
 #pragma once
 
-#include "Ascoltatori.h"
-#include "ConsoleVigilio.h"
-#include "Elenco.h"
-#include "ElencoFile.h"
-#include "Finestra.h"
-#include "FinestraFile.h"
-#include "Progetto.h"
-#include "PulsanteAvvia.h"
-#include "Vicini.h"
-#include "Vigilio.h"
-#include "VoceMenu.h"
-#include "frmImpCondizioni.h"
+#include "link/Ascoltatori.h"
+#include "conditional/ConsoleVigilio.h"
+#include "controls/Elenco.h"
+#include "controls/ElencoFile.h"
+#include "controls/Finestra.h"
+#include "controls/FinestraFile.h"
+#include "conditional/Progetto.h"
+#include "conditional/PulsanteAvvia.h"
+#include "movelists/Vicini.h"
+#include "conditional/Vigilio.h"
+#include "controls/VoceMenu.h"
+#include "conditional/frmImpCondizioni.h"
 
 using namespace Qt::StringLiterals;
 

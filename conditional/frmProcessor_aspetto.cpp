@@ -1,7 +1,7 @@
 // How the window looks, and its design values.
-#include "frmProcessor.h"
+#include "conditional/frmProcessor.h"
 
-#include "Condizione.h"
+#include "conditional/Condizione.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

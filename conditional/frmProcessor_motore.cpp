@@ -1,9 +1,9 @@
 // The engine: start and stop, and what telemetry starts. The clock's part is the editor's.
-#include "frmProcessor.h"
+#include "conditional/frmProcessor.h"
 
-#include "Condizione.h"
-#include "Messaggi.h"
-#include "frmEditor.h"
+#include "conditional/Condizione.h"
+#include "controls/Messaggi.h"
+#include "movelists/frmEditor.h"
 
 #include <vector>
 

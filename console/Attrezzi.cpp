@@ -1,6 +1,6 @@
-#include "Attrezzi.h"
+#include "console/Attrezzi.h"
 
-#include "ComandiTessaro.h"
+#include "link/ComandiTessaro.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 // The robot's small switches: position LED, tools, gripper, photo.
 #pragma once
 
-#include "Azione.h"
+#include "console/Azione.h"
 
 namespace Attrezzi {
 

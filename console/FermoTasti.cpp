@@ -1,4 +1,4 @@
-#include "FermoTasti.h"
+#include "console/FermoTasti.h"
 
 namespace {
 

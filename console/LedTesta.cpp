@@ -1,6 +1,6 @@
-#include "LedTesta.h"
+#include "console/LedTesta.h"
 
-#include "ComandiTessaro.h"
+#include "link/ComandiTessaro.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 // The head's LEDs as the console shows them: sides, rows of the colour lists, the hover arrows.
 #pragma once
 
-#include "Azione.h"
+#include "console/Azione.h"
 
 #include <array>
 

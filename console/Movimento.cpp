@@ -1,8 +1,8 @@
-#include "Movimento.h"
+#include "console/Movimento.h"
 
-#include "ComandiTessaro.h"
-#include "Numeri.h"
-#include "Tasti.h"
+#include "link/ComandiTessaro.h"
+#include "base/Numeri.h"
+#include "controls/Tasti.h"
 
 #include <array>
 

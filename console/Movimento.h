@@ -1,7 +1,7 @@
 // What the arrow keys, the arrows on screen and STOP mean, said without a window.
 #pragma once
 
-#include "Azione.h"
+#include "console/Azione.h"
 
 #include <optional>
 

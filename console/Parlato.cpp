@@ -1,8 +1,8 @@
-#include "Parlato.h"
+#include "console/Parlato.h"
 
-#include "ComandiTessaro.h"
-#include "FrasiSuoni.h"
-#include "Numeri.h"
+#include "link/ComandiTessaro.h"
+#include "link/FrasiSuoni.h"
+#include "base/Numeri.h"
 
 using namespace Qt::StringLiterals;
 

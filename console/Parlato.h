@@ -1,7 +1,7 @@
 // Phrases, sounds, recorded messages and internal programs: what each does, and what panel 3 shows.
 #pragma once
 
-#include "Azione.h"
+#include "console/Azione.h"
 
 // The actions take the text of their box, and its number when they run: one that does not fit is
 // Errore::Overflow there.

@@ -1,4 +1,4 @@
-#include "Targa.h"
+#include "console/Targa.h"
 
 namespace {
 

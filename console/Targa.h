@@ -1,7 +1,7 @@
 // A label that looks like a button, on the shape that is its plate: both sink while it is pressed.
 #pragma once
 
-#include "Grafica.h"
+#include "controls/Grafica.h"
 
 class Targa
 {

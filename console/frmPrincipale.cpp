@@ -1,15 +1,15 @@
 // The window as a whole: start, end, toolbar, control modes, the send-or-list rule.
-#include "frmPrincipale.h"
+#include "console/frmPrincipale.h"
 
-#include "Abilita_Disabilita.h"
-#include "Archivio.h"
-#include "Codifica.h"
-#include "Collocazione.h"
-#include "FileProgDat.h"
-#include "ListaMosse.h"
-#include "Messaggi.h"
-#include "Numeri.h"
-#include "Pompa.h"
+#include "shell/Abilita_Disabilita.h"
+#include "base/Archivio.h"
+#include "base/Codifica.h"
+#include "console/Collocazione.h"
+#include "shell/FileProgDat.h"
+#include "movelists/ListaMosse.h"
+#include "controls/Messaggi.h"
+#include "base/Numeri.h"
+#include "base/Pompa.h"
 
 #include <QDir>
 #include <QScopedValueRollback>

@@ -1,19 +1,19 @@
 // The console: the main window, from the program's start to its end.
 #pragma once
 
-#include "ArrayControlli.h"
-#include "Azione.h"
-#include "Barre.h"
-#include "Combo.h"
-#include "Disegni.h"
-#include "Elenco.h"
-#include "FermoTasti.h"
-#include "Finestra.h"
-#include "MotoreRicezione.h"
-#include "Sessione.h"
-#include "Targa.h"
-#include "VoceMenu.h"
-#include "frmOpzioni.h"
+#include "controls/ArrayControlli.h"
+#include "console/Azione.h"
+#include "controls/Barre.h"
+#include "controls/Combo.h"
+#include "art/Disegni.h"
+#include "controls/Elenco.h"
+#include "console/FermoTasti.h"
+#include "controls/Finestra.h"
+#include "link/MotoreRicezione.h"
+#include "link/Sessione.h"
+#include "console/Targa.h"
+#include "controls/VoceMenu.h"
+#include "shell/frmOpzioni.h"
 
 #include <QGroupBox>
 

@@ -1,7 +1,7 @@
 // How the console looks: where its controls stand, in logical pixels, and their tool tips.
-#include "Attrezzi.h"
-#include "LedTesta.h"
-#include "frmPrincipale.h"
+#include "console/Attrezzi.h"
+#include "console/LedTesta.h"
+#include "console/frmPrincipale.h"
 
 #include <QApplication>
 #include <QLineEdit>

@@ -1,7 +1,7 @@
 // Motion control: keys, arrows, latch, STOP.
-#include "Movimento.h"
-#include "Tasti.h"
-#include "frmPrincipale.h"
+#include "console/Movimento.h"
+#include "controls/Tasti.h"
+#include "console/frmPrincipale.h"
 
 #include <QKeyEvent>
 #include <utility>

@@ -1,8 +1,8 @@
 // Head LEDs, position LED, tools, gripper, photo.
-#include "Abilita_Disabilita.h"
-#include "Attrezzi.h"
-#include "LedTesta.h"
-#include "frmPrincipale.h"
+#include "shell/Abilita_Disabilita.h"
+#include "console/Attrezzi.h"
+#include "console/LedTesta.h"
+#include "console/frmPrincipale.h"
 
 using Attrezzi::Lato;
 

@@ -1,4 +1,4 @@
-#include "ElencoCrescente.h"
+#include "filebrowser/ElencoCrescente.h"
 
 #include <QTimerEvent>
 

@@ -1,7 +1,7 @@
 // A list that a long listing fills row by row.
 #pragma once
 
-#include "Elenco.h"
+#include "controls/Elenco.h"
 
 #include <QBasicTimer>
 

@@ -1,6 +1,6 @@
-#include "Foto.h"
+#include "filebrowser/Foto.h"
 
-#include "Errore.h"
+#include "base/Errore.h"
 
 #include <QImageReader>
 

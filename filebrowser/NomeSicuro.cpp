@@ -1,6 +1,6 @@
-#include "NomeSicuro.h"
+#include "filebrowser/NomeSicuro.h"
 
-#include "Cartella.h"
+#include "base/Cartella.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>

@@ -1,4 +1,4 @@
-#include "Nomi.h"
+#include "filebrowser/Nomi.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>

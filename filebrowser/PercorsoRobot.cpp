@@ -1,4 +1,4 @@
-#include "PercorsoRobot.h"
+#include "filebrowser/PercorsoRobot.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,14 +1,14 @@
-#include "Prelievo.h"
+#include "filebrowser/Prelievo.h"
 
-#include "Cartella.h"
-#include "Codifica.h"
-#include "ComandiTessaro.h"
-#include "Foto.h"
-#include "Gest_File.h"
-#include "NomeSicuro.h"
-#include "Pompa.h"
-#include "Se_Casi.h"
-#include "frmEsploraFile.h"
+#include "base/Cartella.h"
+#include "base/Codifica.h"
+#include "link/ComandiTessaro.h"
+#include "filebrowser/Foto.h"
+#include "shell/Gest_File.h"
+#include "filebrowser/NomeSicuro.h"
+#include "base/Pompa.h"
+#include "shell/Se_Casi.h"
+#include "filebrowser/frmEsploraFile.h"
 
 #include <QFileInfo>
 

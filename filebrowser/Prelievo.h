@@ -1,9 +1,9 @@
 // The conversation with the robot's storage: from the request to its last telegram.
 #pragma once
 
-#include "Ascoltatori.h"
-#include "Barre.h"
-#include "ControlloSeriale.h"
+#include "link/Ascoltatori.h"
+#include "controls/Barre.h"
+#include "serial/ControlloSeriale.h"
 
 #include <optional>
 

@@ -1,9 +1,9 @@
-#include "frmEsploraFile.h"
+#include "filebrowser/frmEsploraFile.h"
 
-#include "Codifica.h"
-#include "Foto.h"
-#include "PercorsoRobot.h"
-#include "Tasti.h"
+#include "base/Codifica.h"
+#include "filebrowser/Foto.h"
+#include "filebrowser/PercorsoRobot.h"
+#include "controls/Tasti.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
 // Walks the folders of the robot's storage, fetches a file, shows a fetched photo.
 #pragma once
 
-#include "Disegni.h"
-#include "ElencoCrescente.h"
-#include "EtichettaAbbreviata.h"
-#include "Finestra.h"
-#include "Nomi.h"
-#include "Prelievo.h"
+#include "art/Disegni.h"
+#include "filebrowser/ElencoCrescente.h"
+#include "controls/EtichettaAbbreviata.h"
+#include "controls/Finestra.h"
+#include "filebrowser/Nomi.h"
+#include "filebrowser/Prelievo.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,5 +1,5 @@
 // How the window looks: what the layout rule leaves alone stands here, in layout units.
-#include "frmEsploraFile.h"
+#include "filebrowser/frmEsploraFile.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // Any bytes as a list file: reading it and running its lines past a line that takes everything
 // never does more than fail.
-#include "Archivio.h"
-#include "Errore.h"
-#include "FileMosse.h"
-#include "Mossa.h"
+#include "base/Archivio.h"
+#include "base/Errore.h"
+#include "movelists/FileMosse.h"
+#include "movelists/Mossa.h"
 
 #include <QDir>
 #include <QFile>

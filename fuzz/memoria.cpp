@@ -1,9 +1,9 @@
 // Any bytes as the answers of the robot's storage, while the user double-clicks what they list:
 // nothing is written outside the program's folder, nor over the program's own files.
-#include "Applicazione.h"
-#include "MotoreRicezione.h"
-#include "PortaFinta.h"
-#include "frmEsploraFile.h"
+#include "fuzz/SenzaSchermo.h"
+#include "link/MotoreRicezione.h"
+#include "tests/support/PortaFinta.h"
+#include "filebrowser/frmEsploraFile.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,8 +1,8 @@
 // The number scan, truth values, and the port file.
-#include "Numeri.h"
-#include "Archivio.h"
-#include "Codifica.h"
-#include "Errore.h"
+#include "base/Numeri.h"
+#include "base/Archivio.h"
+#include "base/Codifica.h"
+#include "base/Errore.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,10 +1,10 @@
 // The receive engine: bytes in any cuts. What comes in must be cut off again, whatever it is, and
 // after enough zeros the next telegram is understood.
-#include "Applicazione.h"
-#include "Banco.h"
-#include "Pompa.h"
-#include "PortaFinta.h"
-#include "Scritte.h"
+#include "fuzz/SenzaSchermo.h"
+#include "tests/link/BancoLink.h"
+#include "base/Pompa.h"
+#include "tests/support/PortaFinta.h"
+#include "tests/support/Scritte.h"
 
 #include <QTemporaryDir>
 #include <cstdlib>

@@ -1,12 +1,12 @@
 // Any bytes as a project file, as "prog.dat" and as conditions: reading them, comparing them, and
 // testing them against telemetry never does more than fail; what was read without quotes in its
 // texts is read again from what is written of it.
-#include "Codifica.h"
-#include "Condizione.h"
-#include "Errore.h"
-#include "FileProgDat.h"
-#include "OraDiLista.h"
-#include "Progetto.h"
+#include "base/Codifica.h"
+#include "conditional/Condizione.h"
+#include "base/Errore.h"
+#include "shell/FileProgDat.h"
+#include "movelists/OraDiLista.h"
+#include "conditional/Progetto.h"
 
 #include <cstddef>
 #include <cstdint>

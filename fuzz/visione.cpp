@@ -1,13 +1,13 @@
 // The file of the stored pictures and the rows of the video: foreign bytes, read, searched for,
 // drawn. Every failure has to be an Errore.
-#include "ArchivioImmagini.h"
-#include "Codifica.h"
-#include "Fotogramma.h"
-#include "Mosaico.h"
-#include "NomeDoppio.h"
-#include "Numeri.h"
-#include "RecordImmagine.h"
-#include "Ricerca.h"
+#include "vision/ArchivioImmagini.h"
+#include "base/Codifica.h"
+#include "vision/Fotogramma.h"
+#include "vision/Mosaico.h"
+#include "vision/NomeDoppio.h"
+#include "base/Numeri.h"
+#include "vision/RecordImmagine.h"
+#include "vision/Ricerca.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
-#include "Accumulatore.h"
+#include "link/Accumulatore.h"
 
-#include "Codifica.h"
+#include "base/Codifica.h"
 
 QByteArray Accumulatore::parte(qsizetype posto, qsizetype quanti) const
 {

@@ -1,7 +1,7 @@
 // What the robot sent and nobody has cut into telegrams yet.
 #pragma once
 
-#include "Temporizzatore.h"
+#include "controls/Temporizzatore.h"
 
 #include <QByteArray>
 #include <functional>

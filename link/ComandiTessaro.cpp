@@ -1,6 +1,6 @@
-#include "ComandiTessaro.h"
+#include "link/ComandiTessaro.h"
 
-#include "Messaggi.h"
+#include "controls/Messaggi.h"
 
 #include <QScopedValueRollback>
 #include <array>

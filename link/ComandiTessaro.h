@@ -1,8 +1,8 @@
 // The whole outward wire protocol: one routine for each command that the robot understands.
 #pragma once
 
-#include "ControlloSeriale.h"
-#include "Errore.h"
+#include "serial/ControlloSeriale.h"
+#include "base/Errore.h"
 
 #include <functional>
 

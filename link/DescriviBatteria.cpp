@@ -1,4 +1,4 @@
-#include "DescriviBatteria.h"
+#include "link/DescriviBatteria.h"
 
 #include <array>
 

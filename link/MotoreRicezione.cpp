@@ -1,9 +1,9 @@
-#include "MotoreRicezione.h"
+#include "link/MotoreRicezione.h"
 
-#include "Abilita_Disabilita.h"
-#include "DescriviBatteria.h"
-#include "Gest_Variabili.h"
-#include "Pompa.h"
+#include "shell/Abilita_Disabilita.h"
+#include "link/DescriviBatteria.h"
+#include "shell/Gest_Variabili.h"
+#include "base/Pompa.h"
 
 #include <QTimer>
 

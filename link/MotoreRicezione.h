@@ -1,11 +1,11 @@
 // The receive engine: cuts what the robot sends into telegrams and shows what they tell.
 #pragma once
 
-#include "Accumulatore.h"
-#include "Ascoltatori.h"
-#include "Barre.h"
-#include "ControlloSeriale.h"
-#include "Scatto.h"
+#include "link/Accumulatore.h"
+#include "link/Ascoltatori.h"
+#include "controls/Barre.h"
+#include "serial/ControlloSeriale.h"
+#include "link/Scatto.h"
 
 // The console's controls that telegrams change.
 struct ControlliTelemetria

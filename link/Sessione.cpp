@@ -1,14 +1,14 @@
-#include "Sessione.h"
+#include "link/Sessione.h"
 
-#include "Abilita_Disabilita.h"
-#include "Archivio.h"
-#include "Codifica.h"
-#include "Comandi.h"
-#include "Gest_File.h"
-#include "Messaggi.h"
-#include "Numeri.h"
-#include "Pompa.h"
-#include "VisErrori.h"
+#include "shell/Abilita_Disabilita.h"
+#include "base/Archivio.h"
+#include "base/Codifica.h"
+#include "controls/Comandi.h"
+#include "shell/Gest_File.h"
+#include "controls/Messaggi.h"
+#include "base/Numeri.h"
+#include "base/Pompa.h"
+#include "shell/VisErrori.h"
 
 #include <utility>
 

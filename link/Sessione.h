@@ -2,11 +2,11 @@
 // ending.
 #pragma once
 
-#include "Barre.h"
-#include "ComandiTessaro.h"
-#include "MotoreRicezione.h"
-#include "frmImpostaPorta.h"
-#include "frmSchermataIniziale.h"
+#include "controls/Barre.h"
+#include "link/ComandiTessaro.h"
+#include "link/MotoreRicezione.h"
+#include "link/frmImpostaPorta.h"
+#include "shell/frmSchermataIniziale.h"
 
 // The controls of the console that the session reads and sets.
 struct ControlliSessione

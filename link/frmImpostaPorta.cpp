@@ -1,4 +1,4 @@
-#include "frmImpostaPorta.h"
+#include "link/frmImpostaPorta.h"
 
 #include <QGridLayout>
 

@@ -1,9 +1,9 @@
 // Asks for the number of the serial port.
 #pragma once
 
-#include "Finestra.h"
-#include "Grafica.h"
-#include "NumeroPorta.h"
+#include "controls/Finestra.h"
+#include "controls/Grafica.h"
+#include "shell/NumeroPorta.h"
 
 class frmImpostaPorta : public Finestra
 {

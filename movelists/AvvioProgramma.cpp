@@ -1,6 +1,6 @@
-#include "AvvioProgramma.h"
+#include "movelists/AvvioProgramma.h"
 
-#include "Cartella.h"
+#include "base/Cartella.h"
 
 #include <QFileInfo>
 #include <QProcess>

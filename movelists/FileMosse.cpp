@@ -1,8 +1,8 @@
-#include "FileMosse.h"
+#include "movelists/FileMosse.h"
 
-#include "Archivio.h"
-#include "Codifica.h"
-#include "Numeri.h"
+#include "base/Archivio.h"
+#include "base/Codifica.h"
+#include "base/Numeri.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 // The list file: a count, then the lines.
 #pragma once
 
-#include "Errore.h"
+#include "base/Errore.h"
 
 #include <QByteArray>
 #include <QString>

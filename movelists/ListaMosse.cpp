@@ -1,8 +1,8 @@
-#include "ListaMosse.h"
+#include "movelists/ListaMosse.h"
 
-#include "FileMosse.h"
-#include "Messaggi.h"
-#include "Numeri.h"
+#include "movelists/FileMosse.h"
+#include "controls/Messaggi.h"
+#include "base/Numeri.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 // The document: the lines of a move list, kept in the list control and nowhere else.
 #pragma once
 
-#include "Elenco.h"
+#include "controls/Elenco.h"
 
 class ListaMosse
 {

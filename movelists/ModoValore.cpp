@@ -1,7 +1,7 @@
-#include "ModoValore.h"
+#include "movelists/ModoValore.h"
 
-#include "FrasiSuoni.h"
-#include "Numeri.h"
+#include "link/FrasiSuoni.h"
+#include "base/Numeri.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 // The move language: what a line commands, and how long it takes.
 #pragma once
 
-#include "ControlloSeriale.h"
+#include "serial/ControlloSeriale.h"
 
 #include <QString>
 #include <functional>

@@ -1,6 +1,6 @@
-#include "OraDiLista.h"
+#include "movelists/OraDiLista.h"
 
-#include "Numeri.h"
+#include "base/Numeri.h"
 
 bool oraDiLista(QStringView condizione, QStringView adesso)
 {

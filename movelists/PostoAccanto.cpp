@@ -1,4 +1,4 @@
-#include "PostoAccanto.h"
+#include "movelists/PostoAccanto.h"
 
 #include <QRegion>
 #include <algorithm>

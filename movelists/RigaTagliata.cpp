@@ -1,4 +1,4 @@
-#include "RigaTagliata.h"
+#include "movelists/RigaTagliata.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

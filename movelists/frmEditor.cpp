@@ -1,12 +1,12 @@
 // The window: editing, and the places where a run and the runner meet it.
-#include "frmEditor.h"
+#include "movelists/frmEditor.h"
 
-#include "Cartella.h"
-#include "Messaggi.h"
-#include "ModoValore.h"
-#include "Numeri.h"
-#include "Pompa.h"
-#include "Tasti.h"
+#include "base/Cartella.h"
+#include "controls/Messaggi.h"
+#include "movelists/ModoValore.h"
+#include "base/Numeri.h"
+#include "base/Pompa.h"
+#include "controls/Tasti.h"
 
 #include <QDir>
 #include <QWindow>

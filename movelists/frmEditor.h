@@ -1,15 +1,15 @@
 // The Sequor: the window in which a move list is built, stored and run.
 #pragma once
 
-#include "Disegni.h"
-#include "Elenco.h"
-#include "EtichettaAbbreviata.h"
-#include "FinestraFile.h"
-#include "Grafica.h"
-#include "Temporizzatore.h"
-#include "Vicini.h"
-#include "VoceMenu.h"
-#include "frmValore.h"
+#include "art/Disegni.h"
+#include "controls/Elenco.h"
+#include "controls/EtichettaAbbreviata.h"
+#include "controls/FinestraFile.h"
+#include "controls/Grafica.h"
+#include "controls/Temporizzatore.h"
+#include "movelists/Vicini.h"
+#include "controls/VoceMenu.h"
+#include "movelists/frmValore.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 // How the window looks, and its design values.
-#include "PostoAccanto.h"
-#include "RigaTagliata.h"
-#include "frmEditor.h"
+#include "movelists/PostoAccanto.h"
+#include "movelists/RigaTagliata.h"
+#include "movelists/frmEditor.h"
 
 #include <QApplication>
 #include <QHBoxLayout>

@@ -1,12 +1,12 @@
 // The run: the selection walks down the list, one line a tick.
-#include "frmEditor.h"
+#include "movelists/frmEditor.h"
 
-#include "AvvioProgramma.h"
-#include "ControlloSeriale.h"
-#include "Messaggi.h"
-#include "Mossa.h"
-#include "Numeri.h"
-#include "OraDiLista.h"
+#include "movelists/AvvioProgramma.h"
+#include "serial/ControlloSeriale.h"
+#include "controls/Messaggi.h"
+#include "movelists/Mossa.h"
+#include "base/Numeri.h"
+#include "movelists/OraDiLista.h"
 
 namespace {
 

@@ -1,14 +1,14 @@
 // The file commands, and what they ask.
-#include "frmEditor.h"
+#include "movelists/frmEditor.h"
 
-#include "Archivio.h"
-#include "Cartella.h"
-#include "FileMosse.h"
-#include "Gest_File.h"
-#include "ListaMosse.h"
-#include "Messaggi.h"
-#include "Numeri.h"
-#include "VisErrori.h"
+#include "base/Archivio.h"
+#include "base/Cartella.h"
+#include "movelists/FileMosse.h"
+#include "shell/Gest_File.h"
+#include "movelists/ListaMosse.h"
+#include "controls/Messaggi.h"
+#include "base/Numeri.h"
+#include "shell/VisErrori.h"
 
 #include <QDir>
 

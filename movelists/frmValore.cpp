@@ -1,9 +1,9 @@
-#include "frmValore.h"
+#include "movelists/frmValore.h"
 
-#include "AggiungiALista.h"
-#include "Messaggi.h"
-#include "ModoValore.h"
-#include "Numeri.h"
+#include "shell/AggiungiALista.h"
+#include "controls/Messaggi.h"
+#include "movelists/ModoValore.h"
+#include "base/Numeri.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>

@@ -1,10 +1,10 @@
 // Asks for the number of a line: of a pause, a phrase, a sound or a loop, as its Tag says.
 #pragma once
 
-#include "CasellaTesto.h"
-#include "Combo.h"
-#include "Finestra.h"
-#include "Grafica.h"
+#include "controls/CasellaTesto.h"
+#include "controls/Combo.h"
+#include "controls/Finestra.h"
+#include "controls/Grafica.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,6 @@
-#include "FileProgDat.h"
+#include "shell/FileProgDat.h"
 
-#include "Gest_File.h"
+#include "shell/Gest_File.h"
 
 #include <QDateTime>
 #include <QDir>

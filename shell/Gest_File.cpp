@@ -1,7 +1,7 @@
-#include "Gest_File.h"
+#include "shell/Gest_File.h"
 
-#include "Archivio.h"
-#include "Errore.h"
+#include "base/Archivio.h"
+#include "base/Errore.h"
 
 QByteArray LeggiFile(const QString &nome, quint8 modo)
 {

@@ -1,6 +1,6 @@
-#include "Gest_Variabili.h"
+#include "shell/Gest_Variabili.h"
 
-#include "Errore.h"
+#include "base/Errore.h"
 
 #include <limits>
 

@@ -1,7 +1,7 @@
-#include "NumeroPorta.h"
+#include "shell/NumeroPorta.h"
 
-#include "Messaggi.h"
-#include "Numeri.h"
+#include "controls/Messaggi.h"
+#include "base/Numeri.h"
 
 #include <QGuiApplication>
 #include <utility>

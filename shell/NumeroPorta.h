@@ -1,9 +1,9 @@
 // The rules of the port number, alike in the two dialogs that ask for it.
 #pragma once
 
-#include "CasellaTesto.h"
-#include "Finestra.h"
-#include "Pulsanti.h"
+#include "controls/CasellaTesto.h"
+#include "controls/Finestra.h"
+#include "controls/Pulsanti.h"
 
 class NumeroPorta
 {

@@ -1,8 +1,8 @@
-#include "Stringhe.h"
+#include "shell/Stringhe.h"
 
-#include "Comandi.h"
-#include "Messaggi.h"
-#include "VisErrori.h"
+#include "controls/Comandi.h"
+#include "controls/Messaggi.h"
+#include "shell/VisErrori.h"
 
 using namespace Qt::StringLiterals;
 

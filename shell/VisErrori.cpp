@@ -1,8 +1,8 @@
-#include "VisErrori.h"
+#include "shell/VisErrori.h"
 
-#include "Errore.h"
-#include "Finestra.h"
-#include "Messaggi.h"
+#include "base/Errore.h"
+#include "controls/Finestra.h"
+#include "controls/Messaggi.h"
 
 #include <QApplication>
 #include <QWidget>

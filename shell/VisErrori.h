@@ -1,7 +1,7 @@
 // Shows an error to the user.
 #pragma once
 
-#include "Errore.h"
+#include "base/Errore.h"
 
 #include <QString>
 

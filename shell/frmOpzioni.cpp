@@ -1,10 +1,10 @@
-#include "frmOpzioni.h"
+#include "shell/frmOpzioni.h"
 
-#include "Archivio.h"
-#include "Codifica.h"
-#include "FileProgDat.h"
-#include "Gest_File.h"
-#include "Numeri.h"
+#include "base/Archivio.h"
+#include "base/Codifica.h"
+#include "shell/FileProgDat.h"
+#include "shell/Gest_File.h"
+#include "base/Numeri.h"
 
 #include <QGridLayout>
 #include <QGuiApplication>

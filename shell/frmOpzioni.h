@@ -1,10 +1,10 @@
 // The program's two settings: the port number, and whether to connect at the start.
 #pragma once
 
-#include "Cornice.h"
-#include "Finestra.h"
-#include "Grafica.h"
-#include "NumeroPorta.h"
+#include "controls/Cornice.h"
+#include "controls/Finestra.h"
+#include "controls/Grafica.h"
+#include "shell/NumeroPorta.h"
 
 class frmOpzioni : public Finestra
 {

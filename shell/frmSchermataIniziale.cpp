@@ -1,8 +1,8 @@
-#include "frmSchermataIniziale.h"
+#include "shell/frmSchermataIniziale.h"
 
-#include "Disegni.h"
-#include "Numeri.h"
-#include "Versione.h"
+#include "art/Disegni.h"
+#include "base/Numeri.h"
+#include "shell/Versione.h"
 
 #include <QHBoxLayout>
 #include <QScreen>

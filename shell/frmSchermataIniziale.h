@@ -1,9 +1,9 @@
 // The splash: what the user sees while the program starts and connects.
 #pragma once
 
-#include "Finestra.h"
-#include "Grafica.h"
-#include "Temporizzatore.h"
+#include "controls/Finestra.h"
+#include "controls/Grafica.h"
+#include "controls/Temporizzatore.h"
 
 class frmSchermataIniziale : public Finestra
 {

@@ -1,4 +1,4 @@
-#include "CollegamentoPorta.h"
+#include "simulator/CollegamentoPorta.h"
 #include <QDir>
 #include <QFileInfo>
 

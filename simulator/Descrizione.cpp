@@ -1,6 +1,6 @@
-#include "Descrizione.h"
-#include "StatoRobot.h"
-#include "Vocabolario.h"
+#include "simulator/Descrizione.h"
+#include "simulator/StatoRobot.h"
+#include "simulator/Vocabolario.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,5 +1,5 @@
 #pragma once
-#include "Riconoscitore.h"
+#include "simulator/Riconoscitore.h"
 
 inline namespace tessaro_sim {
 // Turns the bytes of one whole command into its meaning. `byte` must be one that the recogniser

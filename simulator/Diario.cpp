@@ -1,4 +1,4 @@
-#include "Diario.h"
+#include "simulator/Diario.h"
 #include <algorithm>
 
 using namespace Qt::StringLiterals;

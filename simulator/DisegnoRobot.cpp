@@ -1,7 +1,7 @@
-#include "DisegnoRobot.h"
-#include "ColoriLed.h"
-#include "Stanza.h"
-#include "StatoRobot.h"
+#include "simulator/DisegnoRobot.h"
+#include "simulator/ColoriLed.h"
+#include "simulator/Stanza.h"
+#include "simulator/StatoRobot.h"
 #include <QPainter>
 #include <QRadialGradient>
 

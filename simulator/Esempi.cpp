@@ -1,7 +1,7 @@
-#include "Esempi.h"
-#include "Prospettiva.h"
-#include "Stanza.h"
-#include "StatoRobot.h"
+#include "simulator/Esempi.h"
+#include "simulator/Prospettiva.h"
+#include "simulator/Stanza.h"
+#include "simulator/StatoRobot.h"
 #include <QDir>
 #include <QFile>
 #include <QtEndian>

@@ -1,4 +1,4 @@
-#include "Guasti.h"
+#include "simulator/Guasti.h"
 
 inline namespace tessaro_sim {
 bool FiltroGuasti::capita(double probabilita)

@@ -1,6 +1,6 @@
-#include "Linea.h"
+#include "simulator/Linea.h"
 #ifdef Q_OS_UNIX
-#include "LineaPty.h"
+#include "simulator/LineaPty.h"
 #endif
 
 inline namespace tessaro_sim {

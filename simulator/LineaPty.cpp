@@ -1,4 +1,4 @@
-#include "LineaPty.h"
+#include "simulator/LineaPty.h"
 #include <QFile>
 #include <array>
 #include <cerrno>

@@ -1,5 +1,5 @@
 #pragma once
-#include "Linea.h"
+#include "simulator/Linea.h"
 #include <QSocketNotifier>
 #include <memory>
 

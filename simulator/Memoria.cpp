@@ -1,7 +1,7 @@
-#include "Memoria.h"
-#include "Esempi.h"
-#include "Guasti.h"
-#include "Telegrammi.h"
+#include "simulator/Memoria.h"
+#include "simulator/Esempi.h"
+#include "simulator/Guasti.h"
+#include "simulator/Telegrammi.h"
 #include <QDir>
 #include <QTemporaryDir>
 

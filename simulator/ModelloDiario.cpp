@@ -1,4 +1,4 @@
-#include "ModelloDiario.h"
+#include "simulator/ModelloDiario.h"
 #include <QColor>
 #include <QLocale>
 

@@ -1,5 +1,5 @@
 #pragma once
-#include "Diario.h"
+#include "simulator/Diario.h"
 #include <QAbstractTableModel>
 
 inline namespace tessaro_sim {

@@ -1,7 +1,7 @@
-#include "Opzioni.h"
-#include "Memoria.h"
-#include "Simulatore.h"
-#include "Telecamera.h"
+#include "simulator/Opzioni.h"
+#include "simulator/Memoria.h"
+#include "simulator/Simulatore.h"
+#include "simulator/Telecamera.h"
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QTimer>

@@ -1,5 +1,5 @@
 #pragma once
-#include "Guasti.h"
+#include "simulator/Guasti.h"
 #include <QString>
 #include <QStringList>
 #include <array>

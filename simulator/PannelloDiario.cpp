@@ -1,6 +1,6 @@
-#include "PannelloDiario.h"
-#include "Diario.h"
-#include "ModelloDiario.h"
+#include "simulator/PannelloDiario.h"
+#include "simulator/Diario.h"
+#include "simulator/ModelloDiario.h"
 #include <QCheckBox>
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,5 +1,5 @@
-#include "PannelloLinea.h"
-#include "Simulatore.h"
+#include "simulator/PannelloLinea.h"
+#include "simulator/Simulatore.h"
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>

@@ -1,5 +1,5 @@
-#include "PannelloSensori.h"
-#include "Robot.h"
+#include "simulator/PannelloSensori.h"
+#include "simulator/Robot.h"
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>

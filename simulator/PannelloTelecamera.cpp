@@ -1,6 +1,6 @@
-#include "PannelloTelecamera.h"
-#include "Robot.h"
-#include "Telecamera.h"
+#include "simulator/PannelloTelecamera.h"
+#include "simulator/Robot.h"
+#include "simulator/Telecamera.h"
 #include <QComboBox>
 #include <QDir>
 #include <QFileDialog>

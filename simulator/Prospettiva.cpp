@@ -1,6 +1,6 @@
-#include "Prospettiva.h"
-#include "Stanza.h"
-#include "StatoRobot.h"
+#include "simulator/Prospettiva.h"
+#include "simulator/Stanza.h"
+#include "simulator/StatoRobot.h"
 #include <algorithm>
 #include <cmath>
 #include <numbers>

@@ -1,6 +1,6 @@
-#include "QuadroRobot.h"
-#include "ColoriLed.h"
-#include "Robot.h"
+#include "simulator/QuadroRobot.h"
+#include "simulator/ColoriLed.h"
+#include "simulator/Robot.h"
 #include <QLinearGradient>
 #include <QPainter>
 #include <QRadialGradient>

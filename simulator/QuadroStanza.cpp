@@ -1,7 +1,7 @@
-#include "QuadroStanza.h"
-#include "DisegnoRobot.h"
-#include "Robot.h"
-#include "Stanza.h"
+#include "simulator/QuadroStanza.h"
+#include "simulator/DisegnoRobot.h"
+#include "simulator/Robot.h"
+#include "simulator/Stanza.h"
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>

@@ -1,4 +1,4 @@
-#include "Registrazione.h"
+#include "simulator/Registrazione.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,5 +1,5 @@
-#include "Riconoscitore.h"
-#include "Descrizione.h"
+#include "simulator/Riconoscitore.h"
+#include "simulator/Descrizione.h"
 
 inline namespace tessaro_sim {
 namespace {

@@ -1,4 +1,4 @@
-#include "Riproduttore.h"
+#include "simulator/Riproduttore.h"
 #include <algorithm>
 
 inline namespace tessaro_sim {

@@ -1,5 +1,5 @@
 #pragma once
-#include "Registrazione.h"
+#include "simulator/Registrazione.h"
 #include <QElapsedTimer>
 #include <QTimer>
 #include <functional>

@@ -1,4 +1,4 @@
-#include "Ritmo.h"
+#include "simulator/Ritmo.h"
 #include <algorithm>
 
 inline namespace tessaro_sim {

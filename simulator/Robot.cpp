@@ -1,9 +1,9 @@
-#include "Robot.h"
-#include "Diario.h"
-#include "Memoria.h"
-#include "Stanza.h"
-#include "Telecamera.h"
-#include "Telegrammi.h"
+#include "simulator/Robot.h"
+#include "simulator/Diario.h"
+#include "simulator/Memoria.h"
+#include "simulator/Stanza.h"
+#include "simulator/Telecamera.h"
+#include "simulator/Telegrammi.h"
 #include <algorithm>
 
 using namespace Qt::StringLiterals;

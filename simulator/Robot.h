@@ -1,7 +1,7 @@
 #pragma once
-#include "Guasti.h"
-#include "Riconoscitore.h"
-#include "StatoRobot.h"
+#include "simulator/Guasti.h"
+#include "simulator/Riconoscitore.h"
+#include "simulator/StatoRobot.h"
 #include <QObject>
 #include <memory>
 

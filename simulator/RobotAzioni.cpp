@@ -1,10 +1,10 @@
 // What the robot does with its body and its voice, and how it moves over time.
-#include "Diario.h"
-#include "Memoria.h"
-#include "Robot.h"
-#include "Stanza.h"
-#include "Telecamera.h"
-#include "Vocabolario.h"
+#include "simulator/Diario.h"
+#include "simulator/Memoria.h"
+#include "simulator/Robot.h"
+#include "simulator/Stanza.h"
+#include "simulator/Telecamera.h"
+#include "simulator/Vocabolario.h"
 #include <algorithm>
 #include <cmath>
 #include <numbers>

@@ -1,4 +1,4 @@
-#include "Segnali.h"
+#include "simulator/Segnali.h"
 #include <QtGlobal>
 
 #ifdef Q_OS_UNIX

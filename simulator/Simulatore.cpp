@@ -1,10 +1,10 @@
-#include "Simulatore.h"
-#include "CollegamentoPorta.h"
-#include "Linea.h"
-#include "Registrazione.h"
-#include "Riproduttore.h"
-#include "Telegrammi.h"
-#include "Uscita.h"
+#include "simulator/Simulatore.h"
+#include "simulator/CollegamentoPorta.h"
+#include "simulator/Linea.h"
+#include "simulator/Registrazione.h"
+#include "simulator/Riproduttore.h"
+#include "simulator/Telegrammi.h"
+#include "simulator/Uscita.h"
 #include <QTimer>
 
 using namespace Qt::StringLiterals;

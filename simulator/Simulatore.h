@@ -1,6 +1,6 @@
 #pragma once
-#include "Diario.h"
-#include "Robot.h"
+#include "simulator/Diario.h"
+#include "simulator/Robot.h"
 #include <QByteArray>
 #include <QList>
 #include <QObject>

@@ -1,4 +1,4 @@
-#include "Stanza.h"
+#include "simulator/Stanza.h"
 #include <algorithm>
 #include <cmath>
 #include <numbers>

@@ -1,5 +1,5 @@
-#include "Telecamera.h"
-#include "Prospettiva.h"
+#include "simulator/Telecamera.h"
+#include "simulator/Prospettiva.h"
 #include <QDir>
 #include <QImageReader>
 

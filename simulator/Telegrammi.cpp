@@ -1,4 +1,4 @@
-#include "Telegrammi.h"
+#include "simulator/Telegrammi.h"
 
 inline namespace tessaro_sim {
 namespace {

@@ -1,5 +1,5 @@
-#include "Uscita.h"
-#include "Linea.h"
+#include "simulator/Uscita.h"
+#include "simulator/Linea.h"
 #include <utility>
 
 inline namespace tessaro_sim {

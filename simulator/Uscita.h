@@ -1,5 +1,5 @@
 #pragma once
-#include "Ritmo.h"
+#include "simulator/Ritmo.h"
 #include <QElapsedTimer>
 #include <QTimer>
 #include <functional>

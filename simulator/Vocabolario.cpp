@@ -1,4 +1,4 @@
-#include "Vocabolario.h"
+#include "simulator/Vocabolario.h"
 #include <array>
 
 inline namespace tessaro_sim {

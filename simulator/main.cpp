@@ -1,10 +1,10 @@
 // tessaro-sim: the simulated robot, with a window or without.
-#include "Aspetto.h"
-#include "Disegni.h"
-#include "FinestraSimulatore.h"
-#include "Opzioni.h"
-#include "Segnali.h"
-#include "Simulatore.h"
+#include "controls/look/Aspetto.h"
+#include "art/Disegni.h"
+#include "simulator/FinestraSimulatore.h"
+#include "simulator/Opzioni.h"
+#include "simulator/Segnali.h"
+#include "simulator/Simulatore.h"
 #include <QApplication>
 #include <QFile>
 #include <QLibraryInfo>

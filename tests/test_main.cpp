@@ -1,6 +1,6 @@
 // The main of every test program: offscreen unless told otherwise, and else set up as the program
 // itself.
-#include "Applicazione.h"
+#include "controls/Applicazione.h"
 
 #include <QApplication>
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-#include "Acquisizione.h"
+#include "vision/Acquisizione.h"
 
 void Acquisizione::inizia(const Matrice &pixel, quint8 left, quint8 top, quint8 width,
                           quint8 height)

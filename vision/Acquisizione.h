@@ -1,7 +1,7 @@
 // The copying of a selected area out of a frame, a slice at a time.
 #pragma once
 
-#include "Matrice.h"
+#include "vision/Matrice.h"
 
 #include <functional>
 

@@ -1,7 +1,7 @@
-#include "ArchivioImmagini.h"
+#include "vision/ArchivioImmagini.h"
 
-#include "Archivio.h"
-#include "Errore.h"
+#include "base/Archivio.h"
+#include "base/Errore.h"
 
 QString fileImmagini()
 {

@@ -1,8 +1,8 @@
-#include "Area.h"
+#include "vision/Area.h"
 
-#include "Errore.h"
-#include "Fotogramma.h"
-#include "Numeri.h"
+#include "base/Errore.h"
+#include "vision/Fotogramma.h"
+#include "base/Numeri.h"
 
 namespace {
 

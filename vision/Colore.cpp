@@ -1,6 +1,6 @@
-#include "Colore.h"
+#include "vision/Colore.h"
 
-#include "Errore.h"
+#include "base/Errore.h"
 
 #include <array>
 

@@ -1,10 +1,10 @@
 // What the video window needs of the console.
 #pragma once
 
-#include "Accumulatore.h"
-#include "Barre.h"
-#include "ComandiTessaro.h"
-#include "Elenco.h"
+#include "link/Accumulatore.h"
+#include "controls/Barre.h"
+#include "link/ComandiTessaro.h"
+#include "controls/Elenco.h"
 
 struct ControlliVideo
 {

@@ -1,7 +1,7 @@
-#include "Fotogramma.h"
+#include "vision/Fotogramma.h"
 
-#include "Colore.h"
-#include "Numeri.h"
+#include "vision/Colore.h"
+#include "base/Numeri.h"
 
 bool Fotogramma::aggiungi(QByteArrayView riga, int scala)
 {

@@ -1,7 +1,7 @@
 // One frame, row by row as it comes from the robot.
 #pragma once
 
-#include "Matrice.h"
+#include "vision/Matrice.h"
 
 #include <QByteArrayView>
 

@@ -1,4 +1,4 @@
-#include "InPixel.h"
+#include "vision/InPixel.h"
 
 #include <QPainter>
 

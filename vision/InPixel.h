@@ -1,7 +1,7 @@
 // Controls that lie on a surface whose unit is the pixel: their place and size are in pixels too.
 #pragma once
 
-#include "Grafica.h"
+#include "controls/Grafica.h"
 
 template <class Base>
 class InPixel : public Base

@@ -1,7 +1,7 @@
 // Pictures as the vision windows hold them: tables of numbers by column and row.
 #pragma once
 
-#include "Errore.h"
+#include "base/Errore.h"
 
 #include <vector>
 

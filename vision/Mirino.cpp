@@ -1,4 +1,4 @@
-#include "Mirino.h"
+#include "vision/Mirino.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // Where the keyboard points on the picture.
 #pragma once
 
-#include "InPixel.h"
+#include "vision/InPixel.h"
 
 class Mirino : public FormaInPixel
 {

@@ -1,7 +1,7 @@
 // Pictures made large: each pixel a box.
 #pragma once
 
-#include "Matrice.h"
+#include "vision/Matrice.h"
 
 #include <QImage>
 

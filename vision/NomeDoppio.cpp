@@ -1,4 +1,4 @@
-#include "NomeDoppio.h"
+#include "vision/NomeDoppio.h"
 
 bool nomeDoppio(const QByteArray &s, const QByteArray &nome)
 {

@@ -1,6 +1,6 @@
-#include "RecordImmagine.h"
+#include "vision/RecordImmagine.h"
 
-#include "Numeri.h"
+#include "base/Numeri.h"
 
 #include <cmath>
 

@@ -3,7 +3,7 @@
 // one in the name shifts all that follows.
 #pragma once
 
-#include "Matrice.h"
+#include "vision/Matrice.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,7 +1,7 @@
-#include "Ricerca.h"
+#include "vision/Ricerca.h"
 
-#include "Fotogramma.h"
-#include "Numeri.h"
+#include "vision/Fotogramma.h"
+#include "base/Numeri.h"
 
 bool Ricerca::cerca(const Matrice &Modello, qint32 W, qint32 H)
 {

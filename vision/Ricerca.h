@@ -1,7 +1,7 @@
 // The search for stored pictures in one frame.
 #pragma once
 
-#include "Matrice.h"
+#include "vision/Matrice.h"
 
 // One run through the stored pictures: make it anew for each frame. An attempt that is under way
 // when the scan for one picture ends is carried into the scan for the next.

@@ -1,10 +1,10 @@
-#include "RicercaAttive.h"
+#include "vision/RicercaAttive.h"
 
-#include "ArchivioImmagini.h"
-#include "Fotogramma.h"
-#include "Numeri.h"
-#include "RecordImmagine.h"
-#include "Ricerca.h"
+#include "vision/ArchivioImmagini.h"
+#include "vision/Fotogramma.h"
+#include "base/Numeri.h"
+#include "vision/RecordImmagine.h"
+#include "vision/Ricerca.h"
 
 namespace {
 

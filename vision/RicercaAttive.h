@@ -1,8 +1,8 @@
 // The search of one frame for all stored pictures that are to be looked for.
 #pragma once
 
-#include "Elenco.h"
-#include "Matrice.h"
+#include "controls/Elenco.h"
+#include "vision/Matrice.h"
 
 #include <optional>
 

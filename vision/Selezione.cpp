@@ -1,4 +1,4 @@
-#include "Selezione.h"
+#include "vision/Selezione.h"
 
 void Selezione::premi(bool disegna, bool nominando)
 {

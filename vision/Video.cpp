@@ -1,4 +1,4 @@
-#include "Video.h"
+#include "vision/Video.h"
 
 Video::Avvio Video::nuovo()
 {

@@ -1,7 +1,7 @@
 // The live video: whether it was asked for, whether it runs, how large it is, which row comes next.
 #pragma once
 
-#include "Fotogramma.h"
+#include "vision/Fotogramma.h"
 
 #include <optional>
 

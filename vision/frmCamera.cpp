@@ -1,10 +1,10 @@
-#include "frmCamera.h"
+#include "vision/frmCamera.h"
 
-#include "Mosaico.h"
-#include "Numeri.h"
-#include "Pompa.h"
-#include "RecordImmagine.h"
-#include "Tasti.h"
+#include "vision/Mosaico.h"
+#include "base/Numeri.h"
+#include "base/Pompa.h"
+#include "vision/RecordImmagine.h"
+#include "controls/Tasti.h"
 
 #include <QKeyEvent>
 #include <QScreen>

@@ -1,15 +1,15 @@
 // The live picture of the robot's camera.
 #pragma once
 
-#include "Ascoltatori.h"
-#include "ControlliVideo.h"
-#include "Finestra.h"
-#include "InPixel.h"
-#include "Mirino.h"
-#include "RicercaAttive.h"
-#include "Selezione.h"
-#include "Video.h"
-#include "frmNomeImmagine.h"
+#include "link/Ascoltatori.h"
+#include "vision/ControlliVideo.h"
+#include "controls/Finestra.h"
+#include "vision/InPixel.h"
+#include "vision/Mirino.h"
+#include "vision/RicercaAttive.h"
+#include "vision/Selezione.h"
+#include "vision/Video.h"
+#include "vision/frmNomeImmagine.h"
 
 // Its Tag is the video scale: "10" while video runs, "0" where it could not be started.
 class frmCamera : public Finestra, public AscoltatoreVideo

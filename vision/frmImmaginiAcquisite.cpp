@@ -1,10 +1,10 @@
-#include "frmImmaginiAcquisite.h"
+#include "vision/frmImmaginiAcquisite.h"
 
-#include "ArchivioImmagini.h"
-#include "Fotogramma.h"
-#include "Mosaico.h"
-#include "Numeri.h"
-#include "RecordImmagine.h"
+#include "vision/ArchivioImmagini.h"
+#include "vision/Fotogramma.h"
+#include "vision/Mosaico.h"
+#include "base/Numeri.h"
+#include "vision/RecordImmagine.h"
 
 #include <QFrame>
 #include <QGridLayout>

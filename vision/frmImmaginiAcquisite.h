@@ -1,9 +1,9 @@
 // The stored pictures: which there are, how they look, which ones the video window looks for.
 #pragma once
 
-#include "Elenco.h"
-#include "Finestra.h"
-#include "Grafica.h"
+#include "controls/Elenco.h"
+#include "controls/Finestra.h"
+#include "controls/Grafica.h"
 
 class frmImmaginiAcquisite : public Finestra
 {

@@ -1,14 +1,14 @@
-#include "frmNomeImmagine.h"
+#include "vision/frmNomeImmagine.h"
 
-#include "ArchivioImmagini.h"
-#include "Codifica.h"
-#include "Colore.h"
-#include "Fotogramma.h"
-#include "Gest_File.h"
-#include "Messaggi.h"
-#include "NomeDoppio.h"
-#include "RecordImmagine.h"
-#include "Se_Casi.h"
+#include "vision/ArchivioImmagini.h"
+#include "base/Codifica.h"
+#include "vision/Colore.h"
+#include "vision/Fotogramma.h"
+#include "shell/Gest_File.h"
+#include "controls/Messaggi.h"
+#include "vision/NomeDoppio.h"
+#include "vision/RecordImmagine.h"
+#include "shell/Se_Casi.h"
 
 #include <QFrame>
 #include <QGridLayout>

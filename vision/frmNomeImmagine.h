@@ -1,13 +1,13 @@
 // The dialog that names a selected area and stores it.
 #pragma once
 
-#include "Acquisizione.h"
-#include "Area.h"
-#include "CasellaTesto.h"
-#include "Finestra.h"
-#include "InPixel.h"
-#include "Temporizzatore.h"
-#include "frmImmaginiAcquisite.h"
+#include "vision/Acquisizione.h"
+#include "vision/Area.h"
+#include "controls/CasellaTesto.h"
+#include "controls/Finestra.h"
+#include "vision/InPixel.h"
+#include "controls/Temporizzatore.h"
+#include "vision/frmImmaginiAcquisite.h"
 
 // Its Tag is the record without its name, while the area is copied and until it is stored.
 class frmNomeImmagine : public Finestra

@@ -1,8 +1,8 @@
 // The video window and the file browser on one line: what one throws away the other hears of.
-#include "Attesa.h"
-#include "BancoVisione.h"
-#include "Scritte.h"
-#include "frmEsploraFile.h"
+#include "tests/support/Attesa.h"
+#include "tests/vision/BancoVisione.h"
+#include "tests/support/Scritte.h"
+#include "filebrowser/frmEsploraFile.h"
 
 #include <QTest>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // Every text of every window stands out from its ground.
-#include "Contrasto.h"
+#include "tests/support/Contrasto.h"
 
-#include "TutteLeFinestre.h"
+#include "tests/app/TutteLeFinestre.h"
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,5 @@
 // What a screen reader says of pictures and labels that are clicked.
-#include "TutteLeFinestre.h"
+#include "tests/app/TutteLeFinestre.h"
 
 #include <QAccessible>
 #include <gmock/gmock.h>

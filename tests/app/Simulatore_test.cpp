@@ -1,9 +1,9 @@
 // The same of the simulated robot's window.
-#include "Contrasto.h"
-#include "FinestraSimulatore.h"
-#include "Simulatore.h"
-#include "Stanza.h"
-#include "Tastiera.h"
+#include "tests/support/Contrasto.h"
+#include "simulator/FinestraSimulatore.h"
+#include "simulator/Simulatore.h"
+#include "simulator/Stanza.h"
+#include "tests/app/Tastiera.h"
 
 #include <QTest>
 #include <gmock/gmock.h>

@@ -1,8 +1,8 @@
-#include "Tastiera.h"
+#include "tests/app/Tastiera.h"
 
-#include "Attesa.h"
-#include "Grafica.h"
-#include "Pulsanti.h"
+#include "tests/support/Attesa.h"
+#include "controls/Grafica.h"
+#include "controls/Pulsanti.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>

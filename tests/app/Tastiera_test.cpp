@@ -1,8 +1,8 @@
 // Everything that the mouse does, the keyboard does, in every window.
-#include "Tastiera.h"
+#include "tests/app/Tastiera.h"
 
-#include "Messaggi.h"
-#include "TutteLeFinestre.h"
+#include "controls/Messaggi.h"
+#include "tests/app/TutteLeFinestre.h"
 
 #include <QAbstractButton>
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
 // The title bars: a window that cannot be resized cannot be maximised, a dialog cannot be minimised
 // either.
-#include "TutteLeFinestre.h"
+#include "tests/app/TutteLeFinestre.h"
 
 #include <QSet>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "TutteLeFinestre.h"
+#include "tests/app/TutteLeFinestre.h"
 
-#include "Tastiera.h"
+#include "tests/app/Tastiera.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 // All windows of the program, tied together as far as they need it to be shown.
 #pragma once
 
-#include "Banco.h"
-#include "BancoVisione.h"
-#include "VigilioVicino.h"
-#include "frmEsploraFile.h"
-#include "frmProcessor.h"
+#include "tests/movelists/BancoEditor.h"
+#include "tests/vision/BancoVisione.h"
+#include "conditional/VigilioVicino.h"
+#include "filebrowser/frmEsploraFile.h"
+#include "conditional/frmProcessor.h"
 
 class TutteLeFinestre
 {

@@ -1,6 +1,6 @@
-#include "BancoImpCondizioni.h"
+#include "tests/conditional/BancoImpCondizioni.h"
 
-#include "Attesa.h"
+#include "tests/support/Attesa.h"
 
 #include <QApplication>
 #include <QClipboard>

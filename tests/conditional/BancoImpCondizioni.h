@@ -1,11 +1,11 @@
 // The condition dialog over lists of its own, with a clock that stands still.
 #pragma once
 
-#include "frmImpCondizioni.h"
+#include "conditional/frmImpCondizioni.h"
 
-#include "CartellaDiProva.h"
-#include "Modali.h"
-#include "Scritte.h"
+#include "tests/support/CartellaDiProva.h"
+#include "tests/support/Modali.h"
+#include "tests/support/Scritte.h"
 
 #include <QTest>
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
-#include "BancoVigilio.h"
+#include "tests/conditional/BancoVigilio.h"
 
-#include "Archivio.h"
+#include "base/Archivio.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // The runner on a bench, with the real editor beneath it; the console is stood in for.
 #pragma once
 
-#include "Banco.h"
-#include "VigilioVicino.h"
-#include "frmProcessor.h"
+#include "tests/movelists/BancoEditor.h"
+#include "conditional/VigilioVicino.h"
+#include "conditional/frmProcessor.h"
 
 class CollegamentoFinto : public ConsoleVigilio
 {

@@ -1,7 +1,7 @@
 // The condition text, without a window.
-#include "Condizione.h"
+#include "conditional/Condizione.h"
 
-#include "Scritte.h"
+#include "tests/support/Scritte.h"
 
 #include <QStringList>
 #include <gmock/gmock.h>

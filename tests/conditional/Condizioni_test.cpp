@@ -1,5 +1,5 @@
 // From a line of the runner to the condition dialog and back.
-#include "BancoVigilio.h"
+#include "tests/conditional/BancoVigilio.h"
 
 #include <gmock/gmock.h>
 

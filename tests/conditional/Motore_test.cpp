@@ -1,6 +1,6 @@
 // The engine: start, conflicts, telemetry, clock, stop.
-#include "BancoVigilio.h"
-#include "Sistema.h"
+#include "tests/conditional/BancoVigilio.h"
+#include "tests/support/Sistema.h"
 
 #include <gmock/gmock.h>
 

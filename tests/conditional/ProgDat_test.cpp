@@ -1,10 +1,10 @@
 // The default condition in "Prog.dat".
-#include "ProgDat.h"
+#include "conditional/ProgDat.h"
 
-#include "CartellaDiProva.h"
-#include "ErroreDi.h"
-#include "Gest_File.h"
-#include "Scritte.h"
+#include "tests/support/CartellaDiProva.h"
+#include "tests/support/ErroreDi.h"
+#include "shell/Gest_File.h"
+#include "tests/support/Scritte.h"
 
 #include <gmock/gmock.h>
 

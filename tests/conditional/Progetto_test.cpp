@@ -1,8 +1,8 @@
 // The project file, byte by byte.
-#include "Progetto.h"
+#include "conditional/Progetto.h"
 
-#include "Errore.h"
-#include "Scritte.h"
+#include "base/Errore.h"
+#include "tests/support/Scritte.h"
 
 #include <gmock/gmock.h>
 

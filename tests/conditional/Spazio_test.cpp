@@ -1,7 +1,7 @@
 // The runner and the condition dialog have room for their texts with every desktop's font.
-#include "BancoImpCondizioni.h"
-#include "BancoVigilio.h"
-#include "Ritaglio.h"
+#include "tests/conditional/BancoImpCondizioni.h"
+#include "tests/conditional/BancoVigilio.h"
+#include "tests/support/Ritaglio.h"
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,7 @@
 // The time in the condition dialog: its boxes and its spin bars.
-#include "BancoImpCondizioni.h"
+#include "tests/conditional/BancoImpCondizioni.h"
 
-#include "Attesa.h"
+#include "tests/support/Attesa.h"
 
 #include <QToolButton>
 

@@ -1,7 +1,7 @@
 // How the condition dialog is left: what OK stores, what stays as it was.
-#include "BancoImpCondizioni.h"
+#include "tests/conditional/BancoImpCondizioni.h"
 
-#include "Attesa.h"
+#include "tests/support/Attesa.h"
 
 #include <QDir>
 

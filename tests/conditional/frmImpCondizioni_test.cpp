@@ -1,7 +1,7 @@
 // What the condition dialog shows, and how its panels go on and off.
-#include "BancoImpCondizioni.h"
+#include "tests/conditional/BancoImpCondizioni.h"
 
-#include "Attesa.h"
+#include "tests/support/Attesa.h"
 
 #include <QAbstractItemView>
 #include <QAccessible>

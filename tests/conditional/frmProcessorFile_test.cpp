@@ -1,6 +1,6 @@
 // The runner's projects: new, open, save.
-#include "BancoVigilio.h"
-#include "Sistema.h"
+#include "tests/conditional/BancoVigilio.h"
+#include "tests/support/Sistema.h"
 
 #include <QFile>
 #include <gmock/gmock.h>

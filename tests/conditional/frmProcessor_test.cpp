@@ -1,6 +1,6 @@
 // The runner's window: its lines, its check marks, its options, its end.
-#include "BancoVigilio.h"
-#include "Sistema.h"
+#include "tests/conditional/BancoVigilio.h"
+#include "tests/support/Sistema.h"
 
 #include <QAccessible>
 #include <QMenu>

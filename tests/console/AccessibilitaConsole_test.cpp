@@ -1,7 +1,7 @@
 // What a screen reader finds, the keyboard reaches, and the eye can read.
-#include "ConsoleInProva.h"
-#include "Contrasto.h"
-#include "TutteLeAzioni.h"
+#include "tests/console/ConsoleInProva.h"
+#include "tests/support/Contrasto.h"
+#include "tests/console/TutteLeAzioni.h"
 
 #include <QAccessible>
 #include <QLineEdit>

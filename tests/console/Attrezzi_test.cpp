@@ -1,5 +1,5 @@
-#include "Attrezzi.h"
-#include "AzioneInProva.h"
+#include "console/Attrezzi.h"
+#include "tests/console/AzioneInProva.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // The start: what is read, whether to connect, where the window stands.
-#include "Collocazione.h"
-#include "ConsoleInProva.h"
+#include "console/Collocazione.h"
+#include "tests/console/ConsoleInProva.h"
 
 #include <QDir>
 #include <QScreen>

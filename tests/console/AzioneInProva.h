@@ -1,9 +1,9 @@
 // What an action does on a line without a system.
 #pragma once
 
-#include "Azione.h"
-#include "PortaFinta.h"
-#include "Scritte.h"
+#include "console/Azione.h"
+#include "tests/support/PortaFinta.h"
+#include "tests/support/Scritte.h"
 
 inline QByteArray byteDi(const Azione &azione)
 {

@@ -1,5 +1,5 @@
 // The send-or-list rule, over every action that there is.
-#include "TutteLeAzioni.h"
+#include "tests/console/TutteLeAzioni.h"
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,5 @@
 // The toolbar.
-#include "ConsoleInProva.h"
+#include "tests/console/ConsoleInProva.h"
 
 #include <gmock/gmock.h>
 

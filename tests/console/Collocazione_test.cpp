@@ -1,4 +1,4 @@
-#include "Collocazione.h"
+#include "console/Collocazione.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "ConsoleInProva.h"
+#include "tests/console/ConsoleInProva.h"
 
-#include "Memoria.h"
-#include "PortaAsio.h"
+#include "simulator/Memoria.h"
+#include "serial/PortaAsio.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // The key latch, without a window.
-#include "FermoTasti.h"
+#include "console/FermoTasti.h"
 
-#include "Scritte.h"
+#include "tests/support/Scritte.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The end of the program, and the editor that goes along with the main window.
-#include "ConsoleInProva.h"
+#include "tests/console/ConsoleInProva.h"
 
 #include <gmock/gmock.h>
 

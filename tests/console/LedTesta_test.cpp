@@ -1,5 +1,5 @@
-#include "AzioneInProva.h"
-#include "LedTesta.h"
+#include "tests/console/AzioneInProva.h"
+#include "console/LedTesta.h"
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,5 @@
 // The console by keyboard alone: the menu of what has no key, and the toolbar.
-#include "ConsoleInProva.h"
+#include "tests/console/ConsoleInProva.h"
 
 #include <QMenu>
 #include <gmock/gmock.h>

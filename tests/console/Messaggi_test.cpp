@@ -1,5 +1,5 @@
 // The recorded messages and their buttons' borders.
-#include "ConsoleInProva.h"
+#include "tests/console/ConsoleInProva.h"
 
 #include <gmock/gmock.h>
 

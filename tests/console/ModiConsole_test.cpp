@@ -1,5 +1,5 @@
 // The three control modes, and the focus that always goes home.
-#include "ConsoleInProva.h"
+#include "tests/console/ConsoleInProva.h"
 
 #include <QAbstractItemView>
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
-#include "AzioneInProva.h"
-#include "Movimento.h"
-#include "Tasti.h"
+#include "tests/console/AzioneInProva.h"
+#include "console/Movimento.h"
+#include "controls/Tasti.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "AzioneInProva.h"
-#include "FrasiSuoni.h"
-#include "Parlato.h"
+#include "tests/console/AzioneInProva.h"
+#include "link/FrasiSuoni.h"
+#include "console/Parlato.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The keys, the latch, the pressed look.
-#include "ConsoleInProva.h"
+#include "tests/console/ConsoleInProva.h"
 
 #include <QAbstractItemView>
 #include <gmock/gmock.h>

@@ -1,5 +1,5 @@
 // The head's picture: sides, hover arrows, colour lists, pressed labels.
-#include "TutteLeAzioni.h"
+#include "tests/console/TutteLeAzioni.h"
 
 #include <gmock/gmock.h>
 

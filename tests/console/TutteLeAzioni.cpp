@@ -1,4 +1,4 @@
-#include "TutteLeAzioni.h"
+#include "tests/console/TutteLeAzioni.h"
 
 QPoint suRiga(Elenco &lista, int riga)
 {

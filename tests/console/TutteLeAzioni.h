@@ -1,7 +1,7 @@
 // Every manual action of the console, as the user makes it and as it must come out.
 #pragma once
 
-#include "ConsoleInProva.h"
+#include "tests/console/ConsoleInProva.h"
 
 #include <functional>
 #include <vector>

@@ -1,11 +1,11 @@
 // The whole way: the console, a pseudo-terminal, the simulated robot with a storage of its own.
-#include "Attesa.h"
-#include "Banco.h"
-#include "ComandiTessaro.h"
-#include "Memoria.h"
-#include "Modali.h"
-#include "PortaAsio.h"
-#include "Simulatore.h"
+#include "tests/support/Attesa.h"
+#include "tests/filebrowser/BancoEsploraFile.h"
+#include "link/ComandiTessaro.h"
+#include "simulator/Memoria.h"
+#include "tests/support/Modali.h"
+#include "serial/PortaAsio.h"
+#include "simulator/Simulatore.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -1,7 +1,7 @@
 // One request to the storage at a time: what comes meanwhile, what is given up, what comes too
 // late.
-#include "Banco.h"
-#include "Modali.h"
+#include "tests/filebrowser/BancoEsploraFile.h"
+#include "tests/support/Modali.h"
 
 #include <QApplication>
 #include <QTest>

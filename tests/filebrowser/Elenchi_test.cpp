@@ -1,5 +1,5 @@
 // Walking the robot's folders.
-#include "Banco.h"
+#include "tests/filebrowser/BancoEsploraFile.h"
 
 #include <QApplication>
 #include <QMouseEvent>

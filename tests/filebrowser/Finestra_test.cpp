@@ -1,6 +1,6 @@
 // How the window stands, and what an unloading leaves of it.
-#include "Banco.h"
-#include "Modali.h"
+#include "tests/filebrowser/BancoEsploraFile.h"
+#include "tests/support/Modali.h"
 
 namespace {
 

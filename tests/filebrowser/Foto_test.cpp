@@ -1,7 +1,7 @@
-#include "Foto.h"
+#include "filebrowser/Foto.h"
 
-#include "Banco.h"
-#include "ErroreDi.h"
+#include "tests/filebrowser/BancoEsploraFile.h"
+#include "tests/support/ErroreDi.h"
 
 #include <QBuffer>
 

@@ -1,6 +1,6 @@
 // Which names a fetched file may have.
-#include "NomeSicuro.h"
-#include "Scritte.h"
+#include "filebrowser/NomeSicuro.h"
+#include "tests/support/Scritte.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

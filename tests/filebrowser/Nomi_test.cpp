@@ -1,7 +1,7 @@
 // How names are shown that are too long, or that are no plain text.
-#include "Nomi.h"
+#include "filebrowser/Nomi.h"
 
-#include "Banco.h"
+#include "tests/filebrowser/BancoEsploraFile.h"
 
 #include <QApplication>
 #include <QHelpEvent>

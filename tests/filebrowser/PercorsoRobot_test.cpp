@@ -1,6 +1,6 @@
-#include "PercorsoRobot.h"
+#include "filebrowser/PercorsoRobot.h"
 
-#include "Scritte.h"
+#include "tests/support/Scritte.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // Fetching a file.
-#include "Banco.h"
-#include "Sistema.h"
+#include "tests/filebrowser/BancoEsploraFile.h"
+#include "tests/support/Sistema.h"
 
 #include <QCoreApplication>
 #include <QDir>

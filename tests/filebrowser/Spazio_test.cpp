@@ -1,6 +1,6 @@
 // The file browser has room for its texts with every desktop's font.
-#include "Banco.h"
-#include "Ritaglio.h"
+#include "tests/filebrowser/BancoEsploraFile.h"
+#include "tests/support/Ritaglio.h"
 
 #include <gmock/gmock.h>
 

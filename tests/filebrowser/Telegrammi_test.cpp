@@ -1,5 +1,5 @@
 // The telegrams of the storage arriving in any pieces.
-#include "Banco.h"
+#include "tests/filebrowser/BancoEsploraFile.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include "Accumulatore.h"
+#include "link/Accumulatore.h"
 
-#include "Scritte.h"
+#include "tests/support/Scritte.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The waits that count rounds: the keep-alive and MostraInvio, on a line without a system.
-#include "BancoSessioneFinta.h"
+#include "tests/link/BancoSessioneFinta.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 // The receive engine on a line without a system, in a folder of its own.
 #pragma once
 
-#include "Attesa.h"
-#include "Banco.h"
-#include "CartellaDiProva.h"
-#include "PortaFinta.h"
-#include "Scritte.h"
+#include "tests/support/Attesa.h"
+#include "tests/link/BancoLink.h"
+#include "tests/support/CartellaDiProva.h"
+#include "tests/support/PortaFinta.h"
+#include "tests/support/Scritte.h"
 
 // Connected from the start: the port is open, the receive timer runs.
 class BancoRicezione

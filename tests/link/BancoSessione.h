@@ -1,11 +1,11 @@
 // A session with its windows, without the console.
 #pragma once
 
-#include "Attesa.h"
-#include "Banco.h"
-#include "CartellaDiProva.h"
-#include "Modali.h"
-#include "Scritte.h"
+#include "tests/support/Attesa.h"
+#include "tests/link/BancoLink.h"
+#include "tests/support/CartellaDiProva.h"
+#include "tests/support/Modali.h"
+#include "tests/support/Scritte.h"
 
 #include <QTimer>
 

@@ -1,8 +1,8 @@
 // A session on a line without a system.
 #pragma once
 
-#include "BancoSessione.h"
-#include "PortaFinta.h"
+#include "tests/link/BancoSessione.h"
+#include "tests/support/PortaFinta.h"
 
 // Built before the session that takes the line over.
 struct ConPortaFinta

@@ -1,5 +1,5 @@
 // The connection attempt, step by step, on a line without a system.
-#include "BancoSessioneFinta.h"
+#include "tests/link/BancoSessioneFinta.h"
 
 #include <QDir>
 #include <QTest>

@@ -1,11 +1,11 @@
 // Every command over a real pseudo-terminal, as the robot reads it.
-#include "Attesa.h"
-#include "CartellaDiProva.h"
-#include "ControlloSeriale.h"
-#include "PortaAsio.h"
-#include "Scritte.h"
-#include "Simulatore.h"
-#include "TavolaComandi.h"
+#include "tests/support/Attesa.h"
+#include "tests/support/CartellaDiProva.h"
+#include "serial/ControlloSeriale.h"
+#include "serial/PortaAsio.h"
+#include "tests/support/Scritte.h"
+#include "simulator/Simulatore.h"
+#include "tests/link/TavolaComandi.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 // Every command, byte for byte and write for write.
-#include "ComandiTessaro.h"
+#include "link/ComandiTessaro.h"
 
-#include "Attesa.h"
-#include "Modali.h"
-#include "PortaFinta.h"
-#include "Scritte.h"
-#include "TavolaComandi.h"
+#include "tests/support/Attesa.h"
+#include "tests/support/Modali.h"
+#include "tests/support/PortaFinta.h"
+#include "tests/support/Scritte.h"
+#include "tests/link/TavolaComandi.h"
 
 #include <QTimer>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "DescriviBatteria.h"
+#include "link/DescriviBatteria.h"
 
-#include "Scritte.h"
+#include "tests/support/Scritte.h"
 
 #include <gtest/gtest.h>
 

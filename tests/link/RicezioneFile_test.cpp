@@ -1,5 +1,5 @@
 // The receive engine: how what the robot's storage sends is cut (types 42, 45, 47).
-#include "BancoRicezione.h"
+#include "tests/link/BancoRicezione.h"
 
 #include <gtest/gtest.h>
 

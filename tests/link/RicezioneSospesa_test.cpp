@@ -1,7 +1,7 @@
 // The receive engine: a tick that waits for a byte.
-#include "BancoRicezione.h"
-#include "ComandiTessaro.h"
-#include "Modali.h"
+#include "tests/link/BancoRicezione.h"
+#include "link/ComandiTessaro.h"
+#include "tests/support/Modali.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The receive engine: telemetry, video rows, unknown types.
-#include "BancoRicezione.h"
+#include "tests/link/BancoRicezione.h"
 
 #include <gtest/gtest.h>
 #include <random>

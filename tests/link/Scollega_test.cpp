@@ -1,5 +1,5 @@
 // The orderly disconnection, on a line without a system.
-#include "BancoSessioneFinta.h"
+#include "tests/link/BancoSessioneFinta.h"
 
 #include <gtest/gtest.h>
 

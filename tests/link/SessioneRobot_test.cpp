@@ -1,7 +1,7 @@
 // The life of a connection with the simulated robot on a real pseudo-terminal.
-#include "BancoSessione.h"
-#include "PortaAsio.h"
-#include "Simulatore.h"
+#include "tests/link/BancoSessione.h"
+#include "serial/PortaAsio.h"
+#include "simulator/Simulatore.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // What holds a connection together: its state, one attempt at a time, and what comes back to
 // another world after a wait. On a line without a system.
-#include "BancoSessioneFinta.h"
+#include "tests/link/BancoSessioneFinta.h"
 
 #include <gtest/gtest.h>
 #include <iostream>

@@ -1,7 +1,7 @@
 // The port's question has room for its texts with every desktop's font.
-#include "Ritaglio.h"
-#include "Scritte.h"
-#include "frmImpostaPorta.h"
+#include "tests/support/Ritaglio.h"
+#include "tests/support/Scritte.h"
+#include "link/frmImpostaPorta.h"
 
 #include <gmock/gmock.h>
 

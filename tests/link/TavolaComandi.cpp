@@ -1,7 +1,7 @@
-#include "TavolaComandi.h"
+#include "tests/link/TavolaComandi.h"
 
-#include "ComandiTessaro.h"
-#include "Scritte.h"
+#include "link/ComandiTessaro.h"
+#include "tests/support/Scritte.h"
 
 using namespace Qt::StringLiterals;
 namespace C = ComandiTessaro;

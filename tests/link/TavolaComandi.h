@@ -1,7 +1,7 @@
 // The commands as a table: what each one writes, piece for piece.
 #pragma once
 
-#include "ControlloSeriale.h"
+#include "serial/ControlloSeriale.h"
 
 #include <QList>
 #include <functional>

@@ -9,7 +9,7 @@ import re
 import sys
 from pathlib import Path
 
-FOLDERS = "platform shell link console movelists vision filebrowser conditional".split()
+FOLDERS = "base controls serial shell link console movelists vision filebrowser conditional".split()
 VOCABULARY = "console/vocabolario/FrasiSuoni.cpp"
 MESSAGES = "09-i-messaggi.md"
 PHRASES = "12-frasi-e-suoni.md"
@@ -26,7 +26,7 @@ TOKEN = re.compile(STRING + r"|('(?:[^'\\\n]|\\.)')|//[^\n]*|/\*.*?\*/|^#include
 NEIGHBOURS = re.compile(r'(?<!\\)"\s+u?"')
 SHOWN = re.compile(r"\b(?:messaggio|setPanels|mostraMessaggio|MostraInvio|rifiuta|Stampa"
                    r"|lblColl\.setCaption)\(\s*(?:\d\s*,\s*)?u?" + STRING)
-ALL_SHOWN = {"platform/Errore.cpp", "platform/PermessiPorta.cpp"}
+ALL_SHOWN = {"base/Errore.cpp", "serial/PermessiPorta.cpp"}
 
 
 def code(path):

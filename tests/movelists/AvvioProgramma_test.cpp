@@ -1,10 +1,10 @@
 // Starting the programs that lists name.
-#include "AvvioProgramma.h"
+#include "movelists/AvvioProgramma.h"
 
-#include "Attesa.h"
-#include "CartellaDiProva.h"
-#include "ProgrammaDiProva.h"
-#include "Scritte.h"
+#include "tests/support/Attesa.h"
+#include "tests/support/CartellaDiProva.h"
+#include "tests/support/ProgrammaDiProva.h"
+#include "tests/support/Scritte.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,13 +1,13 @@
 // Lists on the simulated robot: the console itself, a real line, real timers.
-#include "Attesa.h"
-#include "CartellaDiProva.h"
-#include "ComandiTessaro.h"
-#include "Modali.h"
-#include "PortaAsio.h"
-#include "Scritte.h"
-#include "Simulatore.h"
-#include "frmEditor.h"
-#include "frmPrincipale.h"
+#include "tests/support/Attesa.h"
+#include "tests/support/CartellaDiProva.h"
+#include "link/ComandiTessaro.h"
+#include "tests/support/Modali.h"
+#include "serial/PortaAsio.h"
+#include "tests/support/Scritte.h"
+#include "simulator/Simulatore.h"
+#include "movelists/frmEditor.h"
+#include "console/frmPrincipale.h"
 
 #include <QElapsedTimer>
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
 // The run of a list: order, waits, loops, stops, and what the user does meanwhile.
-#include "Banco.h"
-#include "ProgrammaDiProva.h"
+#include "tests/movelists/BancoEditor.h"
+#include "tests/support/ProgrammaDiProva.h"
 
 #include <gmock/gmock.h>
 

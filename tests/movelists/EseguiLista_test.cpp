@@ -1,7 +1,7 @@
 // Lists that the runner and the clock start.
-#include "Banco.h"
+#include "tests/movelists/BancoEditor.h"
 
-#include "Archivio.h"
+#include "base/Archivio.h"
 
 #include <gmock/gmock.h>
 

@@ -1,11 +1,11 @@
 // The list file: written byte by byte, read field by field.
-#include "FileMosse.h"
+#include "movelists/FileMosse.h"
 
-#include "Archivio.h"
-#include "CartellaDiProva.h"
-#include "Codifica.h"
-#include "Errore.h"
-#include "Scritte.h"
+#include "base/Archivio.h"
+#include "tests/support/CartellaDiProva.h"
+#include "base/Codifica.h"
+#include "base/Errore.h"
+#include "tests/support/Scritte.h"
 
 #include <gmock/gmock.h>
 #include <random>

@@ -1,7 +1,7 @@
 // The four modes of the value dialog, and the lines that they give.
-#include "ModoValore.h"
+#include "movelists/ModoValore.h"
 
-#include "Scritte.h"
+#include "tests/support/Scritte.h"
 
 #include <gmock/gmock.h>
 

@@ -1,8 +1,8 @@
 // The move language, line by line.
-#include "Mossa.h"
+#include "movelists/Mossa.h"
 
-#include "PortaFinta.h"
-#include "Scritte.h"
+#include "tests/support/PortaFinta.h"
+#include "tests/support/Scritte.h"
 
 #include <gmock/gmock.h>
 

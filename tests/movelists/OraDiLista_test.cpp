@@ -1,5 +1,5 @@
 // When the clock starts a list.
-#include "OraDiLista.h"
+#include "movelists/OraDiLista.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // Where the editor opens: one screen, two, a small one, the console anywhere.
-#include "PostoAccanto.h"
+#include "movelists/PostoAccanto.h"
 
 #include <gmock/gmock.h>
 

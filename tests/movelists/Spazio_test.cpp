@@ -1,7 +1,7 @@
 // The editor and the value dialog have room for their texts with every desktop's font.
-#include "Banco.h"
-#include "ModoValore.h"
-#include "Ritaglio.h"
+#include "tests/movelists/BancoEditor.h"
+#include "movelists/ModoValore.h"
+#include "tests/support/Ritaglio.h"
 
 #include <gmock/gmock.h>
 

@@ -1,8 +1,8 @@
 // The editor's files: opening, saving, the questions, closing.
-#include "Banco.h"
+#include "tests/movelists/BancoEditor.h"
 
-#include "Archivio.h"
-#include "Sistema.h"
+#include "base/Archivio.h"
+#include "tests/support/Sistema.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 // The editor's window: inserting, moving, deleting, the picture buttons, the runner's entries.
-#include "Banco.h"
-#include "Contrasto.h"
+#include "tests/movelists/BancoEditor.h"
+#include "tests/support/Contrasto.h"
 
 #include <QAccessible>
 #include <QHelpEvent>

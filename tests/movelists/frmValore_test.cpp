@@ -1,9 +1,9 @@
 // The value dialog in its four modes, with the keyboard and the mouse.
-#include "frmValore.h"
+#include "movelists/frmValore.h"
 
-#include "Attesa.h"
-#include "Modali.h"
-#include "Scritte.h"
+#include "tests/support/Attesa.h"
+#include "tests/support/Modali.h"
+#include "tests/support/Scritte.h"
 
 #include <QTest>
 #include <gmock/gmock.h>

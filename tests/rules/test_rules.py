@@ -8,7 +8,7 @@ import sys
 import unittest
 
 RADICE = pathlib.Path(sys.argv.pop() if len(sys.argv) > 1 else ".")
-CARTELLE = ["platform", "shell", "link", "movelists", "conditional", "filebrowser", "vision", "console"]
+CARTELLE = ["base", "controls", "controls/look", "serial", "shell", "link", "movelists", "conditional", "filebrowser", "vision", "console"]
 
 # Handlers run in one of these; what fails in them is dealt with there.
 RIPARI = ["eseguiGestore", "passaErrori", "provaPassata"]

@@ -1,19 +1,19 @@
 // The small modules without a window: Abilita_Disabilita, Se_Casi, AggiungiALista, Gest_Variabili,
 // Gest_File.
-#include "Abilita_Disabilita.h"
-#include "AggiungiALista.h"
-#include "Archivio.h"
-#include "CartellaDiProva.h"
-#include "Combo.h"
-#include "Elenco.h"
-#include "ErroreDi.h"
-#include "Gest_File.h"
-#include "Gest_Variabili.h"
-#include "Grafica.h"
-#include "Pulsanti.h"
-#include "Scritte.h"
-#include "Se_Casi.h"
-#include "Temporizzatore.h"
+#include "shell/Abilita_Disabilita.h"
+#include "shell/AggiungiALista.h"
+#include "base/Archivio.h"
+#include "tests/support/CartellaDiProva.h"
+#include "controls/Combo.h"
+#include "controls/Elenco.h"
+#include "tests/support/ErroreDi.h"
+#include "shell/Gest_File.h"
+#include "shell/Gest_Variabili.h"
+#include "controls/Grafica.h"
+#include "controls/Pulsanti.h"
+#include "tests/support/Scritte.h"
+#include "shell/Se_Casi.h"
+#include "controls/Temporizzatore.h"
 
 #include <QDir>
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 // The splash and the options have room for their texts with every desktop's font.
-#include "CartellaDiProva.h"
-#include "Ritaglio.h"
-#include "Scritte.h"
-#include "frmOpzioni.h"
-#include "frmSchermataIniziale.h"
+#include "tests/support/CartellaDiProva.h"
+#include "tests/support/Ritaglio.h"
+#include "tests/support/Scritte.h"
+#include "shell/frmOpzioni.h"
+#include "shell/frmSchermataIniziale.h"
 
 #include <gmock/gmock.h>
 

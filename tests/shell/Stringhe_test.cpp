@@ -1,8 +1,8 @@
-#include "Stringhe.h"
+#include "shell/Stringhe.h"
 
-#include "Attesa.h"
-#include "Modali.h"
-#include "Scritte.h"
+#include "tests/support/Attesa.h"
+#include "tests/support/Modali.h"
+#include "tests/support/Scritte.h"
 
 #include <QAbstractButton>
 #include <QWidget>

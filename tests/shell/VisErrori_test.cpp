@@ -1,8 +1,8 @@
-#include "VisErrori.h"
+#include "shell/VisErrori.h"
 
-#include "Attesa.h"
-#include "Modali.h"
-#include "Scritte.h"
+#include "tests/support/Attesa.h"
+#include "tests/support/Modali.h"
+#include "tests/support/Scritte.h"
 
 #include <QApplication>
 #include <QWidget>

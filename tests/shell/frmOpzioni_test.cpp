@@ -1,9 +1,9 @@
-#include "frmOpzioni.h"
+#include "shell/frmOpzioni.h"
 
-#include "Attesa.h"
-#include "CartellaDiProva.h"
-#include "Modali.h"
-#include "Scritte.h"
+#include "tests/support/Attesa.h"
+#include "tests/support/CartellaDiProva.h"
+#include "tests/support/Modali.h"
+#include "tests/support/Scritte.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,7 +1,7 @@
-#include "frmSchermataIniziale.h"
+#include "shell/frmSchermataIniziale.h"
 
-#include "Attesa.h"
-#include "Scritte.h"
+#include "tests/support/Attesa.h"
+#include "tests/support/Scritte.h"
 
 #include <QScreen>
 #include <QTest>

@@ -1,5 +1,5 @@
 // Every row of the byte tables, recognised from its bytes alone.
-#include "Aiuti.h"
+#include "tests/simulator/RobotInProva.h"
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;

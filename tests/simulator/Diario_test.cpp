@@ -1,4 +1,4 @@
-#include "Aiuti.h"
+#include "tests/simulator/RobotInProva.h"
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;

@@ -1,8 +1,8 @@
 // The simulator's window, worked as a person would.
-#include "Aiuti.h"
-#include "FinestraSimulatore.h"
-#include "Simulatore.h"
-#include "Stanza.h"
+#include "tests/simulator/RobotInProva.h"
+#include "simulator/FinestraSimulatore.h"
+#include "simulator/Simulatore.h"
+#include "simulator/Stanza.h"
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>

@@ -1,5 +1,5 @@
-#include "Aiuti.h"
-#include "Guasti.h"
+#include "tests/simulator/RobotInProva.h"
+#include "simulator/Guasti.h"
 #include <gtest/gtest.h>
 
 namespace {

@@ -1,7 +1,7 @@
 // The whole simulator on a real pseudo-terminal, opened by its path.
-#include "Memoria.h"
-#include "Porta.h"
-#include "Simulatore.h"
+#include "simulator/Memoria.h"
+#include "tests/simulator/PortaDiProva.h"
+#include "simulator/Simulatore.h"
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>

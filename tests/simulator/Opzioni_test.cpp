@@ -1,6 +1,6 @@
-#include "Aiuti.h"
-#include "Opzioni.h"
-#include "Simulatore.h"
+#include "tests/simulator/RobotInProva.h"
+#include "simulator/Opzioni.h"
+#include "simulator/Simulatore.h"
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The program as it is started from a shell.
-#include "Attendi.h"
+#include "tests/simulator/Attendi.h"
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>

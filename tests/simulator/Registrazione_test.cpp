@@ -1,5 +1,5 @@
-#include "Aiuti.h"
-#include "Registrazione.h"
+#include "tests/simulator/RobotInProva.h"
+#include "simulator/Registrazione.h"
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 

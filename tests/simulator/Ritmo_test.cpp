@@ -1,4 +1,4 @@
-#include "Ritmo.h"
+#include "simulator/Ritmo.h"
 #include <gtest/gtest.h>
 
 TEST(Ritmo, At9600BaudASecondCarries960Bytes)

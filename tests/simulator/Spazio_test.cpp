@@ -1,8 +1,8 @@
 // The simulator's window has room for its texts with every desktop's font.
-#include "FinestraSimulatore.h"
-#include "Ritaglio.h"
-#include "Scritte.h"
-#include "Simulatore.h"
+#include "simulator/FinestraSimulatore.h"
+#include "tests/support/Ritaglio.h"
+#include "tests/support/Scritte.h"
+#include "simulator/Simulatore.h"
 
 #include <QScreen>
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
-#include "Aiuti.h"
-#include "Stanza.h"
-#include "Telecamera.h"
+#include "tests/simulator/RobotInProva.h"
+#include "simulator/Stanza.h"
+#include "simulator/Telecamera.h"
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "Attesa.h"
+#include "tests/support/Attesa.h"
 
-#include "Pompa.h"
+#include "base/Pompa.h"
 
 #include <QElapsedTimer>
 

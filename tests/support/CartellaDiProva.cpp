@@ -1,4 +1,4 @@
-#include "CartellaDiProva.h"
+#include "tests/support/CartellaDiProva.h"
 
 #include <QDir>
 #include <QFile>

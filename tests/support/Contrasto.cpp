@@ -1,4 +1,4 @@
-#include "Contrasto.h"
+#include "tests/support/Contrasto.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

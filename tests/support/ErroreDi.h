@@ -1,7 +1,7 @@
 // Failures of statements, as tests look at them.
 #pragma once
 
-#include "Errore.h"
+#include "base/Errore.h"
 
 #include <functional>
 

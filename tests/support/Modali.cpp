@@ -1,4 +1,4 @@
-#include "Modali.h"
+#include "tests/support/Modali.h"
 
 #include <QAbstractButton>
 #include <QApplication>

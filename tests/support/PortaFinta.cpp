@@ -1,6 +1,6 @@
-#include "PortaFinta.h"
+#include "tests/support/PortaFinta.h"
 
-#include "Errore.h"
+#include "base/Errore.h"
 
 #include <utility>
 

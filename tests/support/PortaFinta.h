@@ -1,7 +1,7 @@
 // A serial line without a system behind it: keeps what is written, gives what it is told to.
 #pragma once
 
-#include "ControlloSeriale.h"
+#include "serial/ControlloSeriale.h"
 
 #include <QList>
 #include <QTimer>

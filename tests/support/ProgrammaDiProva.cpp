@@ -1,4 +1,4 @@
-#include "ProgrammaDiProva.h"
+#include "tests/support/ProgrammaDiProva.h"
 
 #include <QCoreApplication>
 #include <QFile>

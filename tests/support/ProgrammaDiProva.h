@@ -1,7 +1,7 @@
 // A program for lists to start.
 #pragma once
 
-#include "CartellaDiProva.h"
+#include "tests/support/CartellaDiProva.h"
 
 // A copy of it under that name in the folder: its path. It waits as long as there is a file
 // "attendi" in the current folder, and then writes its arguments, one a line, into "esito.txt".

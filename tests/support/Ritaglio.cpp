@@ -1,4 +1,4 @@
-#include "Ritaglio.h"
+#include "tests/support/Ritaglio.h"
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>

@@ -1,4 +1,4 @@
-#include "Sistema.h"
+#include "tests/support/Sistema.h"
 
 #include <QFile>
 #include <algorithm>

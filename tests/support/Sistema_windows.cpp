@@ -1,6 +1,6 @@
 // Windows knows no limit for a process' files and asks for a right to make links; Wine keeps no
 // rights on folders.
-#include "Sistema.h"
+#include "tests/support/Sistema.h"
 
 struct DiscoPieno::Prima
 {

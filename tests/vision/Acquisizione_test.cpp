@@ -1,4 +1,4 @@
-#include "Acquisizione.h"
+#include "vision/Acquisizione.h"
 
 #include <gmock/gmock.h>
 #include <vector>

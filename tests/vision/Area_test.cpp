@@ -1,7 +1,7 @@
 // Rectangles on the screen as pixels of the frame.
-#include "Area.h"
+#include "vision/Area.h"
 
-#include "ErroreDi.h"
+#include "tests/support/ErroreDi.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 // What comes in the middle of a start of the video: it waits for the robot twice, and the user need
 // not.
-#include "BancoVisione.h"
+#include "tests/vision/BancoVisione.h"
 
-#include "Attesa.h"
-#include "Modali.h"
-#include "Scritte.h"
+#include "tests/support/Attesa.h"
+#include "tests/support/Modali.h"
+#include "tests/support/Scritte.h"
 
 #include <QTest>
 #include <QTimer>

@@ -1,7 +1,7 @@
-#include "BancoVisione.h"
+#include "tests/vision/BancoVisione.h"
 
-#include "Attesa.h"
-#include "Scritte.h"
+#include "tests/support/Attesa.h"
+#include "tests/support/Scritte.h"
 
 #include <QPainter>
 #include <QTest>

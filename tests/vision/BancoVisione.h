@@ -1,10 +1,10 @@
 // The console with the vision windows above it, and pictures as the robot sends them.
 #pragma once
 
-#include "CartellaDiProva.h"
-#include "PortaFinta.h"
-#include "frmCamera.h"
-#include "frmPrincipale.h"
+#include "tests/support/CartellaDiProva.h"
+#include "tests/support/PortaFinta.h"
+#include "vision/frmCamera.h"
+#include "console/frmPrincipale.h"
 
 #include <QImage>
 

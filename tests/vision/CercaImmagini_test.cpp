@@ -1,7 +1,7 @@
 // The search on the screen: what is shown, and what a spoilt store does.
-#include "BancoVisione.h"
+#include "tests/vision/BancoVisione.h"
 
-#include "Attesa.h"
+#include "tests/support/Attesa.h"
 
 #include <QTest>
 

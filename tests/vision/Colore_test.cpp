@@ -1,7 +1,7 @@
-#include "Colore.h"
+#include "vision/Colore.h"
 
-#include "Errore.h"
-#include "Gest_Variabili.h"
+#include "base/Errore.h"
+#include "shell/Gest_Variabili.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "Fotogramma.h"
+#include "vision/Fotogramma.h"
 
-#include "Colore.h"
-#include "ErroreDi.h"
+#include "vision/Colore.h"
+#include "tests/support/ErroreDi.h"
 
 #include <gtest/gtest.h>
 

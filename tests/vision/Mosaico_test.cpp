@@ -1,6 +1,6 @@
-#include "Mosaico.h"
+#include "vision/Mosaico.h"
 
-#include "Colore.h"
+#include "vision/Colore.h"
 
 #include <QPainter>
 #include <gtest/gtest.h>

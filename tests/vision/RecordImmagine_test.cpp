@@ -1,8 +1,8 @@
-#include "RecordImmagine.h"
+#include "vision/RecordImmagine.h"
 
-#include "ArchivioImmagini.h"
-#include "ErroreDi.h"
-#include "NomeDoppio.h"
+#include "vision/ArchivioImmagini.h"
+#include "tests/support/ErroreDi.h"
+#include "vision/NomeDoppio.h"
 
 #include <QDir>
 #include <QFile>

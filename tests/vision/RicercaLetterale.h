@@ -2,7 +2,7 @@
 // against.
 #pragma once
 
-#include "Matrice.h"
+#include "vision/Matrice.h"
 
 #include <array>
 #include <optional>

@@ -1,7 +1,7 @@
-#include "Ricerca.h"
+#include "vision/Ricerca.h"
 
-#include "ErroreDi.h"
-#include "RicercaLetterale.h"
+#include "tests/support/ErroreDi.h"
+#include "tests/vision/RicercaLetterale.h"
 
 #include <gtest/gtest.h>
 #include <optional>

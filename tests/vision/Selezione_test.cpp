@@ -1,9 +1,9 @@
 // From a drag on the picture to the record in the naming dialog.
-#include "BancoVisione.h"
+#include "tests/vision/BancoVisione.h"
 
-#include "Attesa.h"
-#include "Modali.h"
-#include "Scritte.h"
+#include "tests/support/Attesa.h"
+#include "tests/support/Modali.h"
+#include "tests/support/Scritte.h"
 
 #include <QTest>
 #include <QWindow>

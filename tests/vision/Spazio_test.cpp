@@ -1,8 +1,8 @@
 // The windows of the camera have room for their texts with every desktop's font.
-#include "Attesa.h"
-#include "BancoVisione.h"
-#include "Ritaglio.h"
-#include "Scritte.h"
+#include "tests/support/Attesa.h"
+#include "tests/vision/BancoVisione.h"
+#include "tests/support/Ritaglio.h"
+#include "tests/support/Scritte.h"
 
 #include <gmock/gmock.h>
 

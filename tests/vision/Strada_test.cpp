@@ -1,11 +1,11 @@
 // The whole road: from the camera of the simulated robot over a pseudo-terminal to the pixels on
 // the screen.
-#include "BancoVisione.h"
+#include "tests/vision/BancoVisione.h"
 
-#include "Attesa.h"
-#include "PortaAsio.h"
-#include "Simulatore.h"
-#include "Telecamera.h"
+#include "tests/support/Attesa.h"
+#include "serial/PortaAsio.h"
+#include "simulator/Simulatore.h"
+#include "simulator/Telecamera.h"
 
 #include <QTest>
 #include <gtest/gtest.h>

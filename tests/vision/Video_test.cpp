@@ -1,6 +1,6 @@
 // The owners of the camera's state, without a window.
-#include "Selezione.h"
-#include "Video.h"
+#include "vision/Selezione.h"
+#include "vision/Video.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // The video window: its life, the road of rows, the zoom, the search on the screen.
-#include "BancoVisione.h"
+#include "tests/vision/BancoVisione.h"
 
-#include "Attesa.h"
-#include "Modali.h"
-#include "Scritte.h"
+#include "tests/support/Attesa.h"
+#include "tests/support/Modali.h"
+#include "tests/support/Scritte.h"
 
 #include <QScreen>
 #include <QTest>

@@ -1,8 +1,8 @@
 // The list of the stored pictures: names, drawing, check marks.
-#include "BancoVisione.h"
+#include "tests/vision/BancoVisione.h"
 
-#include "Attesa.h"
-#include "Modali.h"
+#include "tests/support/Attesa.h"
+#include "tests/support/Modali.h"
 
 #include <QAbstractItemView>
 #include <QDir>

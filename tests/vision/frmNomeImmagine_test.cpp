@@ -1,11 +1,11 @@
 // The naming dialog: keys, storing, duplicates, full disks.
-#include "BancoVisione.h"
+#include "tests/vision/BancoVisione.h"
 
-#include "Archivio.h"
-#include "Attesa.h"
-#include "Modali.h"
-#include "Scritte.h"
-#include "Sistema.h"
+#include "base/Archivio.h"
+#include "tests/support/Attesa.h"
+#include "tests/support/Modali.h"
+#include "tests/support/Scritte.h"
+#include "tests/support/Sistema.h"
 
 #include <QDir>
 #include <QTest>

@@ -1,0 +1,24 @@
+#include "controls/Applicazione.h"
+
+#include "controls/look/Aspetto.h"
+#include "art/Disegni.h"
+#include "controls/Italiano.h"
+#include "controls/SecondaPressione.h"
+#include "controls/TastiRipetuti.h"
+
+#include <QApplication>
+
+using namespace Qt::StringLiterals;
+
+void preparaApplicazione(QApplication &app)
+{
+    // Qt would end the program with its last window, and a box counts as one.
+    QApplication::setQuitOnLastWindowClosed(false);
+    QCoreApplication::setQuitLockEnabled(false);
+    fermaSecondePressioni(app);
+    fermaTastiRipetuti(app);
+    installaItaliano(app);
+    impostaAspetto();
+    QApplication::setDesktopFileName(u"lumbra"_s);
+    QApplication::setWindowIcon(Disegni::icona(u"lumbra"));
+}

@@ -1,0 +1,353 @@
+#include "controls/Finestra.h"
+
+#include "controls/Tasti.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QTimer>
+#include <QWindow>
+#include <algorithm>
+#include <functional>
+#include <optional>
+#include <utility>
+
+namespace {
+
+// The window of the program that was activated last: coming back to it from a message box or from
+// another program is no activation.
+QPointer<Finestra> ultimaAttiva;
+
+// All windows of the program, the one that was active last first.
+QList<Finestra *> &perAttivita()
+{
+    static QList<Finestra *> finestre;
+    return finestre;
+}
+
+void ricordaAttiva(Finestra *finestra)
+{
+    ultimaAttiva = finestra;
+    perAttivita().removeOne(finestra);
+    perAttivita().prepend(finestra);
+}
+
+// A window that is just going away is hidden already, though Qt calls it visible still.
+bool siVede(const QWidget &finestra)
+{
+    return finestra.isVisible() && !finestra.isHidden();
+}
+
+bool eAperta(const QWidget &finestra)
+{
+    return siVede(finestra) && !finestra.isMinimized();
+}
+
+// X11 gives each repeat of a held key as a release and a press of the same moment, and Qt takes
+// the release for an automatic one only if the press has come with it. While a handler's wait keeps
+// the events running it often has not: the release is then held back until it is sure.
+struct RilascioSospeso
+{
+    int codice;
+    quint64 quando;
+    std::function<void()> consegna;
+};
+std::optional<RilascioSospeso> sospeso;
+
+// Milliseconds: how far the two may be apart, and how long the press may be on its way.
+constexpr quint64 stessoMomento = 2;
+constexpr int attesaDelTasto = 150;
+
+void consegnaSospeso()
+{
+    if (const auto rilascio = std::exchange(sospeso, {}))
+        rilascio->consegna();
+}
+
+void sospendi(QObject &finestra, RilascioSospeso rilascio)
+{
+    const quint64 quando = rilascio.quando;
+    sospeso = std::move(rilascio);
+    QTimer::singleShot(attesaDelTasto, &finestra, [quando] {
+        if (sospeso && sospeso->quando == quando)
+            consegnaSospeso();
+    });
+}
+
+} // namespace
+
+Finestra::Finestra(const QString &nome, const QString &titolo) : m_titolo(titolo)
+{
+    setObjectName(nome);
+    setWindowTitle(titolo);
+    setMouseTracking(true);
+    perAttivita().append(this);
+}
+
+Finestra::~Finestra()
+{
+    perAttivita().removeOne(this);
+}
+
+Finestra *Finestra::Ultima()
+{
+    const auto trovata = std::ranges::find_if(perAttivita(), [](auto *f) { return siVede(*f); });
+    return trovata == perAttivita().end() ? nullptr : *trovata;
+}
+
+QWidget *Finestra::Davanti()
+{
+    QWidget *modale = QApplication::activeModalWidget();
+    if (modale && siVede(*modale))
+        return modale;
+    QWidget *attiva = QApplication::activeWindow();
+    if (attiva && eAperta(*attiva) && attiva->windowType() != Qt::Popup)
+        return attiva;
+    const auto aperta = std::ranges::find_if(perAttivita(), [](auto *f) { return eAperta(*f); });
+    if (aperta != perAttivita().end())
+        return *aperta;
+    Finestra *ultima = Ultima();
+    return ultima ? ultima : perAttivita().value(0);
+}
+
+bool Finestra::carica()
+{
+    if (m_caricata)
+        return true;
+    if (!m_inizializzata) {
+        m_inizializzata = true;
+        m_misura = size();
+        Initialize();
+    }
+    m_caricata = true;
+    Load();
+    return m_caricata;
+}
+
+void Finestra::Mostra()
+{
+    if (Visible()) {
+        riportaDavanti();
+        return;
+    }
+    impostaPulsanti();
+    if (!carica())
+        return;
+    show();
+    Resize();
+    ricordaAttiva(this);
+    Activate();
+}
+
+void Finestra::riportaDavanti()
+{
+    if (isMinimized())
+        QWidget::setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+}
+
+// The buttons of the title bar. A window system adds what it likes unless it is told.
+void Finestra::impostaPulsanti()
+{
+    if (windowType() == Qt::SplashScreen)
+        return;
+    const bool fissa = minimumSize() == maximumSize();
+    if (!m_dialogo && !fissa)
+        return;
+    Qt::WindowFlags come = Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                           Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+    come |= m_dialogo ? Qt::Dialog : Qt::Window | Qt::WindowMinimizeButtonHint;
+    // A window that is there already would be made anew.
+    if (come != windowFlags())
+        setWindowFlags(come);
+}
+
+void Finestra::MostraModale()
+{
+    if (Visible())
+        return;
+    setDialogo();
+    impostaPulsanti();
+    if (!carica())
+        return;
+    const QWidget *sotto = Davanti();
+    setWindowModality(Qt::ApplicationModal);
+    winId();
+    if (sotto && sotto != this && sotto->windowHandle())
+        windowHandle()->setTransientParent(sotto->windowHandle());
+    Mostra();
+    QEventLoop attesa;
+    while (Visible())
+        attesa.processEvents(QEventLoop::WaitForMoreEvents);
+    setWindowModality(Qt::NonModal);
+    // The next time it may belong to another window, and that one to this.
+    windowHandle()->setTransientParent(nullptr);
+}
+
+void Finestra::Scarica()
+{
+    scarica(Chiusura::Codice);
+}
+
+void Finestra::scarica(Chiusura come)
+{
+    if (!m_caricata)
+        return;
+    bool rifiutata = false;
+    QueryUnload(rifiutata, come);
+    if (!rifiutata && m_caricata)
+        Unload(rifiutata);
+    if (rifiutata || !m_caricata)
+        return;
+    m_caricata = false;
+    hide();
+    if (ultimaAttiva == this)
+        ultimaAttiva.clear();
+    const EventiSospesi zitti;
+    QWidget::setWindowState(Qt::WindowNoState);
+    setWindowTitle(m_titolo);
+    Disegno();
+    resize(m_misura);
+}
+
+void Finestra::QueryUnload(bool &, Chiusura) {}
+
+void Finestra::Unload(bool &) {}
+
+void Finestra::KeyDown(int, int) {}
+
+void Finestra::KeyUp(int, int) {}
+
+int Finestra::WindowState() const
+{
+    const Qt::WindowStates stato = windowState();
+    if (stato & Qt::WindowMinimized)
+        return 1;
+    return (stato & Qt::WindowMaximized) ? 2 : 0;
+}
+
+void Finestra::setWindowState(int stato)
+{
+    Qt::WindowStates nuovo = windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized);
+    if (stato == 1)
+        nuovo |= Qt::WindowMinimized;
+    else if (stato == 2)
+        nuovo |= Qt::WindowMaximized;
+    QWidget::setWindowState(nuovo);
+}
+
+void Finestra::setPredefinito(Pulsante *pulsante)
+{
+    m_predefinito = pulsante;
+    pulsante->setDefault(true);
+}
+
+void Finestra::setKeyPreview()
+{
+    qApp->installEventFilter(this);
+}
+
+void Finestra::attiva()
+{
+    if (ultimaAttiva == this || !Visible())
+        return;
+    ricordaAttiva(this);
+    eseguiGestore([this] { Activate(); });
+}
+
+bool Finestra::event(QEvent *evento)
+{
+    const bool esito = QWidget::event(evento);
+    if (evento->type() == QEvent::WindowActivate)
+        attiva();
+    return esito;
+}
+
+// A key that nobody takes travels up through the parents as one and the same event, and only its
+// first stop counts. Nothing but the event itself can tell: handlers move the focus and handle
+// other keys meanwhile. So the first stop marks it, by the one bit of its time that no clock
+// reaches.
+static bool primaTappa(QKeyEvent &tasto)
+{
+    constexpr quint64 segno = quint64(1) << 63;
+    if (tasto.timestamp() & segno)
+        return false;
+    tasto.setTimestamp(tasto.timestamp() | segno);
+    return true;
+}
+
+bool Finestra::eventFilter(QObject *oggetto, QEvent *evento)
+{
+    if (evento->type() != QEvent::KeyPress && evento->type() != QEvent::KeyRelease)
+        return false;
+    const auto *controllo = qobject_cast<QWidget *>(oggetto);
+    if (!controllo || controllo->window() != this)
+        return false;
+    auto *tasto = static_cast<QKeyEvent *>(evento);
+    const quint64 quando = tasto->timestamp();
+    if (!primaTappa(*tasto))
+        return false;
+    const int codice = Tasti::codice(*tasto);
+    const int maiuscole = numeroMaiuscole(tasto->modifiers());
+    const bool premuto = evento->type() == QEvent::KeyPress;
+    if (premuto && sospeso && sospeso->codice == codice &&
+        quando - sospeso->quando <= stessoMomento)
+        sospeso.reset(); // the key is still held
+    else
+        consegnaSospeso();
+    if (premuto) {
+        eseguiGestore([&] { KeyDown(codice, maiuscole); });
+    } else if (!tasto->isAutoRepeat()) {
+        const auto consegna = [questa = QPointer(this), codice, maiuscole] {
+            if (questa)
+                eseguiGestore([&] { questa->KeyUp(codice, maiuscole); });
+        };
+        if (QGuiApplication::platformName() == u"xcb")
+            sospendi(*this, {codice, quando, consegna});
+        else
+            consegna();
+    }
+    return false;
+}
+
+void Finestra::closeEvent(QCloseEvent *evento)
+{
+    // Where the window goes is decided below, not by Qt.
+    evento->ignore();
+    eseguiGestore([this] { scarica(Chiusura::Utente); });
+}
+
+void Finestra::changeEvent(QEvent *evento)
+{
+    QWidget::changeEvent(evento);
+    if (evento->type() == QEvent::WindowStateChange && m_caricata)
+        eseguiGestore([this] { Resize(); });
+}
+
+void Finestra::resizeEvent(QResizeEvent *evento)
+{
+    QWidget::resizeEvent(evento);
+    if (m_caricata && Visible())
+        eseguiGestore([this] { Resize(); });
+}
+
+void Finestra::mouseMoveEvent(QMouseEvent *)
+{
+    eseguiGestore([this] { MouseMove(); });
+}
+
+void Finestra::keyPressEvent(QKeyEvent *evento)
+{
+    const int codice = Tasti::codice(*evento);
+    if (codice == Tasti::Invio) {
+        auto *conFuoco = qobject_cast<Pulsante *>(focusWidget());
+        if (Pulsante *pulsante = conFuoco ? conFuoco : m_predefinito)
+            pulsante->click();
+    } else if (codice == Tasti::Esc && m_annulla) {
+        m_annulla->click();
+    } else {
+        QWidget::keyPressEvent(evento);
+    }
+}

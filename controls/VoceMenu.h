@@ -1,0 +1,48 @@
+// Menus: a bar, its menus, their entries. Each entry is a QAction under its name.
+#pragma once
+
+#include "controls/Evento.h"
+
+#include <QAction>
+#include <QMenuBar>
+
+// An entry that raises Click. Its check mark changes by code only, not by the user's choosing it.
+class VoceMenu : public QAction
+{
+    Q_OBJECT
+    Q_PROPERTY(QString Tag READ Tag WRITE setTag)
+    Q_PROPERTY(QString Caption READ Caption WRITE setCaption)
+    Q_PROPERTY(bool Checked READ Checked WRITE setChecked)
+    Q_PROPERTY(bool Enabled READ Enabled WRITE setEnabled)
+
+public:
+    VoceMenu(const QString &nome, QMenu *dentro, const QString &testo);
+
+    QString Tag() const { return m_tag; }
+    void setTag(const QString &tag) { m_tag = tag; }
+    QString Caption() const { return text(); }
+    void setCaption(const QString &testo) { setText(testo); }
+    bool Checked() const { return m_spuntata; }
+    void setChecked(bool spuntata);
+    bool Enabled() const { return isEnabled(); }
+
+    Evento<> Click;
+
+private:
+    QString m_tag;
+    bool m_spuntata = false;
+};
+
+// At the top of a window, inside it on every system.
+class BarraMenu : public QMenuBar
+{
+    Q_OBJECT
+
+public:
+    explicit BarraMenu(QWidget *finestra);
+
+    // A menu is named by the QAction that opens it.
+    QMenu *aggiungi(const QString &nome, const QString &testo);
+    static QMenu *aggiungi(QMenu *dentro, const QString &nome, const QString &testo);
+    static void aggiungiSeparatore(QMenu *dentro, const QString &nome);
+};
