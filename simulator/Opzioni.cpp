@@ -1,7 +1,7 @@
 #include "simulator/Opzioni.h"
-#include "simulator/Memoria.h"
+#include "simulator/robot/Memoria.h"
 #include "simulator/Simulatore.h"
-#include "simulator/Telecamera.h"
+#include "simulator/robot/Telecamera.h"
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QTimer>

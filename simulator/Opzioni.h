@@ -1,5 +1,5 @@
 #pragma once
-#include "simulator/Guasti.h"
+#include "simulator/line/Guasti.h"
 #include <QString>
 #include <QStringList>
 #include <array>

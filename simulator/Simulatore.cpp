@@ -1,10 +1,10 @@
 #include "simulator/Simulatore.h"
-#include "simulator/CollegamentoPorta.h"
-#include "simulator/Linea.h"
-#include "simulator/Registrazione.h"
-#include "simulator/Riproduttore.h"
-#include "simulator/Telegrammi.h"
-#include "simulator/Uscita.h"
+#include "simulator/line/CollegamentoPorta.h"
+#include "simulator/line/Linea.h"
+#include "simulator/line/Registrazione.h"
+#include "simulator/line/Riproduttore.h"
+#include "simulator/robot/Telegrammi.h"
+#include "simulator/line/Uscita.h"
 #include <QTimer>
 
 using namespace Qt::StringLiterals;

@@ -1,6 +1,6 @@
 #pragma once
-#include "simulator/Diario.h"
-#include "simulator/Robot.h"
+#include "simulator/robot/Diario.h"
+#include "simulator/robot/Robot.h"
 #include <QByteArray>
 #include <QList>
 #include <QObject>

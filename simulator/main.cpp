@@ -1,7 +1,7 @@
 // tessaro-sim: the simulated robot, with a window or without.
 #include "controls/look/Aspetto.h"
 #include "art/Disegni.h"
-#include "simulator/FinestraSimulatore.h"
+#include "simulator/window/FinestraSimulatore.h"
 #include "simulator/Opzioni.h"
 #include "simulator/Segnali.h"
 #include "simulator/Simulatore.h"

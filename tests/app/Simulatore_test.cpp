@@ -1,8 +1,8 @@
 // The same of the simulated robot's window.
 #include "tests/support/Contrasto.h"
-#include "simulator/FinestraSimulatore.h"
+#include "simulator/window/FinestraSimulatore.h"
 #include "simulator/Simulatore.h"
-#include "simulator/Stanza.h"
+#include "simulator/robot/Stanza.h"
 #include "tests/app/Tastiera.h"
 
 #include <QTest>

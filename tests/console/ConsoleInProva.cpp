@@ -1,6 +1,6 @@
 #include "tests/console/ConsoleInProva.h"
 
-#include "simulator/Memoria.h"
+#include "simulator/robot/Memoria.h"
 #include "serial/PortaAsio.h"
 
 #include <gtest/gtest.h>

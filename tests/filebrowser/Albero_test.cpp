@@ -2,7 +2,7 @@
 #include "tests/support/Attesa.h"
 #include "tests/filebrowser/BancoEsploraFile.h"
 #include "link/ComandiTessaro.h"
-#include "simulator/Memoria.h"
+#include "simulator/robot/Memoria.h"
 #include "tests/support/Modali.h"
 #include "serial/PortaAsio.h"
 #include "simulator/Simulatore.h"

@@ -10,7 +10,7 @@ import sys
 from pathlib import Path
 
 FOLDERS = "base controls serial shell link console movelists vision filebrowser conditional".split()
-VOCABULARY = "console/vocabolario/FrasiSuoni.cpp"
+VOCABULARY = "link/FrasiSuoni.cpp"
 MESSAGES = "09-i-messaggi.md"
 PHRASES = "12-frasi-e-suoni.md"
 # What the tour takes pictures of.

@@ -1,5 +1,5 @@
 """Rules of the whole source that no single test program sees: what ends the program, who makes boxes,
-and that no failure of a handler crosses Qt's dispatch.
+that no failure of a handler crosses Qt's dispatch, and that no include runs upward or in a circle.
 test_rules.py ROOT"""
 
 import pathlib
@@ -9,6 +9,37 @@ import unittest
 
 RADICE = pathlib.Path(sys.argv.pop() if len(sys.argv) > 1 else ".")
 CARTELLE = ["base", "controls", "controls/look", "serial", "shell", "link", "movelists", "conditional", "filebrowser", "vision", "console"]
+
+# The floors: what each folder may include besides itself and the drawings. The simulated robot and the
+# program share the look and the drawings, and nothing of the wire.
+BASE = {"base"}
+CONTROLS = BASE | {"controls", "controls/look"}
+SERIAL = CONTROLS | {"serial"}
+SHELL = SERIAL | {"shell"}
+LINK = SHELL | {"link"}
+MOVELISTS = LINK | {"movelists"}
+CONSOLE = LINK | {"movelists", "console"}
+FLOORS = {
+    "art": set(),
+    "base": BASE,
+    "controls/look": {"controls/look"},
+    "controls": CONTROLS,
+    "serial": SERIAL,
+    "shell": SHELL,
+    "link": LINK,
+    "vision": LINK | {"vision"},
+    "filebrowser": LINK | {"filebrowser"},
+    "movelists": MOVELISTS,
+    "conditional": MOVELISTS | {"conditional"},
+    "console": CONSOLE,
+    "simulator/line": {"simulator/line"},
+    "simulator/robot": {"simulator/line", "simulator/robot"},
+    "simulator": {"simulator/line", "simulator/robot", "simulator", "simulator/window",
+                  "controls/look"},
+    "simulator/window": {"simulator/line", "simulator/robot", "simulator", "simulator/window",
+                         "controls/look"},
+}
+INCLUSO = re.compile(r'^#include "([^"]+)/([^/"]+)"', re.M)
 
 # Handlers run in one of these; what fails in them is dealt with there.
 RIPARI = ["eseguiGestore", "passaErrori", "provaPassata"]
@@ -140,6 +171,51 @@ class Regole(unittest.TestCase):
             for inizio in re.finditer(r"\bcatch\s*\([^)]*\)\s*\{", testo):
                 corpo = testo[inizio.end() - 1:chiusa(testo, inizio.end() - 1)]
                 self.assertNotIn("Archivio::chiudi", senza_ripari(corpo), file)
+
+    def inclusi(self):
+        """Each source of the program and of the simulated robot, with the headers it includes."""
+        for cartella in FLOORS:
+            for file in sorted([*(RADICE / cartella).glob("*.cpp"), *(RADICE / cartella).glob("*.h")]):
+                yield cartella, file, INCLUSO.findall(file.read_text())
+
+    def test_no_include_runs_upward(self):
+        quanti, saliti = 0, []
+        for cartella, file, inclusi in self.inclusi():
+            for sotto, nome in inclusi:
+                quanti += 1
+                if sotto not in FLOORS[cartella] | {"art"}:
+                    saliti.append(f"{file.relative_to(RADICE)} includes {sotto}/{nome}")
+        self.assertGreater(quanti, 500)
+        self.assertEqual(saliti, [])
+
+    def test_an_include_says_its_folder(self):
+        for _, file, _ in self.inclusi():
+            self.assertEqual(re.findall(r'^#include "[^"/]+"', file.read_text(), re.M), [], file)
+
+    def test_no_headers_include_each_other_in_a_circle(self):
+        sotto = {str(file.relative_to(RADICE)): [f"{c}/{n}" for c, n in inclusi]
+                 for _, file, inclusi in self.inclusi()}
+        finiti, aperti = set(), []
+
+        def scendi(nome):
+            self.assertNotIn(nome, aperti, f"a circle: {' > '.join([*aperti, nome])}")
+            if nome in finiti or nome not in sotto:
+                return
+            aperti.append(nome)
+            for altro in sotto[nome]:
+                scendi(altro)
+            finiti.add(aperti.pop())
+
+        for nome in sotto:
+            scendi(nome)
+
+    def test_no_two_headers_have_one_name(self):
+        nomi = {}
+        for radice in [*FLOORS, "tests", "fuzz", "benchmarks"]:
+            figli = (RADICE / radice).rglob("*.h") if radice == "tests" else (RADICE / radice).glob("*.h")
+            for file in figli:
+                self.assertNotIn(file.name, nomi, f"{file} and {nomi.get(file.name)}")
+                nomi[file.name] = file
 
     def fallibili(self):
         """Names of functions that an error can leave, by what they throw and what they call."""

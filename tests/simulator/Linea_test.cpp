@@ -1,5 +1,5 @@
 // The whole simulator on a real pseudo-terminal, opened by its path.
-#include "simulator/Memoria.h"
+#include "simulator/robot/Memoria.h"
 #include "tests/simulator/PortaDiProva.h"
 #include "simulator/Simulatore.h"
 #include <QDir>

@@ -1,5 +1,5 @@
 #include "tests/simulator/RobotInProva.h"
-#include "simulator/Registrazione.h"
+#include "simulator/line/Registrazione.h"
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "simulator/Ritmo.h"
+#include "simulator/line/Ritmo.h"
 #include <gtest/gtest.h>
 
 TEST(Ritmo, At9600BaudASecondCarries960Bytes)

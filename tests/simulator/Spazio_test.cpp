@@ -1,5 +1,5 @@
 // The simulator's window has room for its texts with every desktop's font.
-#include "simulator/FinestraSimulatore.h"
+#include "simulator/window/FinestraSimulatore.h"
 #include "tests/support/Ritaglio.h"
 #include "tests/support/Scritte.h"
 #include "simulator/Simulatore.h"

@@ -1,6 +1,6 @@
 #include "tests/simulator/RobotInProva.h"
-#include "simulator/Stanza.h"
-#include "simulator/Telecamera.h"
+#include "simulator/robot/Stanza.h"
+#include "simulator/robot/Telecamera.h"
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 

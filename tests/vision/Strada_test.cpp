@@ -5,7 +5,7 @@
 #include "tests/support/Attesa.h"
 #include "serial/PortaAsio.h"
 #include "simulator/Simulatore.h"
-#include "simulator/Telecamera.h"
+#include "simulator/robot/Telecamera.h"
 
 #include <QTest>
 #include <gtest/gtest.h>
