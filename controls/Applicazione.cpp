@@ -3,6 +3,7 @@
 #include "controls/look/Aspetto.h"
 #include "art/Disegni.h"
 #include "controls/Italiano.h"
+#include "controls/PressioniPerse.h"
 #include "controls/SecondaPressione.h"
 #include "controls/TastiRipetuti.h"
 
@@ -17,6 +18,7 @@ void preparaApplicazione(QApplication &app)
     QCoreApplication::setQuitLockEnabled(false);
     fermaSecondePressioni(app);
     fermaTastiRipetuti(app);
+    lasciaPressioniPerse(app);
     installaItaliano(app);
     impostaAspetto();
     QApplication::setDesktopFileName(u"lumbra"_s);
