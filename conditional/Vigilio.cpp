@@ -1,5 +1,14 @@
 #include "conditional/Vigilio.h"
 
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString testoAvviato = u"AVVIATO"_s;
+const QString testoChiuso = u"Annulla"_s;
+
+} // namespace
+
 Vigilio::Avvio::Avvio(Vigilio &vigilio) : m_vigilio(vigilio)
 {
     if (m_vigilio.m_stato == Stato::InAvvio)
@@ -27,7 +36,31 @@ void Vigilio::accendi()
 
 void Vigilio::spegni()
 {
+    m_chiuso = false;
     passa(Stato::Spento);
+}
+
+void Vigilio::chiudi()
+{
+    m_chiuso = true;
+    passa(Stato::Spento);
+}
+
+QString Vigilio::testo() const
+{
+    if (avviato())
+        return testoAvviato;
+    return m_chiuso ? testoChiuso : QString();
+}
+
+void Vigilio::scrivi(const QString &testo)
+{
+    if (testo == testoAvviato)
+        accendi();
+    else if (testo == testoChiuso)
+        chiudi();
+    else
+        spegni();
 }
 
 void Vigilio::passa(Stato stato)

@@ -1,14 +1,17 @@
-// Whether the Vigilio starts lists, and the one start that may be under way. A start waits for the
-// user and for the connection, and meanwhile it may be stopped, the window closed, the check marks
-// taken away: it counts only as long as its Avvio is valid.
+// Whether the Vigilio starts lists, the one start that may be under way, and whether a list that it
+// has started is running. A start waits for the user and for the connection. Meanwhile the Vigilio may
+// be stopped, its window closed, the check marks taken away: a start counts only as long as its Avvio
+// is valid.
 #pragma once
 
-#include <QtGlobal>
+#include <QString>
 
 class Vigilio
 {
 public:
     enum class Stato { Spento, InAvvio, Avviato };
+    // The numbers of the pictures that show them.
+    enum class Fase { Spenta = 1, InAttesa, ListaInCorsa };
 
     class Avvio
     {
@@ -34,9 +37,19 @@ public:
         return (m_stato == Stato::InAvvio ? m_prima : m_stato) == Stato::Avviato;
     }
 
-    // Both end a start that is under way.
+    Fase fase() const { return m_fase; }
+    void setFase(Fase fase) { m_fase = fase; }
+
+    // "AVVIATO" while it is on; off it is "Annulla" after its window was closed, else empty.
+    QString testo() const;
+    // "AVVIATO" switches it on, any other text off.
+    void scrivi(const QString &testo);
+
+    // All three end a start that is under way.
     void accendi();
     void spegni();
+    // Off, since the window is closed.
+    void chiudi();
 
 private:
     void passa(Stato stato);
@@ -44,6 +57,8 @@ private:
     Stato m_stato = Stato::Spento;
     // While starting: what it was before.
     Stato m_prima = Stato::Spento;
+    Fase m_fase = Fase::Spenta;
+    bool m_chiuso = false;
     // Grows with every change, so that an old start is never taken for a new one.
     quint64 m_cambi = 0;
 };

@@ -13,7 +13,7 @@
 #include "controls/Grafica.h"
 #include "controls/Pulsanti.h"
 #include "conditional/TastoTenuto.h"
-#include "movelists/Vicini.h"
+#include "conditional/Orologio.h"
 
 using namespace Qt::StringLiterals;
 

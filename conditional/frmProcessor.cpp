@@ -1,19 +1,18 @@
-// The window: its lines, its project, what it asks.
 #include "conditional/frmProcessor.h"
 
-#include "base/Archivio.h"
 #include "base/Cartella.h"
+#include "conditional/AspettoProcessor.h"
 #include "conditional/Condizione.h"
-#include "shell/Gest_File.h"
+#include "conditional/OraDiLista.h"
+#include "conditional/Orologio.h"
 #include "controls/Messaggi.h"
-#include "base/Numeri.h"
-#include "conditional/ProgDat.h"
 #include "controls/Tasti.h"
-#include "shell/VisErrori.h"
 #include "movelists/frmEditor.h"
+#include "shell/VisErrori.h"
 
-#include <QFileInfo>
-#include <QHash>
+#include <QDir>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,11 +28,15 @@ frmProcessor::frmProcessor(ConsoleVigilio &console, frmEditor &editor, const Oro
       impCondizioni(lstFile, lstCondizioni, orologio),
       m_console(console),
       m_editor(editor),
+      m_orologio(orologio),
       m_cartella(cartella)
 {
-    disponi();
+    mostraTag([this] { return m_vigilio.testo(); },
+              [this](const QString &testo) { m_vigilio.scrivi(testo); });
+    disponiProcessor(*this);
     Disegno();
     collegaGestori();
+    collegaEditor();
 }
 
 void frmProcessor::collegaGestori()
@@ -54,25 +57,30 @@ void frmProcessor::collegaGestori()
     pulAnnulla.Click.collega([this] { Scarica(); });
 }
 
+void frmProcessor::collegaEditor()
+{
+    m_editor.VigilioChiesto.collega(this, &frmProcessor::mostraDavanti);
+    m_editor.CondizioneChiesta.collega(this, &frmProcessor::chiediCondizione);
+    m_editor.InChiusura.collega(this, &frmProcessor::editorInChiusura);
+    m_editor.corsa.Comandata.collega(this, &frmProcessor::corsaComandata);
+    m_editor.tmrAttivaAut.Timer.collega(this, &frmProcessor::tmrAttivaAut_Timer);
+}
+
+void frmProcessor::Disegno()
+{
+    m_liste.riposa();
+    Finestre.setFileName({});
+    Finestre.setFilter({});
+    mnuOpzRiduci.setChecked(false);
+    mnuOpzDeselezionaAut.setChecked(false);
+    pulAvvia.setAzione(PulsanteAvvia::Azione::Avvia, false);
+    pulAvvia.setEnabled(false);
+}
+
 void frmProcessor::Load()
 {
-    // Without a default condition to be read the window stays empty.
-    m_riempite = passaErrori([this] { riempi(); });
-}
-
-void frmProcessor::riempi()
-{
-    File.setPath(m_cartella);
-    const QString condizione = ProgDat::leggiCondizione();
-    for (int i = 0; i < File.ListCount(); ++i) {
-        lstCondizioni.AddItem(condizione);
-        lstFile.AddItem(rigaLista(i));
-    }
-}
-
-QString frmProcessor::rigaLista(int riga) const
-{
-    return NomeLista(File.List(riga)) + DescriviCondizione(lstCondizioni.List(riga));
+    // Without a default condition the window stays empty.
+    passaErrori([this] { m_liste.riempi(m_cartella); });
 }
 
 void frmProcessor::Unload(bool &Cancel)
@@ -81,15 +89,15 @@ void frmProcessor::Unload(bool &Cancel)
         Cancel = true;
         return;
     }
-    setTag(u"Annulla"_s);
-    m_editor.imgVigilio.setPicture(1);
+    m_vigilio.chiudi();
+    mostraFase(Vigilio::Fase::Spenta);
     m_editor.tmrAttivaAut.setEnabled(false);
 }
 
-// True where the user cancels.
+// True if the user cancels.
 bool frmProcessor::ChiediSalvataggio()
 {
-    if (Numeri::Logico(lstFile.Tag()))
+    if (m_liste.salvate())
         return false;
     const QString domanda = Caption() == titolo ? u"Vuoi salvare le impostazioni delle liste?"_s
                                                 : u"Vuoi salvare le ultime modifiche?"_s;
@@ -109,13 +117,9 @@ void frmProcessor::mnuFileNuovo_Click()
     if (ChiediSalvataggio())
         return;
     setCaption(titolo);
-    // The check marks go, and what follows them with the last one.
-    for (int i = 0; i < lstFile.ListCount(); ++i)
-        lstFile.setSelected(i, false);
-    lstFile.Clear();
-    lstCondizioni.Clear();
+    m_liste.svuota();
     Load();
-    lstFile.setTag(Numeri::TestoLogico(true));
+    m_liste.segnaSalvate();
 }
 
 void frmProcessor::mnuFileApri_Click()
@@ -123,39 +127,16 @@ void frmProcessor::mnuFileApri_Click()
     conUscita([this] {
         if (ChiediSalvataggio())
             return;
-        lstFile.setTag(Numeri::TestoLogico(true));
+        m_liste.segnaSalvate();
         mnuFileNuovo_Click();
         Finestre.setFilter(filtroProgetti);
         Finestre.ShowOpen();
         if (Finestre.FileName().isEmpty())
             return;
-        leggiProgetto();
+        m_liste.leggiProgetto(Finestre.FileName());
         setCaption(titolo + u"  "_s + nomeDelFile(Finestre.FileName()));
-        lstFile.setTag(Numeri::TestoLogico(true));
+        m_liste.segnaSalvate();
     });
-}
-
-void frmProcessor::leggiProgetto()
-{
-    QHash<QString, int> righe;
-    for (int i = 0; i < lstFile.ListCount(); ++i)
-        righe.insert(File.List(i), i);
-    Progetto::leggi(LeggiFile(Finestre.FileName(), 1), [&](const Progetto::Lista &lista) {
-        const int riga = righe.value(lista.nome, -1);
-        if (riga < 0)
-            return;
-        lstFile.setSelected(riga, lista.selezionata);
-        lstCondizioni.setList(riga, lista.condizione);
-        lstFile.setList(riga, rigaLista(riga));
-    });
-}
-
-QList<Progetto::Lista> frmProcessor::liste() const
-{
-    QList<Progetto::Lista> liste;
-    for (int i = 0; i < lstFile.ListCount(); ++i)
-        liste += {File.List(i), lstFile.Selected(i), lstCondizioni.List(i)};
-    return liste;
 }
 
 void frmProcessor::mnuFileSalva_Click()
@@ -164,18 +145,8 @@ void frmProcessor::mnuFileSalva_Click()
         mnuFileSalvacome_Click();
         return;
     }
-    // No failure is told.
-    if (!passaErrori([this] { scriviProgetto(); }))
-        Archivio::abbandona();
+    m_liste.scriviProgetto(Finestre.FileName());
     setCaption(titolo + u"  "_s + nomeDelFile(Finestre.FileName()));
-    lstFile.setTag(Numeri::TestoLogico(true));
-}
-
-void frmProcessor::scriviProgetto() const
-{
-    // Lists that could not be filled must not take the place of a project that was.
-    if (m_riempite || !QFileInfo::exists(Finestre.FileName()))
-        ScriviFile(Finestre.FileName(), Progetto::scritto(liste()));
 }
 
 void frmProcessor::mnuFileSalvacome_Click()
@@ -197,31 +168,26 @@ void frmProcessor::mnuOpzCondizionePred_Click()
 
 void frmProcessor::lstFile_Click()
 {
-    lstFile.setTag(Numeri::TestoLogico(false));
-    for (int i = 0; i < lstFile.ListCount(); ++i) {
-        if (lstFile.Selected(i)) {
-            pulAvvia.setEnabled(true);
-            return;
-        }
-    }
-    pulAvvia.setEnabled(false);
-    Stoppa();
+    m_liste.segnaCambiate();
+    pulAvvia.setEnabled(m_liste.qualcunaScelta());
+    if (!pulAvvia.isEnabled())
+        Stoppa();
 }
 
 void frmProcessor::lstFile_DblClick()
 {
-    // A list that starts meanwhile becomes the chosen one.
+    // A list that starts during the dialog becomes the selected one.
     const int riga = lstFile.ListIndex();
     if (riga < 0)
         return;
     impCondizioni.MostraModale();
     if (impCondizioni.Tag() != u"OK") {
-        lstFile.setSelected(riga, false);
+        m_liste.scegli(riga, false);
     } else {
-        lstFile.setSelected(riga, true);
-        lstFile.setList(riga, rigaLista(riga));
+        m_liste.scegli(riga, true);
+        m_liste.descrivi(riga);
     }
-    lstFile.setTag(Numeri::TestoLogico(false));
+    m_liste.segnaCambiate();
     impCondizioni.Scarica();
 }
 
@@ -232,4 +198,148 @@ void frmProcessor::lstFile_KeyDown(int &KeyCode)
         return;
     KeyCode = 0;
     lstFile_DblClick();
+}
+
+void frmProcessor::pulAvvia_Click()
+{
+    if (pulAvvia.azione() == PulsanteAvvia::Azione::Ferma) {
+        Stoppa();
+        return;
+    }
+    // The port is open during a connection attempt too, which may still fail.
+    if (m_console.staTentando())
+        return;
+    const Vigilio::Avvio avvio(m_vigilio);
+    if (!avvio.valido())
+        return;
+    if (!m_console.PortOpen() && !connetti(avvio))
+        return;
+    // The user may have stopped the Vigilio while it was connecting.
+    if (!avvio.valido() || inContrasto())
+        return;
+    if (mnuOpzRiduci.Checked())
+        Nascondi();
+    mostraFase(Vigilio::Fase::InAttesa);
+    m_editor.Mostra();
+    m_editor.tmrAttivaAut.setEnabled(true);
+    pulAvvia.setAzione(PulsanteAvvia::Azione::Ferma, false);
+    m_vigilio.accendi();
+}
+
+bool frmProcessor::connetti(const Vigilio::Avvio &avvio)
+{
+    if (messaggio(u"Per avviare il Vigilio è necessario essere connessi ad Tessaro, connettersi "
+                  "ora?"_s,
+                  Icona::Domanda, Pulsanti::SiNo, titolo) != Risposta::Si)
+        return false;
+    if (!avvio.valido() || m_console.staTentando())
+        return false;
+    m_console.Collega();
+    return m_console.collegato();
+}
+
+bool frmProcessor::inContrasto() const
+{
+    const auto contrasto = m_liste.contrasto();
+    if (!contrasto)
+        return false;
+    messaggio(u"\"%1\" e \"%2\"\n%3"_s.arg(contrasto->prima, contrasto->seconda, contrasto->perche),
+              Icona::Informazione, Pulsanti::OK, titolo);
+    return true;
+}
+
+void frmProcessor::VerificaCondizioni(const QString &testo)
+{
+    const TelemetriaLetta telemetria(testo);
+    for (int i = 0; i < m_liste.quante(); ++i) {
+        if (m_liste.scelta(i) && telemetria.avvera(m_liste.condizione(i)))
+            EseguiLista(static_cast<qint16>(i));
+    }
+}
+
+void frmProcessor::Stoppa()
+{
+    mostraFase(Vigilio::Fase::Spenta);
+    m_editor.tmrAttivaAut.setEnabled(false);
+    pulAvvia.setAzione(PulsanteAvvia::Azione::Avvia, true);
+    m_vigilio.spegni();
+}
+
+void frmProcessor::mostraFase(Vigilio::Fase fase)
+{
+    m_vigilio.setFase(fase);
+    m_editor.imgVigilio.setPicture(static_cast<int>(fase));
+}
+
+void frmProcessor::EseguiLista(qint16 riga)
+{
+    const QString nome = m_liste.nome(riga);
+    if (m_editor.corsa.inCorsa() &&
+        nome.compare(m_editor.Finestre.FileName(), Qt::CaseInsensitive) == 0)
+        return;
+    m_editor.ApriLista(nome);
+    if (mnuOpzDeselezionaAut.Checked())
+        m_liste.scegli(riga, false);
+    lstFile.setListIndex(riga);
+    m_editor.Finestre.setFileName(nome);
+    m_editor.corsa.comanda();
+    mostraFase(Vigilio::Fase::ListaInCorsa);
+}
+
+// The clock: every list whose time has come, with or without a check mark.
+void frmProcessor::tmrAttivaAut_Timer()
+{
+    for (int i = 0; i < m_liste.quante(); ++i) {
+        const QString adesso = m_orologio.adesso().toString(u"hh:mm:ss"_s);
+        if (oraDiLista(m_liste.condizione(i), adesso))
+            EseguiLista(static_cast<qint16>(i));
+    }
+}
+
+// After a list that a condition had started, the Vigilio waits for the next one, if there is one.
+void frmProcessor::corsaComandata()
+{
+    if (m_vigilio.fase() != Vigilio::Fase::ListaInCorsa)
+        return;
+    if (m_liste.qualcunaScelta())
+        mostraFase(Vigilio::Fase::InAttesa);
+    else
+        Stoppa();
+}
+
+void frmProcessor::mostraDavanti()
+{
+    Mostra();
+    setWindowState(0);
+    // It may be open already, behind another window.
+    raise();
+    activateWindow();
+}
+
+// The condition of the list that is open in the editor, if it is one of these.
+void frmProcessor::chiediCondizione()
+{
+    mostraDavanti();
+    const QString aperto = QDir::fromNativeSeparators(m_editor.Finestre.FileName());
+    const QString cartella = conSeparatore(QDir::fromNativeSeparators(m_cartella));
+    for (int i = 0; i < m_liste.quante(); ++i) {
+        if (aperto.compare(cartella + m_liste.nome(i), Qt::CaseInsensitive) != 0)
+            continue;
+        m_liste.scegli(i, true);
+        lstFile.setListIndex(i);
+        lstFile_DblClick();
+        return;
+    }
+}
+
+void frmProcessor::editorInChiusura(bool &Cancel)
+{
+    if (!avviato())
+        return;
+    if (messaggio(u"Il Vigilio è in esecuzione, se chiudi il Sequor il Vigilio verrà stoppato, "
+                  "chiudere?"_s,
+                  Icona::Domanda, Pulsanti::SiNo, u"Sequor"_s) == Risposta::Si)
+        Stoppa();
+    else
+        Cancel = true;
 }

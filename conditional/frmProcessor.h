@@ -1,43 +1,40 @@
 // The Vigilio: which lists take part, under which condition, and the engine that starts them.
 #pragma once
 
-#include "link/Ascoltatori.h"
 #include "conditional/ConsoleVigilio.h"
+#include "conditional/ListeVigilio.h"
 #include "controls/Elenco.h"
 #include "controls/ElencoFile.h"
 #include "controls/Finestra.h"
 #include "controls/FinestraFile.h"
-#include "conditional/Progetto.h"
 #include "conditional/PulsanteAvvia.h"
-#include "movelists/Vicini.h"
+#include "link/Ascoltatori.h"
 #include "conditional/Vigilio.h"
 #include "controls/VoceMenu.h"
 #include "conditional/frmImpCondizioni.h"
 
-using namespace Qt::StringLiterals;
-
 class frmEditor;
-class QBoxLayout;
+class Orologio;
 
 // Its Tag is "AVVIATO" while telemetry and the clock start lists.
 class frmProcessor : public Finestra, public AscoltatoreTelemetria
 {
     Q_OBJECT
-    Q_PROPERTY(QString Tag READ Tag WRITE setTag)
 
 public:
-    // cartella: the program's folder, whose lists there are.
+    // cartella: the program's folder; its lists are the ones that the window shows.
     frmProcessor(ConsoleVigilio &console, frmEditor &editor, const Orologio &orologio,
                  const QString &cartella);
 
     bool avviato() const override { return m_vigilio.avviato(); }
-    // "AVVIATO" switches the Vigilio on as far as telemetry goes, any other text switches it off.
-    void setTag(const QString &tag);
     // Runs the lists whose conditions a telemetry text meets, one after the other. A list that
-    // cannot be read is the caller's Errore.
+    // cannot be read throws the Errore of ListaMosse::leggi.
     void VerificaCondizioni(const QString &testo) override;
+    // Loads the list of that row into the editor and runs it, unless it is running already. Errors
+    // are those of ListaMosse::leggi.
+    void EseguiLista(qint16 riga);
     void Stoppa();
-    // Asks for the condition of the line that is chosen; without one nothing happens.
+    // Asks for the condition of the selected row; without one nothing happens.
     void lstFile_DblClick();
 
     FinestraFile Finestre{u"Finestre"_s, this};
@@ -56,8 +53,7 @@ public:
     VoceMenu mnuOpzCondizionePred{u"mnuOpzCondizionePred"_s, mnuOpz,
                                   u"Imposta condizione predefinita"_s};
 
-    // Three parallel lists: what the user sees and ticks, the files, the conditions. The Tag of the
-    // first tells whether there is nothing to save.
+    // Three parallel lists: what the user sees and ticks, the files, the conditions.
     Elenco lstFile{u"lstFile"_s, this, Elenco::Stile::ConSpunte};
     ElencoFile File;
     Elenco lstCondizioni{u"lstCondizioni"_s, this};
@@ -73,9 +69,8 @@ protected:
     void Unload(bool &Cancel) override;
 
 private:
-    // How the window looks.
-    void disponi();
     void collegaGestori();
+    void collegaEditor();
 
     bool ChiediSalvataggio();
     void mnuFileNuovo_Click();
@@ -85,23 +80,22 @@ private:
     void mnuOpzCondizionePred_Click();
     void lstFile_Click();
     void lstFile_KeyDown(int &KeyCode);
-    void riempi();
-    void scriviProgetto() const;
-    void leggiProgetto();
-    QList<Progetto::Lista> liste() const;
-    QString rigaLista(int riga) const;
-
-    // The engine.
+    void mostraDavanti();
+    void chiediCondizione();
+    void editorInChiusura(bool &Cancel);
+    void corsaComandata();
+    void tmrAttivaAut_Timer();
+    void mostraFase(Vigilio::Fase fase);
     void pulAvvia_Click();
     // Asks the user, and connects; whether there is a connection now.
     bool connetti(const Vigilio::Avvio &avvio);
+    // Whether two selected lists cannot go together; a message says which.
     bool inContrasto() const;
 
     ConsoleVigilio &m_console;
     frmEditor &m_editor;
+    const Orologio &m_orologio;
     QString m_cartella;
+    ListeVigilio m_liste{lstFile, File, lstCondizioni};
     Vigilio m_vigilio;
-    // Whether the default condition could be read: without it the lists stay empty, and say nothing
-    // about a project.
-    bool m_riempite = false;
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "controls/Evento.h"
+#include "controls/Tag.h"
 
 #include <QObject>
 #include <QTimer>
@@ -29,8 +30,13 @@ public:
     bool Enabled() const { return m_attivo; }
     void setEnabled(bool attivo);
 
-    virtual QString Tag() const { return m_tag; }
-    virtual void setTag(const QString &tag) { m_tag = tag; }
+    virtual QString Tag() const { return m_tag.testo(); }
+    virtual void setTag(const QString &tag) { m_tag.imposta(tag); }
+    // From now on the Tag shows what an owner holds.
+    void mostraTag(TestoTag::Lettura lettura, TestoTag::Scrittura scrittura)
+    {
+        m_tag.mostra(std::move(lettura), std::move(scrittura));
+    }
 
     Evento<> Timer;
 
@@ -52,7 +58,7 @@ private:
     void riparti();
 
     QTimer m_timer;
-    QString m_tag;
+    TestoTag m_tag;
     int m_intervallo = 0;
     bool m_attivo = false;
     int m_aperti = 0;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "controls/Evento.h"
+#include "controls/Tag.h"
 
 #include <QAction>
 #include <QMenuBar>
@@ -18,8 +19,13 @@ class VoceMenu : public QAction
 public:
     VoceMenu(const QString &nome, QMenu *dentro, const QString &testo);
 
-    QString Tag() const { return m_tag; }
-    void setTag(const QString &tag) { m_tag = tag; }
+    QString Tag() const { return m_tag.testo(); }
+    void setTag(const QString &tag) { m_tag.imposta(tag); }
+    // From now on the Tag shows what an owner holds.
+    void mostraTag(TestoTag::Lettura lettura, TestoTag::Scrittura scrittura)
+    {
+        m_tag.mostra(std::move(lettura), std::move(scrittura));
+    }
     QString Caption() const { return text(); }
     void setCaption(const QString &testo) { setText(testo); }
     bool Checked() const { return m_spuntata; }
@@ -29,7 +35,7 @@ public:
     Evento<> Click;
 
 private:
-    QString m_tag;
+    TestoTag m_tag;
     bool m_spuntata = false;
 };
 

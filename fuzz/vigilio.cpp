@@ -5,7 +5,7 @@
 #include "conditional/Condizione.h"
 #include "base/Errore.h"
 #include "shell/FileProgDat.h"
-#include "movelists/OraDiLista.h"
+#include "conditional/OraDiLista.h"
 #include "conditional/Progetto.h"
 
 #include <cstddef>

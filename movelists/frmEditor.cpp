@@ -1,23 +1,33 @@
-// The window: editing, and the places where a run and the runner meet it.
 #include "movelists/frmEditor.h"
 
 #include "base/Cartella.h"
-#include "controls/Messaggi.h"
-#include "movelists/ModoValore.h"
-#include "base/Numeri.h"
 #include "base/Pompa.h"
+#include "controls/Messaggi.h"
 #include "controls/Tasti.h"
+#include "movelists/AspettoEditor.h"
+#include "movelists/ModoValore.h"
+#include "shell/VisErrori.h"
 
 #include <QDir>
+#include <QShowEvent>
 #include <QWindow>
 
-frmEditor::frmEditor(ConsoleEditor &console, const Orologio &orologio, const QString &cartella)
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString filtroMosse = u"Mosse|*.sqm"_s;
+const QString filtroProgrammi = u"Applicazioni|*.exe"_s;
+
+} // namespace
+
+frmEditor::frmEditor(const Finestra &console, ControlloSeriale &COM, const QString &cartella)
     : Finestra(u"frmEditor"_s, u"Sequor"_s),
-      m_console(console),
-      m_orologio(orologio),
-      m_cartella(cartella)
+      corsa({lstMosse, pulEsegui, tmrEseguiMosse, mnuInsRipeti}, COM, cartella),
+      m_accanto(*this, console)
 {
-    disponi();
+    disponiEditor(*this);
+    setPredefinito(&pulEsegui);
     Disegno();
     collegaGestori();
     collegaMenu();
@@ -25,13 +35,11 @@ frmEditor::frmEditor(ConsoleEditor &console, const Orologio &orologio, const QSt
 
 void frmEditor::collegaGestori()
 {
-    tmrEseguiMosse.Timer.collega(this, &frmEditor::tmrEseguiMosse_Timer);
-    tmrAttivaAut.Timer.collega(this, &frmEditor::tmrAttivaAut_Timer);
-    pulEsegui.Click.collega(this, &frmEditor::pulEsegui_Click);
+    pulEsegui.Click.collega([this] { corsa.comanda(); });
     pulEsegui.MouseMove.collega([this](int, int, double, double) { normali(); });
     opzInsComandi.Click.collega(this, &frmEditor::opzInsComandi_Click);
     lblFile.Change.collega(this, &frmEditor::lblFile_Change);
-    imgVigilio.Click.collega(this, &frmEditor::imgVigilio_Click);
+    imgVigilio.Click.collega([this] { VigilioChiesto(); });
     lstMosse.KeyDown.collega(this, &frmEditor::lstMosse_KeyDown);
     lstMosse.MouseDown.collega([this](int, int, double, double) { lstMosse_MouseDown(); });
     lstMosse.viewport()->installEventFilter(this);
@@ -70,7 +78,7 @@ void frmEditor::collegaMenu()
     mnuFileSalvacome.Click.collega(this, &frmEditor::mnuFileSalvacome_Click);
     mnuFileEsci.Click.collega([this] { Scarica(); });
     mnuInsProg.Click.collega(this, &frmEditor::mnuInsProg_Click);
-    mnuInsCondizione.Click.collega(this, &frmEditor::mnuInsCondizione_Click);
+    mnuInsCondizione.Click.collega([this] { CondizioneChiesta(); });
 
     const auto conValore = [this](VoceMenu &voce, const QString &modo) {
         voce.Click.collega([this, modo] { inserisciValore(modo); });
@@ -81,7 +89,7 @@ void frmEditor::collegaMenu()
     conValore(mnuInsRipeti, u"Ripeti"_s);
 
     const auto conRiga = [this](VoceMenu &voce, const QString &riga) {
-        voce.Click.collega([this, riga] { m_console.AggiungiMossa(riga); });
+        voce.Click.collega([this, riga] { documento.inserisci(riga); });
     };
     conRiga(mnuInsTDx, u"Testa destra 2"_s);
     conRiga(mnuInsTSx, u"Testa sinistra 2"_s);
@@ -95,25 +103,43 @@ void frmEditor::collegaMenu()
     conRiga(mnuInsCamera, u"Camera"_s);
 }
 
+void frmEditor::Disegno()
+{
+    corsa.riposa();
+    documento.riposa();
+    tmrAttivaAut.setEnabled(false);
+    tmrAttivaAut.setInterval(1000);
+    lblFile.setCaption({});
+    lblFile.setToolTip({});
+    Finestre.setFileName({});
+    Finestre.setFilter({});
+    opzInsComandi.setValue(1);
+    opzInsComandi_Click();
+    imgVigilio.setPicture(1);
+    normali();
+}
+
 void frmEditor::Load()
 {
-    lstMosse.setTag(Numeri::TestoLogico(true));
+    documento.segnaSalvata();
     pompa();
-    colloca();
+    m_accanto.colloca();
 }
 
 void frmEditor::Unload(bool &Cancel)
 {
     if (ChiediSalvataggio())
         Cancel = true;
-    if (!m_vigilio || !m_vigilio->avviato())
+    InChiusura(Cancel);
+}
+
+void frmEditor::showEvent(QShowEvent *evento)
+{
+    Finestra::showEvent(evento);
+    if (evento->spontaneous())
         return;
-    if (messaggio(u"Il Vigilio è in esecuzione, se chiudi il Sequor il Vigilio verrà stoppato, "
-                  "chiudere?"_s,
-                  Icona::Domanda, Pulsanti::SiNo, u"Sequor"_s) == Risposta::Si)
-        m_vigilio->Stoppa();
-    else
-        Cancel = true;
+    m_accanto.mostrata();
+    windowHandle()->installEventFilter(this);
 }
 
 void frmEditor::MouseMove()
@@ -127,34 +153,14 @@ void frmEditor::inserisciValore(const QString &modo)
     valore.MostraModale();
     if (valore.Tag() == u"Annulla")
         return;
-    m_console.AggiungiMossa(
+    documento.inserisci(
         Modi::riga(modo, valore.txtValore.Text(), valore.cbInfo.ListIndex(), valore.cbInfo.Text()));
-}
-
-void frmEditor::mnuInsCondizione_Click()
-{
-    if (!m_vigilio)
-        return;
-    m_vigilio->mostra();
-    const QString aperto = QDir::fromNativeSeparators(Finestre.FileName());
-    const QString cartella = conSeparatore(QDir::fromNativeSeparators(m_cartella));
-    for (int i = 0; i < m_vigilio->ListCount(); ++i) {
-        if (aperto.compare(cartella + m_vigilio->File(i), Qt::CaseInsensitive) != 0)
-            continue;
-        m_vigilio->setSelected(i, true);
-        m_vigilio->setListIndex(i);
-        m_vigilio->lstFile_DblClick();
-        return;
-    }
 }
 
 void frmEditor::pulCanc_Click()
 {
     pulCanc.setPicture(1);
-    const int riga = lstMosse.ListIndex();
-    passaErrori([&] { lstMosse.RemoveItem(riga); });
-    passaErrori([&] { lstMosse.setListIndex(riga); });
-    lstMosse.setTag(Numeri::TestoLogico(false));
+    documento.togli();
 }
 
 void frmEditor::pulSu_Click()
@@ -162,7 +168,7 @@ void frmEditor::pulSu_Click()
     pulSu.setPicture(3);
     const int riga = lstMosse.ListIndex();
     if (riga > 0)
-        scambia(riga, riga - 1);
+        documento.scambia(riga, riga - 1);
 }
 
 void frmEditor::pulGiu_Click()
@@ -171,15 +177,7 @@ void frmEditor::pulGiu_Click()
     const int riga = lstMosse.ListIndex();
     // With nothing selected there is no line to move.
     if (riga >= 0 && riga < lstMosse.ListCount() - 1)
-        scambia(riga, riga + 1);
-}
-
-void frmEditor::scambia(int riga, int con)
-{
-    const QString testo = lstMosse.List(riga);
-    lstMosse.setList(riga, lstMosse.List(con));
-    lstMosse.setList(con, testo);
-    lstMosse.setListIndex(con);
+        documento.scambia(riga, riga + 1);
 }
 
 void frmEditor::pulsante_MouseMove(const Disegnato &disegnato, double X, double Y)
@@ -191,7 +189,7 @@ void frmEditor::pulsante_MouseMove(const Disegnato &disegnato, double X, double 
     disegnato.pulsante->setPicture(vicinoAlBordo ? disegnato.normale : disegnato.sotto);
 }
 
-// A picture is not told that the pointer has left it: whoever the pointer comes to puts all right.
+// A picture does not notice that the pointer has left it: what the pointer reaches next calls this.
 void frmEditor::normali()
 {
     for (const Disegnato &disegnato : m_disegnati)
@@ -200,29 +198,24 @@ void frmEditor::normali()
 
 void frmEditor::lstMosse_KeyDown(int &KeyCode, int)
 {
-    if (KeyCode == Tasti::Canc && !tmrEseguiMosse.Enabled())
+    if (KeyCode == Tasti::Canc && !corsa.inCorsa())
         pulCanc_Click();
 }
 
 void frmEditor::lstMosse_MouseDown()
 {
-    if (!tmrEseguiMosse.Enabled())
-        return;
-    // The row may have been deleted since it was run.
-    passaErrori([this] { lstMosse.setListIndex(Numeri::Intero(pulEsegui.Tag())); });
-    passaErrori([this] { pulEsegui.SetFocus(); });
+    if (corsa.inCorsa())
+        corsa.riprendiRiga();
 }
 
 bool frmEditor::eventFilter(QObject *oggetto, QEvent *evento)
 {
-    if (evento->type() == QEvent::Expose && oggetto == windowHandle() && m_daRivedere &&
-        windowHandle()->isExposed()) {
-        m_daRivedere = false;
-        rientra();
-    }
-    // Of a double click the list gets no second MouseDown, though it gets the focus once more.
+    if (evento->type() == QEvent::Expose && oggetto == windowHandle() &&
+        windowHandle()->isExposed())
+        m_accanto.rivedi();
+    // The second press of a double click raises no MouseDown, but gives the focus to the list.
     if (evento->type() == QEvent::MouseButtonDblClick && oggetto == lstMosse.viewport() &&
-        tmrEseguiMosse.Enabled()) {
+        corsa.inCorsa()) {
         eseguiGestore([this] { lstMosse_MouseDown(); });
         return true;
     }
@@ -232,7 +225,7 @@ bool frmEditor::eventFilter(QObject *oggetto, QEvent *evento)
 void frmEditor::lstMosse_MouseMove(int Button)
 {
     normali();
-    // The selection follows a pointer that is dragged along.
+    // A pointer that is dragged takes the selection along.
     if (Button != 0)
         lstMosse_MouseDown();
 }
@@ -254,8 +247,97 @@ void frmEditor::lblFile_Change()
     lblFile.setToolTip(u"File aperto: "_s + lblFile.Caption());
 }
 
-void frmEditor::imgVigilio_Click()
+// True if the user cancels.
+bool frmEditor::ChiediSalvataggio()
 {
-    if (m_vigilio)
-        m_vigilio->mostra();
+    if (documento.salvata() || ListaVuota(false))
+        return false;
+    const QString domanda = lblFile.Caption().isEmpty() ? u"Vuoi salvare la lista?"_s
+                                                        : u"Vuoi salvare le ultime modifiche?"_s;
+    switch (messaggio(domanda, Icona::Domanda, Pulsanti::SiNoAnnulla, u"Sequor"_s)) {
+    case Risposta::Si:
+        mnuFileSalva_Click();
+        return false;
+    case Risposta::No:
+        return false;
+    default:
+        return true;
+    }
+}
+
+bool frmEditor::ListaVuota(bool mostra)
+{
+    if (!documento.vuota())
+        return false;
+    if (mostra)
+        messaggio(u"Non c'è niente da salvare!"_s, Icona::Informazione, Pulsanti::OK, Caption());
+    return true;
+}
+
+void frmEditor::mnuFileNuovo_Click()
+{
+    conUscita([this] {
+        if (ChiediSalvataggio())
+            return;
+        corsa.ferma();
+        lblFile.setCaption({});
+        Finestre.setFileName({});
+        documento.svuota();
+        documento.segnaSalvata();
+    });
+}
+
+void frmEditor::mnuFileApri_Click()
+{
+    conUscita([this] {
+        if (ChiediSalvataggio())
+            return;
+        Finestre.setFilter(filtroMosse);
+        Finestre.ShowOpen();
+        if (!Finestre.FileName().isEmpty())
+            ApriLista(Finestre.FileName());
+    });
+}
+
+void frmEditor::ApriLista(const QString &percorso)
+{
+    corsa.ferma();
+    documento.leggi(percorso);
+    lblFile.setCaption(nomeDelFile(percorso));
+}
+
+void frmEditor::mnuFileSalva_Click()
+{
+    if (ListaVuota(true))
+        return;
+    if (Finestre.FileName().isEmpty()) {
+        mnuFileSalvacome_Click();
+        return;
+    }
+    documento.scrivi(Finestre.FileName());
+    lblFile.setCaption(nomeDelFile(Finestre.FileName()));
+}
+
+void frmEditor::mnuFileSalvacome_Click()
+{
+    conUscita([this] {
+        if (ListaVuota(true))
+            return;
+        Finestre.setFilter(filtroMosse);
+        Finestre.ShowSave();
+        if (!Finestre.FileName().isEmpty())
+            mnuFileSalva_Click();
+    });
+}
+
+void frmEditor::mnuInsProg_Click()
+{
+    conUscita([this] {
+        const QString prima = Finestre.FileName();
+        Finestre.setFilter(filtroProgrammi);
+        Finestre.ShowOpen();
+        if (!Finestre.FileName().isEmpty())
+            documento.inserisci(u"Programma "_s + QDir::toNativeSeparators(Finestre.FileName()));
+        Finestre.setFileName(prima);
+    });
 }

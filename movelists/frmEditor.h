@@ -4,11 +4,14 @@
 #include "art/Disegni.h"
 #include "controls/Elenco.h"
 #include "controls/EtichettaAbbreviata.h"
+#include "controls/Finestra.h"
 #include "controls/FinestraFile.h"
 #include "controls/Grafica.h"
 #include "controls/Temporizzatore.h"
-#include "movelists/Vicini.h"
 #include "controls/VoceMenu.h"
+#include "movelists/FinestraAccanto.h"
+#include "movelists/Corsa.h"
+#include "movelists/ListaMosse.h"
 #include "movelists/frmValore.h"
 
 #include <array>
@@ -18,23 +21,24 @@ class frmEditor : public Finestra
     Q_OBJECT
 
 public:
-    // cartella: the program's folder.
-    frmEditor(ConsoleEditor &console, const Orologio &orologio, const QString &cartella);
+    // console: the window beside which this one opens. cartella: the program's folder.
+    frmEditor(const Finestra &console, ControlloSeriale &COM, const QString &cartella);
 
-    // They come later; without one what would be asked of it is left out.
-    void impostaVigilio(VigilioEditor *vigilio) { m_vigilio = vigilio; }
-    void impostaCamera(CameraEditor *camera) { m_camera = camera; }
-
-    // Loads a list; a failure to read it is an Errore, and what was read so far stays.
+    // Loads a list after stopping the one that runs. Errors are those of ListaMosse::leggi.
     void ApriLista(const QString &percorso);
-    // Loads and runs the list in that row of the runner, unless it is running already.
-    void EseguiLista(qint16 riga);
+
+    // The user asks for the runner, or for the start condition of the open list.
+    Evento<> VigilioChiesto;
+    Evento<> CondizioneChiesta;
+    // The window is about to close; true keeps it open.
+    Evento<bool &> InChiusura;
 
     ListaImmagini lstImgVigilio{Disegni::lstImgVigilio()};
     ListaImmagini imgPulsanti{Disegni::imgPulsantiEditor()};
     FinestraFile Finestre{u"Finestre"_s, this};
     // Its Tag is the loop's counter.
     Temporizzatore tmrEseguiMosse{u"tmrEseguiMosse"_s, this};
+    // The runner's clock.
     Temporizzatore tmrAttivaAut{u"tmrAttivaAut"_s, this};
 
     BarraMenu barraMenu{this};
@@ -81,6 +85,9 @@ public:
 
     frmValore valore;
 
+    ListaMosse documento{lstMosse};
+    Corsa corsa;
+
 protected:
     void Disegno() override;
     void Load() override;
@@ -99,15 +106,8 @@ private:
         int sotto;
     };
 
-    // How the window looks.
-    void disponi();
-    void disponiPulsanti(class QBoxLayout *colonna);
     void collegaGestori();
     void collegaMenu();
-    void colloca();
-    // On the screen, the frame included.
-    void metti(const QRect &conCornice);
-    void rientra();
 
     bool ChiediSalvataggio();
     bool ListaVuota(bool mostra);
@@ -116,34 +116,20 @@ private:
     void mnuFileSalva_Click();
     void mnuFileSalvacome_Click();
     void mnuInsProg_Click();
-    void mnuInsCondizione_Click();
     void inserisciValore(const QString &modo);
     void pulCanc_Click();
     void pulSu_Click();
     void pulGiu_Click();
-    void scambia(int riga, int con);
     void pulsante_MouseMove(const Disegnato &disegnato, double X, double Y);
+    // Every picture button as it looks without the pointer on it.
     void normali();
     void lstMosse_KeyDown(int &KeyCode, int Shift);
     void lstMosse_MouseDown();
     void lstMosse_MouseMove(int Button);
     void opzInsComandi_Click();
     void lblFile_Change();
-    void imgVigilio_Click();
 
-    // The run.
-    void pulEsegui_Click();
-    void tmrEseguiMosse_Timer();
-    void passoCiclo(quint8 volte);
-    void tmrAttivaAut_Timer();
-
-    ConsoleEditor &m_console;
-    const Orologio &m_orologio;
-    QString m_cartella;
-    VigilioEditor *m_vigilio = nullptr;
-    CameraEditor *m_camera = nullptr;
-    // The window was shown, and has not been seen yet.
-    bool m_daRivedere = false;
+    FinestraAccanto m_accanto;
     std::array<Disegnato, 6> m_disegnati{{{&pulCanc, 1, 7},
                                           {&pulPausa, 2, 8},
                                           {&pulSu, 3, 9},

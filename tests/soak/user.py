@@ -6,7 +6,7 @@ import time
 
 import pyatspi
 
-from screen import CONSOLE, Schermo, mostrato, raccogli, xdotool
+from screen import CONSOLE, Schermo, area_di, mostrato, raccogli, xdotool
 
 PAZIENZA = 90.0
 DOPPIO_CLIC = 0.6  # seconds after which a second click is one of its own; the desktop's are 0.4
@@ -194,12 +194,20 @@ class Utente(Schermo):
         self.davanti(CONSOLE)
         x, y = posti[nome]
         xdotool("mousemove", "--window", self.numero_finestra(CONSOLE), x, y)
-        # The second click of a double click does nothing on most pictures: two clicks are meant.
-        ultimo, quando = self.ultimo_clic
-        if ultimo == (nome, bottone):
-            time.sleep(max(0.0, quando + DOPPIO_CLIC - time.monotonic()))
+        self.attendi_il_prossimo((nome, bottone))
         xdotool("click", bottone)
-        self.ultimo_clic = (nome, bottone), time.monotonic()
+
+    def clic(self, controllo, dx=0.5, dy=0.5, volte=1):
+        self.attendi_il_prossimo(area_di(controllo))
+        super().clic(controllo, dx, dy, volte)
+
+    def attendi_il_prossimo(self, dove):
+        """Two clicks at one place must not become a double click: its second half does nothing on
+        most pictures."""
+        ultimo, quando = self.ultimo_clic
+        if ultimo == dove:
+            time.sleep(max(0.0, quando + DOPPIO_CLIC - time.monotonic()))
+        self.ultimo_clic = dove, time.monotonic()
 
     def apri(self, strumento, titolo):
         self.clic_console(strumento)

@@ -1,13 +1,15 @@
-// How the window looks, and its design values.
-#include "conditional/frmProcessor.h"
+#include "conditional/AspettoProcessor.h"
 
 #include "conditional/Condizione.h"
+#include "conditional/frmProcessor.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -25,8 +27,8 @@ public:
     }
 };
 
-// How far a row's text stands from the list's edge: the frame, then the check mark and the margins
-// around it and before the text.
+// The distance of a row's text from the list's edge in pixels: the frame, the check mark, and the
+// margins around it and before the text.
 int rientroTesto(const Elenco &lista)
 {
     const QStyle &stile = *lista.style();
@@ -60,63 +62,64 @@ void separatorePrima(QMenu *menu, QAction *voce, const QString &nome)
     menu->insertSeparator(voce)->setObjectName(nome);
 }
 
-} // namespace
-
-void frmProcessor::disponi()
+void disponiMenu(frmProcessor &p)
 {
-    separatorePrima(mnuFile, &mnuFileSalva, u"t1"_s);
-    separatorePrima(mnuFile, &mnuFileEsci, u"t2"_s);
-    separatorePrima(mnuOpz, &mnuOpzCondizionePred, u"t3"_s);
-    mnuFileNuovo.setShortcut(QKeySequence::New);
-    mnuFileApri.setShortcut(QKeySequence::Open);
-    mnuFileSalva.setShortcut(QKeySequence::Save);
-    mnuFileSalvacome.setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+    separatorePrima(p.mnuFile, &p.mnuFileSalva, u"t1"_s);
+    separatorePrima(p.mnuFile, &p.mnuFileEsci, u"t2"_s);
+    separatorePrima(p.mnuOpz, &p.mnuOpzCondizionePred, u"t3"_s);
+    p.mnuFileNuovo.setShortcut(QKeySequence::New);
+    p.mnuFileApri.setShortcut(QKeySequence::Open);
+    p.mnuFileSalva.setShortcut(QKeySequence::Save);
+    p.mnuFileSalvacome.setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+}
 
-    lstCondizioni.hide();
+void vestiLista(frmProcessor &p)
+{
+    p.lstCondizioni.hide();
     QFont fisso(u"Courier New"_s);
     fisso.setStyleHint(QFont::Monospace);
     fisso.setFixedPitch(true);
-    fisso.setPointSize(font().pointSize() + 1);
-    lstFile.setFont(fisso);
-    lstFile.setItemDelegate(new RigaAlta(&lstFile));
-    lstFile.setAlternatingRowColors(true);
-    lstFile.setAccessibleName(u"Liste e condizioni di avvio"_s);
-    lstFile.setToolTip(u"Doppio clic su una lista per impostarne la condizione di avvio"_s);
+    fisso.setPointSize(p.font().pointSize() + 1);
+    p.lstFile.setFont(fisso);
+    p.lstFile.setItemDelegate(new RigaAlta(&p.lstFile));
+    p.lstFile.setAlternatingRowColors(true);
+    p.lstFile.setAccessibleName(u"Liste e condizioni di avvio"_s);
+    p.lstFile.setToolTip(u"Doppio clic su una lista per impostarne la condizione di avvio"_s);
+}
 
-    QFont grassetto = pulAvvia.font();
+QLayout *disponiPulsanti(frmProcessor &p)
+{
+    QFont grassetto = p.pulAvvia.font();
     grassetto.setBold(true);
-    pulAvvia.setFont(grassetto);
-    pulAvvia.setIconSize({24, 24});
-    pulAvvia.setMinimumSize(130, altezzaPulsanti);
-    for (Pulsante *pulsante : {&pulSalva, &pulAnnulla})
+    p.pulAvvia.setFont(grassetto);
+    p.pulAvvia.setIconSize({24, 24});
+    p.pulAvvia.setMinimumSize(130, altezzaPulsanti);
+    for (Pulsante *pulsante : {&p.pulSalva, &p.pulAnnulla})
         pulsante->setMinimumHeight(altezzaPulsanti);
 
     auto *pulsanti = new QHBoxLayout;
     pulsanti->setSpacing(8);
-    pulsanti->addWidget(&pulAvvia);
+    pulsanti->addWidget(&p.pulAvvia);
     pulsanti->addStretch();
-    pulsanti->addWidget(&pulSalva);
-    pulsanti->addWidget(&pulAnnulla);
-
-    auto *colonna = new QVBoxLayout(this);
-    colonna->setMenuBar(&barraMenu);
-    colonna->setContentsMargins(10, 8, 10, 10);
-    colonna->setSpacing(8);
-    colonna->addLayout(titoli(this, lstFile));
-    colonna->addWidget(&lstFile, 1);
-    colonna->addLayout(pulsanti);
-    resize(460, 420);
+    pulsanti->addWidget(&p.pulSalva);
+    pulsanti->addWidget(&p.pulAnnulla);
+    return pulsanti;
 }
 
-void frmProcessor::Disegno()
+} // namespace
+
+void disponiProcessor(frmProcessor &processor)
 {
-    lstFile.Clear();
-    lstFile.setTag(u"-1"_s);
-    lstCondizioni.Clear();
-    Finestre.setFileName({});
-    Finestre.setFilter({});
-    mnuOpzRiduci.setChecked(false);
-    mnuOpzDeselezionaAut.setChecked(false);
-    pulAvvia.setAzione(PulsanteAvvia::Azione::Avvia, false);
-    pulAvvia.setEnabled(false);
+    disponiMenu(processor);
+    vestiLista(processor);
+
+    auto *colonna = new QVBoxLayout(&processor);
+    colonna->setMenuBar(&processor.barraMenu);
+    colonna->setContentsMargins(10, 8, 10, 10);
+    colonna->setSpacing(8);
+    QLayout *pulsanti = disponiPulsanti(processor);
+    colonna->addLayout(titoli(&processor, processor.lstFile));
+    colonna->addWidget(&processor.lstFile, 1);
+    colonna->addLayout(pulsanti);
+    processor.resize(460, 420);
 }

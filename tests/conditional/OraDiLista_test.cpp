@@ -1,5 +1,5 @@
 // When the clock starts a list.
-#include "movelists/OraDiLista.h"
+#include "conditional/OraDiLista.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "movelists/OraDiLista.h"
+#include "conditional/OraDiLista.h"
 
 #include "base/Numeri.h"
 
