@@ -3,7 +3,7 @@
 #include "base/Cartella.h"
 #include "controls/Comandi.h"
 #include "serial/PortaAsio.h"
-#include "conditional/VigilioVicino.h"
+#include "conditional/Orologio.h"
 #include "vision/frmCamera.h"
 #include "movelists/frmEditor.h"
 #include "filebrowser/frmEsploraFile.h"
@@ -12,29 +12,9 @@
 
 #include <QApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace {
-
-// The console, as the editor sees it.
-class ConsoleVicina : public ConsoleEditor
-{
-public:
-    explicit ConsoleVicina(frmPrincipale &principale) : m_principale(principale) {}
-
-    ControlloSeriale &COM() override { return m_principale.COM; }
-    Posto posto() const override
-    {
-        return {m_principale.Left(), m_principale.Top(), m_principale.Width()};
-    }
-    void mostraMessaggio(const QString &testo) override
-    {
-        m_principale.BarraStato.setPanels(3, testo);
-    }
-    void MostraInvio(const QString &testo) override { m_principale.MostraInvio(testo); }
-    void AggiungiMossa(const QString &riga) override { m_principale.AggiungiMossa(riga); }
-
-private:
-    frmPrincipale &m_principale;
-};
 
 // The console, as the runner sees it.
 class CollegamentoVigilio : public ConsoleVigilio
@@ -49,23 +29,6 @@ public:
 
 private:
     frmPrincipale &m_principale;
-};
-
-// The video window, as the line "Camera" of a list sees it.
-class CameraVicina : public CameraEditor
-{
-public:
-    explicit CameraVicina(frmCamera &camera) : m_camera(camera) {}
-    void mostra() override { m_camera.Mostra(); }
-
-private:
-    frmCamera &m_camera;
-};
-
-class OrologioVero : public Orologio
-{
-public:
-    QTime adesso() const override { return QTime::currentTime(); }
 };
 
 } // namespace
@@ -89,23 +52,22 @@ int main(int argc, char **argv)
     principale.motore.ascoltaVideo(&camera);
     principale.motore.ascoltaFile(&esploraFile.prelievo);
 
-    ConsoleVicina console(principale);
-    CameraVicina cameraVicina(camera);
-    const OrologioVero orologio;
-    frmEditor editor(console, orologio, cartella);
-    editor.impostaCamera(&cameraVicina);
+    frmEditor editor(principale, principale.COM, cartella);
+    editor.corsa.Messaggio.collega(
+        [&](const QString &testo) { principale.BarraStato.setPanels(3, testo); });
+    editor.corsa.Inviato.collega([&](const QString &testo) { principale.MostraInvio(testo); });
+    editor.corsa.CameraChiesta.collega([&] { passaErrori([&] { camera.Mostra(); }); });
 
     CollegamentoVigilio collegamento(principale);
+    const OrologioVero orologio;
     frmProcessor processor(collegamento, editor, orologio, cartella);
-    VigilioVicino vigilio(processor);
-    editor.impostaVigilio(&vigilio);
     principale.motore.ascoltaTelemetria(&processor);
 
     FinestreConsole finestre;
     finestre.frmCamera = &camera;
     finestre.frmEditor = &editor;
     finestre.opzInsComandi = &editor.opzInsComandi;
-    finestre.lstMosse = &editor.lstMosse;
+    finestre.documento = &editor.documento;
     finestre.frmProcessor = &processor;
     finestre.Stoppa = [&] { processor.Stoppa(); };
     finestre.frmEsploraFile = &esploraFile;

@@ -14,42 +14,20 @@
 
 namespace {
 
-class ConsoleFinta : public ConsoleEditor
-{
-public:
-    explicit ConsoleFinta(const QString &cartella)
-        : m_com(QStringLiteral("COM"), nullptr, std::make_unique<PortaAsio>(), cartella)
-    {
-        m_com.setCommPort(1);
-        m_com.setPortOpen(true);
-    }
-    ControlloSeriale &COM() override { return m_com; }
-    Posto posto() const override { return {0, 1300, 0}; }
-    void mostraMessaggio(const QString &) override {}
-    void MostraInvio(const QString &) override {}
-    void AggiungiMossa(const QString &) override {}
-
-private:
-    ControlloSeriale m_com;
-};
-
-class OrologioFermo : public Orologio
-{
-public:
-    QTime adesso() const override { return {12, 0}; }
-};
-
 struct Banco
 {
     Terminale terminale;
-    ConsoleFinta console{terminale.cartella()};
-    OrologioFermo orologio;
-    frmEditor editor{console, orologio, terminale.cartella()};
+    Finestra console{QStringLiteral("frmConsole"), QStringLiteral("Console")};
+    ControlloSeriale COM{QStringLiteral("COM"), nullptr, std::make_unique<PortaAsio>(),
+                         terminale.cartella()};
+    frmEditor editor{console, COM, terminale.cartella()};
     QString nome;
 
     Banco(int righe, const QString &riga)
         : nome(terminale.cartella() + QStringLiteral("/lista.sqm"))
     {
+        COM.setCommPort(1);
+        COM.setPortOpen(true);
         Archivio::apri(1, nome, Archivio::Modo::Scrittura);
         Archivio::stampa(1, FileMosse::scritto(QStringList(righe, riga)));
         Archivio::chiudi();

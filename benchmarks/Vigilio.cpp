@@ -4,7 +4,7 @@
 #include "base/Pompa.h"
 #include "serial/PortaAsio.h"
 #include "benchmarks/Terminale.h"
-#include "conditional/VigilioVicino.h"
+#include "conditional/Orologio.h"
 #include "movelists/frmEditor.h"
 #include "console/frmPrincipale.h"
 #include "conditional/frmProcessor.h"
@@ -18,16 +18,11 @@ namespace {
 
 constexpr int quante = 1000;
 
-class ConsoleVera : public ConsoleEditor, public ConsoleVigilio
+class ConsoleVera : public ConsoleVigilio
 {
 public:
     explicit ConsoleVera(frmPrincipale &principale) : m_principale(principale) {}
 
-    ControlloSeriale &COM() override { return m_principale.COM; }
-    Posto posto() const override { return {0, 1300, 0}; }
-    void mostraMessaggio(const QString &) override {}
-    void MostraInvio(const QString &) override {}
-    void AggiungiMossa(const QString &) override {}
     bool PortOpen() override { return m_principale.COM.PortOpen(); }
     bool collegato() override { return m_principale.collegato(); }
     bool staTentando() override { return m_principale.staTentando(); }
@@ -50,9 +45,8 @@ struct Banco
     frmPrincipale principale{{std::make_unique<PortaAsio>(), terminale.cartella(), [] {}}};
     ConsoleVera console{principale};
     OrologioFermo orologio;
-    frmEditor editor{console, orologio, terminale.cartella()};
+    frmEditor editor{principale, principale.COM, terminale.cartella()};
     frmProcessor processor{console, editor, orologio, terminale.cartella()};
-    VigilioVicino vicino{processor};
 
     Banco()
     {
@@ -62,7 +56,6 @@ struct Banco
             if (file.open(QIODevice::WriteOnly))
                 file.write(" 0 \r\nTesta LED tutti on\r\n");
         }
-        editor.impostaVigilio(&vicino);
         principale.motore.ascoltaTelemetria(&processor);
         principale.Mostra();
         terminale.scrivi("\x1f\x15\x1f\x15");

@@ -36,31 +36,29 @@ void Vigilio::accendi()
 
 void Vigilio::spegni()
 {
-    m_chiuso = false;
+    m_testo.clear();
     passa(Stato::Spento);
 }
 
 void Vigilio::chiudi()
 {
-    m_chiuso = true;
+    m_testo = testoChiuso;
     passa(Stato::Spento);
 }
 
 QString Vigilio::testo() const
 {
-    if (avviato())
-        return testoAvviato;
-    return m_chiuso ? testoChiuso : QString();
+    return avviato() ? testoAvviato : m_testo;
 }
 
 void Vigilio::scrivi(const QString &testo)
 {
-    if (testo == testoAvviato)
+    if (testo == testoAvviato) {
         accendi();
-    else if (testo == testoChiuso)
-        chiudi();
-    else
-        spegni();
+    } else {
+        m_testo = testo;
+        passa(Stato::Spento);
+    }
 }
 
 void Vigilio::passa(Stato stato)

@@ -40,7 +40,8 @@ public:
     Fase fase() const { return m_fase; }
     void setFase(Fase fase) { m_fase = fase; }
 
-    // "AVVIATO" while it is on; off it is "Annulla" after its window was closed, else empty.
+    // The Tag of its window: "AVVIATO" while it is on; while it is off, "Annulla" after its window
+    // was closed, else empty, or the text that was written from outside.
     QString testo() const;
     // "AVVIATO" switches it on, any other text off.
     void scrivi(const QString &testo);
@@ -58,7 +59,8 @@ private:
     // While starting: what it was before.
     Stato m_prima = Stato::Spento;
     Fase m_fase = Fase::Spenta;
-    bool m_chiuso = false;
+    // Read while it is off.
+    QString m_testo;
     // Grows with every change, so that an old start is never taken for a new one.
     quint64 m_cambi = 0;
 };

@@ -68,7 +68,7 @@ void frmProcessor::collegaEditor()
 
 void frmProcessor::Disegno()
 {
-    m_liste.riposa();
+    liste.riposa();
     Finestre.setFileName({});
     Finestre.setFilter({});
     mnuOpzRiduci.setChecked(false);
@@ -80,7 +80,7 @@ void frmProcessor::Disegno()
 void frmProcessor::Load()
 {
     // Without a default condition the window stays empty.
-    passaErrori([this] { m_liste.riempi(m_cartella); });
+    passaErrori([this] { liste.riempi(m_cartella); });
 }
 
 void frmProcessor::Unload(bool &Cancel)
@@ -97,7 +97,7 @@ void frmProcessor::Unload(bool &Cancel)
 // True if the user cancels.
 bool frmProcessor::ChiediSalvataggio()
 {
-    if (m_liste.salvate())
+    if (liste.salvate())
         return false;
     const QString domanda = Caption() == titolo ? u"Vuoi salvare le impostazioni delle liste?"_s
                                                 : u"Vuoi salvare le ultime modifiche?"_s;
@@ -117,9 +117,9 @@ void frmProcessor::mnuFileNuovo_Click()
     if (ChiediSalvataggio())
         return;
     setCaption(titolo);
-    m_liste.svuota();
+    liste.svuota();
     Load();
-    m_liste.segnaSalvate();
+    liste.segnaSalvate();
 }
 
 void frmProcessor::mnuFileApri_Click()
@@ -127,15 +127,15 @@ void frmProcessor::mnuFileApri_Click()
     conUscita([this] {
         if (ChiediSalvataggio())
             return;
-        m_liste.segnaSalvate();
+        liste.segnaSalvate();
         mnuFileNuovo_Click();
         Finestre.setFilter(filtroProgetti);
         Finestre.ShowOpen();
         if (Finestre.FileName().isEmpty())
             return;
-        m_liste.leggiProgetto(Finestre.FileName());
+        liste.leggiProgetto(Finestre.FileName());
         setCaption(titolo + u"  "_s + nomeDelFile(Finestre.FileName()));
-        m_liste.segnaSalvate();
+        liste.segnaSalvate();
     });
 }
 
@@ -145,7 +145,7 @@ void frmProcessor::mnuFileSalva_Click()
         mnuFileSalvacome_Click();
         return;
     }
-    m_liste.scriviProgetto(Finestre.FileName());
+    liste.scriviProgetto(Finestre.FileName());
     setCaption(titolo + u"  "_s + nomeDelFile(Finestre.FileName()));
 }
 
@@ -168,8 +168,8 @@ void frmProcessor::mnuOpzCondizionePred_Click()
 
 void frmProcessor::lstFile_Click()
 {
-    m_liste.segnaCambiate();
-    pulAvvia.setEnabled(m_liste.qualcunaScelta());
+    liste.segnaCambiate();
+    pulAvvia.setEnabled(liste.qualcunaScelta());
     if (!pulAvvia.isEnabled())
         Stoppa();
 }
@@ -182,12 +182,12 @@ void frmProcessor::lstFile_DblClick()
         return;
     impCondizioni.MostraModale();
     if (impCondizioni.Tag() != u"OK") {
-        m_liste.scegli(riga, false);
+        liste.scegli(riga, false);
     } else {
-        m_liste.scegli(riga, true);
-        m_liste.descrivi(riga);
+        liste.scegli(riga, true);
+        liste.descrivi(riga);
     }
-    m_liste.segnaCambiate();
+    liste.segnaCambiate();
     impCondizioni.Scarica();
 }
 
@@ -240,7 +240,7 @@ bool frmProcessor::connetti(const Vigilio::Avvio &avvio)
 
 bool frmProcessor::inContrasto() const
 {
-    const auto contrasto = m_liste.contrasto();
+    const auto contrasto = liste.contrasto();
     if (!contrasto)
         return false;
     messaggio(u"\"%1\" e \"%2\"\n%3"_s.arg(contrasto->prima, contrasto->seconda, contrasto->perche),
@@ -251,8 +251,8 @@ bool frmProcessor::inContrasto() const
 void frmProcessor::VerificaCondizioni(const QString &testo)
 {
     const TelemetriaLetta telemetria(testo);
-    for (int i = 0; i < m_liste.quante(); ++i) {
-        if (m_liste.scelta(i) && telemetria.avvera(m_liste.condizione(i)))
+    for (int i = 0; i < liste.quante(); ++i) {
+        if (liste.scelta(i) && telemetria.avvera(liste.condizione(i)))
             EseguiLista(static_cast<qint16>(i));
     }
 }
@@ -273,13 +273,13 @@ void frmProcessor::mostraFase(Vigilio::Fase fase)
 
 void frmProcessor::EseguiLista(qint16 riga)
 {
-    const QString nome = m_liste.nome(riga);
+    const QString nome = liste.nome(riga);
     if (m_editor.corsa.inCorsa() &&
         nome.compare(m_editor.Finestre.FileName(), Qt::CaseInsensitive) == 0)
         return;
     m_editor.ApriLista(nome);
     if (mnuOpzDeselezionaAut.Checked())
-        m_liste.scegli(riga, false);
+        liste.scegli(riga, false);
     lstFile.setListIndex(riga);
     m_editor.Finestre.setFileName(nome);
     m_editor.corsa.comanda();
@@ -289,9 +289,9 @@ void frmProcessor::EseguiLista(qint16 riga)
 // The clock: every list whose time has come, with or without a check mark.
 void frmProcessor::tmrAttivaAut_Timer()
 {
-    for (int i = 0; i < m_liste.quante(); ++i) {
+    for (int i = 0; i < liste.quante(); ++i) {
         const QString adesso = m_orologio.adesso().toString(u"hh:mm:ss"_s);
-        if (oraDiLista(m_liste.condizione(i), adesso))
+        if (oraDiLista(liste.condizione(i), adesso))
             EseguiLista(static_cast<qint16>(i));
     }
 }
@@ -301,7 +301,7 @@ void frmProcessor::corsaComandata()
 {
     if (m_vigilio.fase() != Vigilio::Fase::ListaInCorsa)
         return;
-    if (m_liste.qualcunaScelta())
+    if (liste.qualcunaScelta())
         mostraFase(Vigilio::Fase::InAttesa);
     else
         Stoppa();
@@ -322,10 +322,10 @@ void frmProcessor::chiediCondizione()
     mostraDavanti();
     const QString aperto = QDir::fromNativeSeparators(m_editor.Finestre.FileName());
     const QString cartella = conSeparatore(QDir::fromNativeSeparators(m_cartella));
-    for (int i = 0; i < m_liste.quante(); ++i) {
-        if (aperto.compare(cartella + m_liste.nome(i), Qt::CaseInsensitive) != 0)
+    for (int i = 0; i < liste.quante(); ++i) {
+        if (aperto.compare(cartella + liste.nome(i), Qt::CaseInsensitive) != 0)
             continue;
-        m_liste.scegli(i, true);
+        liste.scegli(i, true);
         lstFile.setListIndex(i);
         lstFile_DblClick();
         return;

@@ -63,6 +63,8 @@ public:
 
     frmImpCondizioni impCondizioni;
 
+    ListeVigilio liste{lstFile, File, lstCondizioni};
+
 protected:
     void Disegno() override;
     void Load() override;
@@ -96,6 +98,5 @@ private:
     frmEditor &m_editor;
     const Orologio &m_orologio;
     QString m_cartella;
-    ListeVigilio m_liste{lstFile, File, lstCondizioni};
     Vigilio m_vigilio;
 };

@@ -6,7 +6,6 @@
 #include "base/Codifica.h"
 #include "console/Collocazione.h"
 #include "shell/FileProgDat.h"
-#include "movelists/ListaMosse.h"
 #include "controls/Messaggi.h"
 #include "base/Numeri.h"
 #include "base/Pompa.h"
@@ -189,7 +188,7 @@ bool frmPrincipale::ListaAttiva() const
 
 void frmPrincipale::AggiungiMossa(const QString &riga)
 {
-    ListaMosse(*m_finestre.lstMosse).inserisci(riga);
+    m_finestre.documento->inserisci(riga);
 }
 
 void frmPrincipale::RidaiFuoco()

@@ -13,6 +13,7 @@
 #include "link/Sessione.h"
 #include "console/Targa.h"
 #include "controls/VoceMenu.h"
+#include "movelists/ListaMosse.h"
 #include "shell/frmOpzioni.h"
 
 #include <QGroupBox>
@@ -35,7 +36,7 @@ struct FinestreConsole
     Finestra *frmCamera = nullptr;
     Finestra *frmEditor = nullptr;
     CasellaSpunta *opzInsComandi = nullptr;
-    Elenco *lstMosse = nullptr;
+    ListaMosse *documento = nullptr;
     Finestra *frmProcessor = nullptr;
     std::function<void()> Stoppa;
     Finestra *frmEsploraFile = nullptr;

@@ -31,8 +31,8 @@ void mostraNumero(Controllo &controllo, int &numero)
 
 } // namespace
 
-Corsa::Corsa(const Controlli &controlli, ControlloSeriale &COM, const QString &cartella)
-    : c(controlli), COM(COM), m_cartella(cartella)
+Corsa::Corsa(const Controlli &controlli, ControlloSeriale &seriale, const QString &cartella)
+    : c(controlli), COM(seriale), m_cartella(cartella)
 {
     c.tmrEseguiMosse.Timer.collega(this, &Corsa::passo);
     mostraNumero(c.pulEsegui, m_ultima);

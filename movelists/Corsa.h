@@ -25,7 +25,7 @@ public:
     };
 
     // cartella: the program's folder, in which a list's programs are looked for first.
-    Corsa(const Controlli &controlli, ControlloSeriale &COM, const QString &cartella);
+    Corsa(const Controlli &controlli, ControlloSeriale &seriale, const QString &cartella);
     ~Corsa();
     Q_DISABLE_COPY_MOVE(Corsa)
 

@@ -3,9 +3,9 @@
 
 #include "tests/movelists/BancoEditor.h"
 #include "tests/vision/BancoVisione.h"
-#include "conditional/VigilioVicino.h"
 #include "filebrowser/frmEsploraFile.h"
 #include "conditional/frmProcessor.h"
+#include "tests/conditional/OrologioFermo.h"
 
 class TutteLeFinestre
 {
@@ -23,8 +23,7 @@ public:
     frmPrincipale &principale = visione.console;
     frmEsploraFile esplora{principale.COM, principale.BarraStato, visione.cartella.percorso()};
     OrologioFermo orologio;
-    ConsoleFinta console{principale.COM};
-    frmEditor editor{console, orologio, visione.cartella.percorso()};
+    frmEditor editor{principale, principale.COM, visione.cartella.percorso()};
 
 private:
     class Collegamento : public ConsoleVigilio

@@ -20,7 +20,6 @@ void CollegamentoFinto::Collega()
 BancoVigilio::BancoVigilio()
 {
     cartella.scrivi(u"prog.dat"_s, "0;");
-    editor.impostaVigilio(&vicino);
     console.accelera = false;
 }
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "tests/movelists/BancoEditor.h"
-#include "conditional/VigilioVicino.h"
 #include "conditional/frmProcessor.h"
+#include "tests/conditional/OrologioFermo.h"
 
 class CollegamentoFinto : public ConsoleVigilio
 {
@@ -52,10 +52,9 @@ protected:
     // The list that runs, empty where none does.
     QString inCorso() const;
 
-    // The runner's own, not the stand-in of the editor's bench.
+    OrologioFermo orologio;
     CollegamentoFinto collegamento{seriale};
     frmProcessor processor{collegamento, editor, orologio, cartella.percorso()};
-    VigilioVicino vicino{processor};
 };
 
 inline const QString fabbrica = u"00:00:00,no,no,no,no"_s;

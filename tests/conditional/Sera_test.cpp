@@ -3,28 +3,20 @@
 #include "tests/movelists/BancoEditor.h"
 #include "serial/PortaAsio.h"
 #include "simulator/Simulatore.h"
-#include "conditional/VigilioVicino.h"
 #include "console/frmPrincipale.h"
 #include "conditional/frmProcessor.h"
+#include "tests/conditional/OrologioFermo.h"
 
 #include <gmock/gmock.h>
 #include <iostream>
 
 namespace {
 
-class ConsoleVera : public ConsoleEditor, public ConsoleVigilio
+class ConsoleVera : public ConsoleVigilio
 {
 public:
     explicit ConsoleVera(frmPrincipale &principale) : m_principale(principale) {}
 
-    ControlloSeriale &COM() override { return m_principale.COM; }
-    Posto posto() const override { return {0, 0, 0}; }
-    void mostraMessaggio(const QString &testo) override
-    {
-        m_principale.BarraStato.setPanels(3, testo);
-    }
-    void MostraInvio(const QString &testo) override { m_principale.MostraInvio(testo); }
-    void AggiungiMossa(const QString &riga) override { m_principale.AggiungiMossa(riga); }
     bool PortOpen() override { return m_principale.COM.PortOpen(); }
     bool collegato() override { return m_principale.collegato(); }
     bool staTentando() override { return m_principale.staTentando(); }
@@ -45,12 +37,15 @@ protected:
         EXPECT_TRUE(robot.apri()) << robot.errore().toStdString();
         EXPECT_TRUE(robot.collegaPorta(cartella.percorso(), 1)) << robot.errore().toStdString();
 
-        editor.impostaVigilio(&vigilio);
+        editor.corsa.Messaggio.collega(
+            [this](const QString &testo) { principale.BarraStato.setPanels(3, testo); });
+        editor.corsa.Inviato.collega(
+            [this](const QString &testo) { principale.MostraInvio(testo); });
         principale.motore.ascoltaTelemetria(&processor);
         FinestreConsole finestre;
         finestre.frmEditor = &editor;
         finestre.opzInsComandi = &editor.opzInsComandi;
-        finestre.lstMosse = &editor.lstMosse;
+        finestre.documento = &editor.documento;
         finestre.frmProcessor = &processor;
         finestre.Stoppa = [this] { processor.Stoppa(); };
         principale.impostaFinestre(finestre);
@@ -115,9 +110,8 @@ protected:
     frmPrincipale principale{{std::make_unique<PortaAsio>(), cartella.percorso(), [] {}}};
     ConsoleVera console{principale};
     OrologioFermo orologio;
-    frmEditor editor{console, orologio, cartella.percorso()};
+    frmEditor editor{principale, principale.COM, cartella.percorso()};
     frmProcessor processor{console, editor, orologio, cartella.percorso()};
-    VigilioVicino vigilio{processor};
 };
 
 enum Frasi { Caldo = 11, Ostacolo, Scarica, Notte, Mattina, Gelo, Spenta, Logica };

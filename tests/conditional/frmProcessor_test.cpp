@@ -150,7 +150,7 @@ TEST_F(frmProcessorTest, WithoutProgDatTheListsStayEmptyWithoutAWord)
     mostraVigilio({u"a.sqm"_s});
     EXPECT_EQ(righeVigilio(), QStringList());
     EXPECT_EQ(condizioni(), QStringList());
-    EXPECT_EQ(vicino.ListCount(), 0);
+    EXPECT_EQ(processor.liste.quante(), 0);
     // Nothing there to act on, and nothing fails.
     processor.mnuFileNuovo.trigger();
     processor.lstFile_DblClick();
@@ -201,10 +201,10 @@ TEST_F(frmProcessorTest, TheSpaceBarChangesTheCheckMark)
 TEST_F(frmProcessorTest, ACheckMarkChangedByCodeIsAClickAsWell)
 {
     mostraVigilio({u"a.sqm"_s});
-    vicino.setSelected(0, true);
+    processor.liste.scegli(0, true);
     EXPECT_TRUE(processor.pulAvvia.Enabled());
     EXPECT_EQ(processor.lstFile.Tag(), u"False"_s);
-    vicino.setSelected(0, false);
+    processor.liste.scegli(0, false);
     EXPECT_FALSE(processor.pulAvvia.Enabled());
 }
 
@@ -218,7 +218,7 @@ TEST_F(frmProcessorTest, TheTwoOptionsAreTurnedOnAndOff)
         EXPECT_FALSE(opzione->Checked());
     }
     processor.mnuOpzDeselezionaAut.trigger();
-    EXPECT_TRUE(vicino.deselezionaEseguite());
+    EXPECT_TRUE(processor.mnuOpzDeselezionaAut.Checked());
 }
 
 TEST_F(frmProcessorTest, ClosingWithNothingToSaveAsksNothing)
@@ -325,13 +325,13 @@ TEST_F(frmProcessorTest, TheEditorShowsItInItsNormalState)
 TEST_F(frmProcessorTest, ARowThatIsNotThereIsAnError)
 {
     mostraVigilio({u"a.sqm"_s});
-    EXPECT_EQ(vicino.File(0), u"a.sqm"_s);
-    EXPECT_EQ(vicino.condizione(0), fabbrica);
-    EXPECT_FALSE(vicino.Selected(0));
+    EXPECT_EQ(processor.liste.nome(0), u"a.sqm"_s);
+    EXPECT_EQ(processor.liste.condizione(0), fabbrica);
+    EXPECT_FALSE(processor.liste.scelta(0));
     for (const int riga : {-1, 1}) {
-        EXPECT_THROW(vicino.File(riga), Errore);
-        EXPECT_THROW(vicino.condizione(riga), Errore);
-        EXPECT_THROW(vicino.Selected(riga), Errore);
-        EXPECT_THROW(vicino.setSelected(riga, true), Errore);
+        EXPECT_THROW(processor.liste.nome(riga), Errore);
+        EXPECT_THROW(processor.liste.condizione(riga), Errore);
+        EXPECT_THROW(processor.liste.scelta(riga), Errore);
+        EXPECT_THROW(processor.liste.scegli(riga, true), Errore);
     }
 }

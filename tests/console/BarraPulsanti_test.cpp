@@ -160,7 +160,7 @@ TEST(BarraPulsanti, DisconnectingStopsTheStartedRunner)
     ASSERT_TRUE(c.mostraCollegata());
     int fermate = 0;
     c.finestra.impostaFinestre({&c.frmCamera, &c.frmEditor, &c.frmEditor.opzInsComandi,
-                                &c.frmEditor.lstMosse, &c.frmProcessor, [&] { ++fermate; },
+                                &c.frmEditor.documento, &c.frmProcessor, [&] { ++fermate; },
                                 &c.frmEsploraFile, &c.frmImmaginiAcquisite});
     c.frmProcessor.setTag(u"AVVIATO"_s);
     c.clicca(pulsante(c, 1));

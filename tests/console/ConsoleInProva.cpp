@@ -34,7 +34,7 @@ ConsoleInProva::ConsoleInProva()
     robot.robot().memoria().impostaRadice(cartella.percorso());
     EXPECT_TRUE(robot.apri()) << robot.errore().toStdString();
     EXPECT_TRUE(robot.collegaPorta(cartella.percorso(), 1)) << robot.errore().toStdString();
-    finestra.impostaFinestre({&frmCamera, &frmEditor, &frmEditor.opzInsComandi, &frmEditor.lstMosse,
+    finestra.impostaFinestre({&frmCamera, &frmEditor, &frmEditor.opzInsComandi, &frmEditor.documento,
                               &frmProcessor, nullptr, &frmEsploraFile, &frmImmaginiAcquisite});
 }
 

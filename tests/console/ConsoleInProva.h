@@ -35,6 +35,7 @@ public:
 
     CasellaSpunta opzInsComandi{u"opzInsComandi"_s, this, u"Inserisci"_s};
     Elenco lstMosse{u"lstMosse"_s, this};
+    ListaMosse documento{lstMosse};
     // What QueryUnload answers.
     bool rifiuta = false;
     int scaricamenti = 0;

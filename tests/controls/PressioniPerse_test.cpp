@@ -65,6 +65,7 @@ TEST_F(PressioniPerse, AnotherProgramInFrontReleasesTheButtonThatIsHeld)
     premi(pulsante);
     const AltroProgramma altro;
     EXPECT_TRUE(attendi([this] { return !pulsante.isDown(); }));
+    lascia(pulsante);
 }
 
 TEST_F(PressioniPerse, AWindowThatIsHiddenReleasesTheButtonThatIsHeld)
@@ -72,6 +73,8 @@ TEST_F(PressioniPerse, AWindowThatIsHiddenReleasesTheButtonThatIsHeld)
     premi(pulsante);
     finestra.Nascondi();
     EXPECT_FALSE(pulsante.isDown());
+    finestra.Mostra();
+    lascia(pulsante);
 }
 
 } // namespace

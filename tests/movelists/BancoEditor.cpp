@@ -1,37 +1,41 @@
 #include "tests/movelists/BancoEditor.h"
 
-#include "movelists/ListaMosse.h"
-
 #include <QLineEdit>
 #include <gtest/gtest.h>
 #include <utility>
 
-ControlloSeriale &ConsoleFinta::COM()
+ConsoleFinta::ConsoleFinta()
 {
-    istanti.append({lstMosse->ListIndex(), tmrEseguiMosse->Interval(), tmrEseguiMosse->Tag(),
-                    mnuInsRipeti ? mnuInsRipeti->Tag() : QString()});
-    return m_seriale;
+    metti(100, 200, 300);
 }
 
-void ConsoleFinta::AggiungiMossa(const QString &riga)
+void ConsoleFinta::metti(int x, int y, int larghezza)
 {
-    ListaMosse(*lstMosse).inserisci(riga);
+    finestra.setGeometry(x, y, larghezza, 400);
 }
 
-void ConsoleFinta::nota(const QString &testo)
+void ConsoleFinta::ascolta(frmEditor &editor, PortaFinta *porta)
+{
+    const auto annota = [this, &editor](const QString &testo) { nota(editor, testo); };
+    editor.corsa.Messaggio.collega(annota);
+    editor.corsa.Inviato.collega(annota);
+    editor.corsa.CameraChiesta.collega([this] { ++camere; });
+    if (!porta)
+        return;
+    porta->chiesta = [this, &editor] {
+        istanti.append({editor.lstMosse.ListIndex(), editor.tmrEseguiMosse.Interval(),
+                        editor.tmrEseguiMosse.Tag(), editor.mnuInsRipeti.Tag()});
+    };
+}
+
+void ConsoleFinta::nota(frmEditor &editor, const QString &testo)
 {
     pannello += testo;
-    attese += tmrEseguiMosse->Interval();
-    if (accelera && tmrEseguiMosse->Interval() > 1)
-        tmrEseguiMosse->setInterval(1);
+    attese += editor.tmrEseguiMosse.Interval();
+    if (accelera && editor.tmrEseguiMosse.Interval() > 1)
+        editor.tmrEseguiMosse.setInterval(1);
     if (dopo)
         dopo();
-}
-
-void VigilioFinto::Stoppa()
-{
-    ++fermato;
-    attivo = false;
 }
 
 RispondiFile::RispondiFile(std::optional<QString> nome)
@@ -58,11 +62,7 @@ RispondiFile::RispondiFile(std::optional<QString> nome)
 
 Banco::Banco()
 {
-    console.lstMosse = &editor.lstMosse;
-    console.tmrEseguiMosse = &editor.tmrEseguiMosse;
-    console.mnuInsRipeti = &editor.mnuInsRipeti;
-    editor.impostaVigilio(&vigilio);
-    editor.impostaCamera(&camera);
+    console.ascolta(editor, &seriale.porta);
 }
 
 void Banco::mostra()

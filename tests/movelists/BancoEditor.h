@@ -12,30 +12,29 @@
 #include <QTest>
 #include <optional>
 
-class ConsoleFinta : public ConsoleEditor
+// The console as the editor needs it: a place on the screen, and the texts of panel 3.
+class ConsoleFinta
 {
 public:
-    explicit ConsoleFinta(ControlloSeriale &seriale) : m_seriale(seriale) {}
+    ConsoleFinta();
 
-    ControlloSeriale &COM() override;
-    Posto posto() const override { return dove; }
-    void mostraMessaggio(const QString &testo) override { nota(testo); }
-    void MostraInvio(const QString &testo) override { nota(testo); }
-    void AggiungiMossa(const QString &riga) override;
+    // Shows nothing. Logical pixels on the screen.
+    void metti(int x, int y, int larghezza);
+    // Writes down what the run of this editor says and how it stands.
+    void ascolta(frmEditor &editor, PortaFinta *porta = nullptr);
 
-    Posto dove{1500, 3000, 4500};
-    Elenco *lstMosse = nullptr;
-    Temporizzatore *tmrEseguiMosse = nullptr;
+    Finestra finestra{u"frmConsole"_s, u"Console"_s};
 
-    // What stood in panel 3, and the timer's interval at that moment.
+    // What panel 3 was to show, and the timer's interval at that moment.
     QStringList pannello;
     QList<int> attese;
-    // Cuts the wait behind each line short once it has been noted.
+    // Cuts the wait after each line short once it has been noted.
     bool accelera = true;
     std::function<void()> dopo;
+    int camere = 0;
 
-    // How the run stood at each moment that the editor asked for the port, which every tick does
-    // first of all: what the tick before has left.
+    // How the run stood each time it asked whether the port is open. Every tick does that first: so
+    // this is what the tick before has left.
     struct Istante
     {
         int riga;
@@ -45,58 +44,9 @@ public:
         bool operator==(const Istante &) const = default;
     };
     QList<Istante> istanti;
-    VoceMenu *mnuInsRipeti = nullptr;
 
 private:
-    void nota(const QString &testo);
-
-    ControlloSeriale &m_seriale;
-};
-
-class VigilioFinto : public VigilioEditor
-{
-public:
-    struct Riga
-    {
-        QString file;
-        QString condizione;
-        bool selezionata = false;
-    };
-
-    void mostra() override { ++mostrato; }
-    bool avviato() const override { return attivo; }
-    void Stoppa() override;
-    int ListCount() const override { return static_cast<int>(righe.size()); }
-    QString File(int riga) const override { return righe.at(riga).file; }
-    QString condizione(int riga) const override { return righe.at(riga).condizione; }
-    bool Selected(int riga) const override { return righe.at(riga).selezionata; }
-    void setSelected(int riga, bool valore) override { righe[riga].selezionata = valore; }
-    void setListIndex(int riga) override { scelta = riga; }
-    void lstFile_DblClick() override { dialoghi += scelta; }
-    bool deselezionaEseguite() const override { return deseleziona; }
-
-    QList<Riga> righe;
-    bool attivo = false;
-    bool deseleziona = false;
-    int mostrato = 0;
-    int fermato = 0;
-    int scelta = -1;
-    // The row selected at each opening of the condition dialog.
-    QList<int> dialoghi;
-};
-
-class CameraFinta : public CameraEditor
-{
-public:
-    void mostra() override { ++mostrata; }
-    int mostrata = 0;
-};
-
-class OrologioFermo : public Orologio
-{
-public:
-    QTime adesso() const override { return ora; }
-    QTime ora{12, 0, 0};
+    void nota(frmEditor &editor, const QString &testo);
 };
 
 // While it lives, file dialogs are answered: with a name typed and Enter, or by cancelling.
@@ -140,11 +90,8 @@ public:
 
     CartellaDiProva cartella;
     SerialeFinto seriale;
-    ConsoleFinta console{seriale.COM};
-    VigilioFinto vigilio;
-    CameraFinta camera;
-    OrologioFermo orologio;
-    frmEditor editor{console, orologio, cartella.percorso()};
+    ConsoleFinta console;
+    frmEditor editor{console.finestra, seriale.COM, cartella.percorso()};
     // The run, button by button.
     Temporizzatore &timer = editor.tmrEseguiMosse;
     Elenco &lista = editor.lstMosse;

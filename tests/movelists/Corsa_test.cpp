@@ -14,40 +14,20 @@
 
 namespace {
 
-// The console as the editor sees it.
-class ConsoleVera : public ConsoleEditor
+// A real port that says when it is asked whether it is open.
+class PortaOsservata : public PortaAsio
 {
 public:
-    explicit ConsoleVera(frmPrincipale &principale) : m_principale(principale) {}
-
-    // The first thing that every tick asks for.
-    ControlloSeriale &COM() override
+    explicit PortaOsservata(std::function<void()> &richiesta) : m_richiesta(richiesta) {}
+    bool aperta() const override
     {
-        if (richiesta)
-            richiesta();
-        return m_principale.COM;
+        if (m_richiesta)
+            m_richiesta();
+        return PortaAsio::aperta();
     }
-    Posto posto() const override
-    {
-        return {m_principale.Left(), m_principale.Top(), m_principale.Width()};
-    }
-    void mostraMessaggio(const QString &testo) override
-    {
-        m_principale.BarraStato.setPanels(3, testo);
-    }
-    void MostraInvio(const QString &testo) override { m_principale.MostraInvio(testo); }
-    void AggiungiMossa(const QString &riga) override { m_principale.AggiungiMossa(riga); }
-
-    std::function<void()> richiesta;
 
 private:
-    frmPrincipale &m_principale;
-};
-
-class OrologioVero : public Orologio
-{
-public:
-    QTime adesso() const override { return QTime::currentTime(); }
+    std::function<void()> &m_richiesta;
 };
 
 class CorsaTest : public testing::Test
@@ -58,8 +38,15 @@ protected:
         FinestreConsole finestre;
         finestre.frmEditor = &editor;
         finestre.opzInsComandi = &editor.opzInsComandi;
-        finestre.lstMosse = &editor.lstMosse;
+        finestre.documento = &editor.documento;
         principale.impostaFinestre(finestre);
+        editor.corsa.Messaggio.collega([this](const QString &testo) {
+            if (pausa)
+                pausa();
+            principale.BarraStato.setPanels(3, testo);
+        });
+        editor.corsa.Inviato.collega(
+            [this](const QString &testo) { principale.MostraInvio(testo); });
         robot.impostaBaud(0);
         EXPECT_TRUE(robot.apri()) << robot.errore().toStdString();
         EXPECT_TRUE(robot.collegaPorta(cartella.percorso(), 1)) << robot.errore().toStdString();
@@ -92,10 +79,12 @@ protected:
 
     CartellaDiProva cartella;
     Simulatore robot;
-    frmPrincipale principale{{std::make_unique<PortaAsio>(), cartella.percorso(), [] {}}};
-    ConsoleVera console{principale};
-    OrologioVero orologio;
-    frmEditor editor{console, orologio, cartella.percorso()};
+    // Each time the run, or anybody else, asks for the port; each time a pause begins.
+    std::function<void()> richiesta;
+    std::function<void()> pausa;
+    frmPrincipale principale{
+        {std::make_unique<PortaOsservata>(richiesta), cartella.percorso(), [] {}}};
+    frmEditor editor{principale, principale.COM, cartella.percorso()};
 };
 
 } // namespace
@@ -115,16 +104,15 @@ TEST_F(CorsaTest, NoLineComesBeforeTheWaitOfTheOneBefore)
     QElapsedTimer orologioDiProva;
     orologioDiProva.start();
     const auto ora = [&] { return static_cast<double>(orologioDiProva.nsecsElapsed()) / 1e6; };
-    // Every tick asks for the port once with the line before still selected, and once more with its
-    // own when it sends; its wait begins behind that.
+    // A tick selects its line and sends at once, which asks for the port; the wait begins after that.
     QMap<int, double> primaRichiesta;
-    QMap<int, double> ultimaRichiesta;
-    console.richiesta = [&] {
+    double inizioPausa = 0;
+    richiesta = [&] {
         const int riga = editor.lstMosse.ListIndex();
-        ultimaRichiesta[riga] = ora();
         if (!primaRichiesta.contains(riga))
             primaRichiesta[riga] = ora();
     };
+    pausa = [&] { inizioPausa = ora(); };
     QList<double> sentiti;
     QObject::connect(&robot.diario(), &Diario::aggiunta, &robot, [&](const VoceDiario &voce) {
         if (voce.tipo == VoceDiario::Tipo::Comando && voce.testo.startsWith(u"Led"_s))
@@ -137,9 +125,10 @@ TEST_F(CorsaTest, NoLineComesBeforeTheWaitOfTheOneBefore)
     // A timer of whole milliseconds may be one early.
     constexpr double gioco = 1;
     EXPECT_GE(sentiti[1] - primaRichiesta[0], 600 - gioco);
-    EXPECT_GE(sentiti[2] - ultimaRichiesta[1], 250 - gioco);
+    EXPECT_GE(sentiti[2] - inizioPausa, 250 - gioco);
     EXPECT_GE(sentiti[3] - primaRichiesta[3], 600 - gioco);
     EXPECT_GE(sentiti[4] - primaRichiesta[4], 1600 - gioco);
+    richiesta = {};
 }
 
 TEST_F(CorsaTest, ALoopSendsItsBlockAgain)

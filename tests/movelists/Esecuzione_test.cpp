@@ -216,7 +216,7 @@ TEST_F(EsecuzioneTest, StoppingSendsNothing)
 TEST_F(EsecuzioneTest, TheVideoWindowIsShown)
 {
     EXPECT_TRUE(corsa({u"Camera"_s}).isEmpty());
-    EXPECT_EQ(camera.mostrata, 1);
+    EXPECT_EQ(console.camere, 1);
     EXPECT_EQ(console.pannello, QStringList{u"Comando 1 ricevuto!"_s});
 }
 
@@ -374,9 +374,9 @@ TEST_F(EsecuzioneTest, LinesInsertedIntoARunAreRun)
     console.accelera = false;
     avvia({u"Pausa 60000"_s, u"Pausa 60000"_s});
     aspettaRighe(1);
-    console.AggiungiMossa(u"Foto"_s);
+    editor.documento.inserisci(u"Foto"_s);
     // The new line is the selected one: the run goes on behind it.
-    console.AggiungiMossa(u"Avanti piano"_s);
+    editor.documento.inserisci(u"Avanti piano"_s);
     lista.setListIndex(0);
     timer.setInterval(1);
     aspettaRighe(2);
@@ -438,7 +438,7 @@ TEST_F(EsecuzioneTest, DeletingAllLinesLeavesTheRunStuckUntilOneComes)
     EXPECT_EQ(editor.pulEsegui.Caption(), u"STOP"_s);
     clicca(editor.pulEsegui);
     EXPECT_TRUE(timer.Enabled());
-    console.AggiungiMossa(u"Foto"_s);
+    editor.documento.inserisci(u"Foto"_s);
     aspettaFine();
     EXPECT_EQ(editor.pulEsegui.Caption(), u"ESEGUI"_s);
 }
@@ -467,44 +467,9 @@ TEST_F(EsecuzioneTest, AHiddenWindowGoesOnRunning)
     EXPECT_EQ(mandati(), (QList<QByteArray>{foto, fermo}));
 }
 
-TEST_F(EsecuzioneTest, AtTheEndOfAListThatTheRunnerStartedItWaitsAgain)
-{
-    vigilio.righe = {{u"a.sqm"_s, {}, false}, {u"b.sqm"_s, {}, true}};
-    riempi({u"Foto"_s});
-    seriale.apri();
-    editor.pulEsegui.click();
-    editor.imgVigilio.setPicture(3);
-    aspettaFine();
-    EXPECT_EQ(editor.imgVigilio.Picture(), 2);
-    EXPECT_EQ(vigilio.fermato, 0);
-}
-
-TEST_F(EsecuzioneTest, TheRunnerStopsWhenNoListIsLeftToIt)
-{
-    vigilio.righe = {{u"a.sqm"_s, {}, false}, {u"b.sqm"_s, {}, false}};
-    riempi({u"Foto"_s});
-    seriale.apri();
-    editor.pulEsegui.click();
-    editor.imgVigilio.setPicture(3);
-    aspettaFine();
-    EXPECT_EQ(vigilio.fermato, 1);
-    EXPECT_EQ(editor.imgVigilio.Picture(), 3);
-}
-
 TEST_F(EsecuzioneTest, ABareNameStartsTheProgramInTheProgramsFolder)
 {
     programmaDiProva(cartella, u"gioco.exe"_s);
     EXPECT_EQ(corsa({u"Programma gioco.exe"_s, u"Stop"_s}), QList<QByteArray>{fermo});
     EXPECT_TRUE(aspetta([&] { return programmaFinito(cartella); }));
-}
-
-TEST_F(EsecuzioneTest, AStartLooksAfterTheRunnerToo)
-{
-    vigilio.righe = {{u"a.sqm"_s, {}, true}};
-    riempi({u"Foto"_s});
-    seriale.apri();
-    editor.imgVigilio.setPicture(3);
-    editor.pulEsegui.click();
-    EXPECT_EQ(editor.imgVigilio.Picture(), 2);
-    aspettaFine();
 }

@@ -72,12 +72,10 @@ TEST(ListeDiEsempio, EachRunsOnTheRobotWhichUnderstandsAllOfIt)
     for (const QString &nome : nomi()) {
         SCOPED_TRACE(nome.toStdString());
         robot.diario().svuota();
-        ConsoleFinta console(COM);
-        const OrologioFermo orologio;
-        frmEditor editor(console, orologio, cartellaListe);
-        console.lstMosse = &editor.lstMosse;
-        console.tmrEseguiMosse = &editor.tmrEseguiMosse;
-        // Waits that no word is said about are cut short as well.
+        ConsoleFinta console;
+        frmEditor editor(console.finestra, COM, cartellaListe);
+        console.ascolta(editor);
+        // The waits after lines that say nothing are cut short as well.
         QTimer fretta;
         QObject::connect(&fretta, &QTimer::timeout, &fretta, [&] {
             if (editor.tmrEseguiMosse.Interval() > 1)

@@ -341,43 +341,6 @@ TEST_F(EditorFileTest, ClosingAsksAndCancelKeepsTheWindow)
     EXPECT_FALSE(editor.Visible());
 }
 
-TEST_F(EditorFileTest, ClosingUnderARunnerAsksAndStopsIt)
-{
-    mostra();
-    vigilio.attivo = true;
-    RispondiMessaggi messaggi(QMessageBox::No);
-    editor.close();
-    EXPECT_TRUE(editor.Visible());
-    EXPECT_EQ(vigilio.fermato, 0);
-    messaggi.premi(QMessageBox::Yes);
-    editor.close();
-    EXPECT_FALSE(editor.Visible());
-    EXPECT_EQ(vigilio.fermato, 1);
-    ASSERT_EQ(messaggi.visti().size(), 2);
-    EXPECT_EQ(messaggi.visti()[0].testo,
-              u"Il Vigilio è in esecuzione, se chiudi il Sequor il Vigilio verrà stoppato, "
-              "chiudere?"_s);
-    EXPECT_EQ(messaggi.visti()[0].titolo, u"Sequor"_s);
-    EXPECT_EQ(messaggi.visti()[0].icona, QMessageBox::Question);
-    EXPECT_EQ(messaggi.visti()[0].pulsanti, QMessageBox::Yes | QMessageBox::No);
-}
-
-TEST_F(EditorFileTest, CancellingTheSaveStillAsksAboutTheRunner)
-{
-    mostra();
-    vigilio.attivo = true;
-    cambia();
-    RispondiMessaggi messaggi(QMessageBox::Cancel);
-    messaggi.mentreAperto = [&](QMessageBox &box) {
-        messaggi.premi(box.text() == salvareLista ? QMessageBox::Cancel : QMessageBox::Yes);
-    };
-    editor.close();
-    EXPECT_EQ(messaggi.visti().size(), 2);
-    EXPECT_EQ(vigilio.fermato, 1);
-    EXPECT_TRUE(editor.Visible());
-    EXPECT_EQ(righe(), QStringList{u"Stop"_s});
-}
-
 TEST_F(EditorFileTest, OpeningStopsARunningList)
 {
     mostra();

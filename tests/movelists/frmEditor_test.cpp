@@ -59,7 +59,7 @@ TEST_F(FrmEditorTest, StartsWithItsDesignValues)
 
 TEST_F(FrmEditorTest, StandsBesideTheConsole)
 {
-    console.dove = {1500, 3000, 4500};
+    console.metti(100, 200, 300);
     mostra();
     EXPECT_EQ(editor.Left(), Unita::unita(Unita::pixel(1500 + 4500 + 200)));
     EXPECT_EQ(editor.Top(), Unita::unita(Unita::pixel(3000 - 1300)));
@@ -68,7 +68,7 @@ TEST_F(FrmEditorTest, StandsBesideTheConsole)
 TEST_F(FrmEditorTest, ComesBackOntoTheScreenWhereTheConsoleLeavesNoPlace)
 {
     const QRect schermo = editor.screen()->geometry();
-    console.dove = {0, 3000, Unita::unita(schermo.width())};
+    console.metti(0, 200, schermo.width());
     mostra();
     EXPECT_TRUE(schermo.contains(editor.frameGeometry()));
 }
@@ -77,7 +77,7 @@ TEST_F(FrmEditorTest, StandsOnTheOtherSideWhereTheConsoleIsFlushWithTheScreensEd
 {
     const QRect schermo = editor.screen()->geometry();
     const int sinistra = schermo.width() - 150;
-    console.dove = {Unita::unita(sinistra), 3000, Unita::unita(150)};
+    console.metti(sinistra, 200, 150);
     mostra();
     EXPECT_TRUE(schermo.contains(editor.frameGeometry()));
     EXPECT_LT(editor.frameGeometry().right(), sinistra);
@@ -90,7 +90,7 @@ TEST_F(FrmEditorTest, IsWhollyOnTheScreenWhereverTheConsoleStands)
     for (const int x : {-larga, -larga / 2, 0, schermo.width() / 2, schermo.width() - larga,
                         schermo.width() - larga / 2, schermo.width() - 3, schermo.width() + 500}) {
         for (const int y : {-500, -40, 0, 100, schermo.height() - 50, schermo.height() + 300}) {
-            console.dove = {Unita::unita(x), Unita::unita(y), Unita::unita(larga)};
+            console.metti(x, y, larga);
             editor.Mostra();
             EXPECT_TRUE(aspetta([&] { return schermo.contains(editor.frameGeometry()); }))
                 << x << ' ' << y << ": " << editor.frameGeometry().x() << ' '
@@ -331,9 +331,11 @@ TEST_F(FrmEditorTest, ADoubleClickDeletesOneLine)
 
 TEST_F(FrmEditorTest, ADoubleClickOpensTheRunnerOnce)
 {
+    int chiesto = 0;
+    editor.VigilioChiesto.collega([&] { ++chiesto; });
     mostra();
     cliccaDueVolte(editor.imgVigilio);
-    EXPECT_EQ(vigilio.mostrato, 1);
+    EXPECT_EQ(chiesto, 1);
 }
 
 TEST_F(FrmEditorTest, AtTheEndsNothingMoves)
@@ -438,46 +440,19 @@ TEST_F(FrmEditorTest, AClickPutsTheNormalPictureBack)
 
 TEST_F(FrmEditorTest, TheRunnersPictureOpensTheRunner)
 {
+    int chiesto = 0;
+    editor.VigilioChiesto.collega([&] { ++chiesto; });
     mostra();
     clicca(editor.imgVigilio);
-    EXPECT_EQ(vigilio.mostrato, 1);
+    EXPECT_EQ(chiesto, 1);
 }
 
 TEST_F(FrmEditorTest, WithoutARunnerItsEntriesDoNothing)
 {
-    editor.impostaVigilio(nullptr);
     mostra();
     clicca(editor.imgVigilio);
     editor.mnuInsCondizione.trigger();
-    editor.EseguiLista(0);
     EXPECT_EQ(lista.ListCount(), 0);
-}
-
-TEST_F(FrmEditorTest, TheConditionOpensOnTheOpenListsRow)
-{
-    mostra();
-    vigilio.righe = {{u"altra.sqm"_s, {}}, {u"Saluto.sqm"_s, {}}, {u"saluto.sqm"_s, {}}};
-    editor.Finestre.setFileName(cartella.percorso(u"SALUTO.SQM"_s));
-    editor.mnuInsCondizione.trigger();
-    EXPECT_EQ(vigilio.mostrato, 1);
-    EXPECT_EQ(vigilio.dialoghi, QList<int>{1});
-    EXPECT_FALSE(vigilio.righe[0].selezionata);
-    EXPECT_TRUE(vigilio.righe[1].selezionata);
-    EXPECT_FALSE(vigilio.righe[2].selezionata);
-    EXPECT_EQ(lista.ListCount(), 0);
-}
-
-TEST_F(FrmEditorTest, AListElsewhereCanHaveNoCondition)
-{
-    mostra();
-    vigilio.righe = {{u"saluto.sqm"_s, {}}};
-    for (const QString &file : {u"/altrove/saluto.sqm"_s, u"saluto.sqm"_s, QString()}) {
-        editor.Finestre.setFileName(file);
-        editor.mnuInsCondizione.trigger();
-    }
-    EXPECT_EQ(vigilio.mostrato, 3);
-    EXPECT_TRUE(vigilio.dialoghi.isEmpty());
-    EXPECT_FALSE(vigilio.righe[0].selezionata);
 }
 
 TEST_F(FrmEditorTest, ALineOfAHundredThousandCharactersIsShownAndKept)

@@ -14,7 +14,12 @@ public:
     // Fails with apertura where that is not 0.
     void apri(const QString &percorso) override;
     void chiudi() override;
-    bool aperta() const override { return m_aperta; }
+    bool aperta() const override
+    {
+        if (chiesta)
+            chiesta();
+        return m_aperta;
+    }
     void scrivi(QByteArrayView byte) override;
     QByteArray leggi(qsizetype massimo) override;
     void sorveglia(bool attiva) override;
@@ -40,6 +45,8 @@ public:
     QString percorsoAperto;
     int aperture = 0;
     int chiusure = 0;
+    // Raised each time somebody asks whether the port is open.
+    std::function<void()> chiesta;
     // Raised after each write, for a robot that answers.
     std::function<void(const QByteArray &)> scritto;
 

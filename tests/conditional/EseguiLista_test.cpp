@@ -1,13 +1,11 @@
 // Lists that the runner and the clock start.
-#include "tests/movelists/BancoEditor.h"
-
-#include "base/Archivio.h"
+#include "tests/conditional/BancoVigilio.h"
 
 #include <gmock/gmock.h>
 
 namespace {
 
-class EseguiListaTest : public testing::Test, protected Banco
+class EseguiListaTest : public testing::Test, protected BancoVigilio
 {
 protected:
     EseguiListaTest()
@@ -15,11 +13,10 @@ protected:
         mostra();
         cartella.scrivi(u"lunga.sqm"_s, " 1 \r\nPausa 60000\r\nStop\r\n");
         cartella.scrivi(u"altra.sqm"_s, " 1 \r\nPausa 50000\r\nFoto\r\n");
-        vigilio.righe = {{u"altra.sqm"_s, u"no,101,no,no,no"_s, true},
-                         {u"lunga.sqm"_s, u"12:00:00,no,no,no,no"_s, true}};
-        console.accelera = false;
+        processor.Mostra();
+        imposta(0, u"no,101,no,no,no"_s);
+        imposta(1, u"12:00:00,no,no,no,no"_s);
     }
-    ~EseguiListaTest() override { Archivio::abbandona(); }
 
     // Lets the clock's timer tick now.
     void scatta()
@@ -40,23 +37,23 @@ protected:
 TEST_F(EseguiListaTest, ALoadsAndRunsTheListOfItsRow)
 {
     seriale.apri();
-    editor.EseguiLista(1);
+    processor.EseguiLista(1);
     EXPECT_EQ(righe(), (QStringList{u"Pausa 60000"_s, u"Stop"_s}));
     EXPECT_EQ(editor.lblFile.Caption(), u"lunga.sqm"_s);
     EXPECT_EQ(editor.Finestre.FileName(), u"lunga.sqm"_s);
-    EXPECT_EQ(vigilio.scelta, 1);
+    EXPECT_EQ(processor.lstFile.ListIndex(), 1);
     EXPECT_EQ(editor.imgVigilio.Picture(), 3);
     EXPECT_TRUE(timer.Enabled());
-    EXPECT_TRUE(vigilio.righe[1].selezionata);
+    EXPECT_TRUE(processor.lstFile.Selected(1));
 }
 
 TEST_F(EseguiListaTest, AListThatIsRunningIsLeftAlone)
 {
     seriale.apri();
-    editor.EseguiLista(1);
+    processor.EseguiLista(1);
     EXPECT_TRUE(aspetta([this] { return lista.ListIndex() == 0; }));
     editor.Finestre.setFileName(u"LUNGA.sqm"_s);
-    editor.EseguiLista(1);
+    processor.EseguiLista(1);
     EXPECT_EQ(lista.ListIndex(), 0);
     EXPECT_EQ(editor.Finestre.FileName(), u"LUNGA.sqm"_s);
 }
@@ -64,9 +61,9 @@ TEST_F(EseguiListaTest, AListThatIsRunningIsLeftAlone)
 TEST_F(EseguiListaTest, AnotherListTakesTheRunningOnesPlace)
 {
     seriale.apri();
-    editor.EseguiLista(1);
+    processor.EseguiLista(1);
     EXPECT_TRUE(aspetta([this] { return lista.ListIndex() == 0; }));
-    editor.EseguiLista(0);
+    processor.EseguiLista(0);
     EXPECT_EQ(righe(), (QStringList{u"Pausa 50000"_s, u"Foto"_s}));
     EXPECT_EQ(lista.ListIndex(), -1);
     EXPECT_TRUE(timer.Enabled());
@@ -76,10 +73,10 @@ TEST_F(EseguiListaTest, AnotherListTakesTheRunningOnesPlace)
 TEST_F(EseguiListaTest, AListThatHasEndedStartsAgain)
 {
     seriale.apri();
-    editor.EseguiLista(1);
+    processor.EseguiLista(1);
     editor.pulEsegui.click();
     EXPECT_EQ(editor.imgVigilio.Picture(), 2);
-    editor.EseguiLista(1);
+    processor.EseguiLista(1);
     EXPECT_TRUE(timer.Enabled());
     EXPECT_EQ(editor.imgVigilio.Picture(), 3);
 }
@@ -87,16 +84,16 @@ TEST_F(EseguiListaTest, AListThatHasEndedStartsAgain)
 TEST_F(EseguiListaTest, TheOptionTakesTheCheckMarkAway)
 {
     seriale.apri();
-    vigilio.deseleziona = true;
-    editor.EseguiLista(1);
-    EXPECT_FALSE(vigilio.righe[1].selezionata);
-    EXPECT_TRUE(vigilio.righe[0].selezionata);
+    processor.mnuOpzDeselezionaAut.setChecked(true);
+    processor.EseguiLista(1);
+    EXPECT_FALSE(processor.lstFile.Selected(1));
+    EXPECT_TRUE(processor.lstFile.Selected(0));
 }
 
 TEST_F(EseguiListaTest, WithoutARobotItIsToldAndThePictureChangesAllTheSame)
 {
     const RispondiMessaggi messaggi;
-    editor.EseguiLista(1);
+    processor.EseguiLista(1);
     EXPECT_EQ(messaggi.testi(), QStringList{u"Il robot non è collegato"_s});
     EXPECT_EQ(editor.imgVigilio.Picture(), 3);
     EXPECT_FALSE(timer.Enabled());
@@ -104,9 +101,9 @@ TEST_F(EseguiListaTest, WithoutARobotItIsToldAndThePictureChangesAllTheSame)
 
 TEST_F(EseguiListaTest, AMissingFileIsTheCallersError)
 {
-    vigilio.righe[0].file = u"manca.sqm"_s;
+    ASSERT_TRUE(QFile::remove(cartella.percorso(u"altra.sqm"_s)));
     try {
-        editor.EseguiLista(0);
+        processor.EseguiLista(0);
         FAIL();
     } catch (const Errore &errore) {
         EXPECT_EQ(errore.numero(), Errore::FileNonTrovato);
@@ -118,7 +115,7 @@ TEST_F(EseguiListaTest, AnUnsavedListIsDroppedWithoutAQuestion)
     const RispondiMessaggi messaggi;
     seriale.apri();
     editor.mnuInsBStop.trigger();
-    editor.EseguiLista(1);
+    processor.EseguiLista(1);
     EXPECT_EQ(righe(), (QStringList{u"Pausa 60000"_s, u"Stop"_s}));
     EXPECT_TRUE(messaggi.visti().isEmpty());
 }
@@ -127,7 +124,7 @@ TEST_F(EseguiListaTest, ItRunsWithTheWindowClosed)
 {
     editor.Scarica();
     seriale.apri();
-    editor.EseguiLista(1);
+    processor.EseguiLista(1);
     EXPECT_TRUE(timer.Enabled());
     EXPECT_TRUE(aspetta([this] { return lista.ListIndex() == 0; }));
 }
@@ -136,16 +133,16 @@ TEST_F(EseguiListaTest, TheClockStartsTheListOfItsSecond)
 {
     seriale.apri();
     scatta();
-    EXPECT_EQ(vigilio.scelta, 1);
+    EXPECT_EQ(processor.lstFile.ListIndex(), 1);
     EXPECT_TRUE(timer.Enabled());
 }
 
 TEST_F(EseguiListaTest, TheClockStartsAListThatIsNotSelectedToo)
 {
     seriale.apri();
-    vigilio.righe[1].selezionata = false;
+    scegli(1, false);
     scatta();
-    EXPECT_EQ(vigilio.scelta, 1);
+    EXPECT_EQ(processor.lstFile.ListIndex(), 1);
 }
 
 TEST_F(EseguiListaTest, AtAnotherSecondTheClockStartsNothing)
@@ -153,6 +150,6 @@ TEST_F(EseguiListaTest, AtAnotherSecondTheClockStartsNothing)
     seriale.apri();
     orologio.ora = QTime(12, 0, 1);
     scatta();
-    EXPECT_EQ(vigilio.scelta, -1);
+    EXPECT_EQ(processor.lstFile.ListIndex(), -1);
     EXPECT_FALSE(timer.Enabled());
 }
