@@ -20,7 +20,7 @@ protected:
         case QEvent::Hide:
             if (const auto *finestra = qobject_cast<QWidget *>(oggetto);
                 finestra && finestra->isWindow())
-                lascia(*finestra);
+                rilasciaPulsanti(*finestra);
             break;
         default:
             break;
@@ -29,7 +29,7 @@ protected:
     }
 
 private:
-    static void lascia(const QWidget &finestra)
+    static void rilasciaPulsanti(const QWidget &finestra)
     {
         for (QAbstractButton *pulsante : finestra.findChildren<QAbstractButton *>()) {
             if (pulsante->isDown())
