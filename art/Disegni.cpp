@@ -7,7 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-// The resource lies in a static library: without this call a linker may leave it out.
+// The linker drops the resources of a static library if no code names them.
 static void caricaRisorse()
 {
     Q_INIT_RESOURCE(disegni);
@@ -50,8 +50,8 @@ QIcon Disegni::icona(QStringView nome)
     aggiungi(u"@2x"_s, 2);
     aggiungi(u"@3x"_s, 3);
 
-    // On a screen of 125 or 150 % Qt would blow up the 1x picture; the next larger one shrinks
-    // well.
+    // On a screen of 125 or 150 % Qt would enlarge the 1x picture. The next larger one, reduced,
+    // looks better.
     const double schermo = qGuiApp->devicePixelRatio();
     const double intera = std::ceil(schermo);
     if (!icona.isNull() && schermo < intera && intera <= 3) {

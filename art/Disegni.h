@@ -1,4 +1,4 @@
-// The drawings, by name and by the numbers that the windows know them by.
+// The drawings, by name and by their numbers in the lists of the windows (art/README.md).
 #pragma once
 
 #include <QIcon>
@@ -7,11 +7,11 @@
 
 namespace Disegni {
 
-// One drawing with all its scales, or a program's icon with all its sizes; a null icon where there
-// is no drawing of that name. Needs the application object.
+// A drawing in all its scales, or the icon of a program in all its sizes. Returns a null icon if
+// there is no drawing with this name. Needs the application object.
 QIcon icona(QStringView nome);
 
-// The image lists of the windows. Picture number n of a list is its element n - 1.
+// The lists of pictures of the windows. Picture n of a list is element n - 1.
 std::vector<QIcon> listaImg();           // 12: arrows at rest, arrows pressed, option icons
 std::vector<QIcon> imgPulsantiConsole(); // 8: the toolbar
 std::vector<QIcon> imgPulsantiEditor();  // 12: six buttons, the same with the pointer over them

@@ -15,10 +15,10 @@ namespace {
 
 struct FileAperto
 {
-    // Reading: all that the file holds, and how far it was read.
+    // For reading: the whole contents, and how many bytes of them were read.
     QByteArray contenuto;
     qsizetype letti = 0;
-    // Writing.
+    // For writing; null if the file is open for reading.
     std::unique_ptr<Scrittura> uscita;
 };
 
@@ -32,6 +32,7 @@ FileAperto &file(int numero)
     return trovato->second;
 }
 
+// The name that the file has on disk, which may differ in case.
 QString stessoFile(const QString &nome)
 {
     if (QFileInfo::exists(nome) || nome.contains(u'/') || nome.contains(u'\\'))
@@ -102,7 +103,7 @@ void saltaFineRiga(FileAperto &f)
         ++f.letti;
 }
 
-// Behind a field: blanks, then the one comma or line end that ended it.
+// Skips what follows a field: blanks, then one comma or one line end.
 void saltaSeparatore(FileAperto &f)
 {
     saltaBianchi(f);

@@ -1,4 +1,5 @@
-// Files by number: what is read and written is bytes, in Windows-1252 where it is text.
+// Files opened under a number. Contents are bytes; text is Windows-1252. The formats of the
+// program's files are in docs/formats.md.
 #pragma once
 
 #include <QByteArray>
@@ -8,32 +9,40 @@ namespace Archivio {
 
 enum class Modo { Lettura, Scrittura };
 
-// A number that is open is Errore::FileGiaAperto, a missing file FileNonTrovato, a missing folder
-// PercorsoNonTrovato, no right to it AccessoNegato. A name without a folder means the working
-// directory, and one file there whatever the case of its letters, as on Windows.
+// Throws FileGiaAperto if the number is open already, FileNonTrovato if there is no such file to
+// read, PercorsoNonTrovato if its folder is missing, AccessoNegato if the file may not be read or
+// written. A name without a folder means the working directory; there the case of the name does not
+// matter, as on Windows.
 void apri(int numero, const QString &nome, Modo modo);
 
-// Closes all files. What was written takes the place of the file that was there only now, whole
-// (Scrittura says how); if that fails (Errore::DiscoPieno, AccessoNegato) the old file stays as it
-// was.
+// Closes all files. Only now what was written replaces the old file, as a whole (see Scrittura). If
+// that fails, the old file is kept and DiscoPieno or AccessoNegato is thrown, after all files are
+// closed.
 void chiudi();
 // Closes all files and drops what was written since they were opened.
 void abbandona();
 
+// The functions below throw FileNonAperto if the number is not open, and the reading ones
+// FineDelFile if the file ends too early.
+
+// True after the last byte was read.
 bool fine(int numero);
+// Length of a file opened for reading, in bytes.
 qsizetype lunghezza(int numero);
 
-// Reading past the end is Errore::FineDelFile.
-// One field: leading blanks are skipped, it ends at a comma or at the line's end; a field that
-// begins with a double quote runs to the next double quote.
+// Reads one field: leading blanks are skipped, and it ends at a comma or at the end of the line. A
+// field that begins with a double quote ends at the next one; the quotes are left out.
 QByteArray leggiCampo(int numero);
-// One field as a number; it ends at a blank too.
+// Reads one field as a number, by Numeri::Valore; leading line ends are skipped as well, and a
+// blank also ends it.
 double leggiNumero(int numero);
-// Up to the line's end (CR, LF or both), without it.
+// Reads to the end of the line (CR, LF or CR LF) and leaves the line end out.
 QByteArray leggiRiga(int numero);
+// Reads exactly this number of bytes.
 QByteArray leggi(int numero, qsizetype quanti);
 
-// As it stands, without a line end.
+// Writes the bytes as they are, without a line end. Throws FileNonAperto if the file was opened for
+// reading.
 void stampa(int numero, const QByteArray &byte);
 
 } // namespace Archivio

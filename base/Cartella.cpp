@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-// A try tells more than the folder's flags: a full right to write is what matters.
+// Creates a file to find out: the folder's permission flags alone do not say it reliably.
 static bool scrivibile(const QString &cartella)
 {
     QTemporaryFile prova(cartella + u"/prova"_s);
@@ -26,8 +26,7 @@ QString trovaCartellaProgramma()
 QString trovaCartellaProgramma(const QString &accanto, const QString &utente)
 {
     const QString installati = QDir::cleanPath(accanto + u"/../share/lumbra/liste"_s);
-    // The administrator may write beside an installed program, too, but nothing of his belongs
-    // there.
+    // An administrator can write next to an installed program, but user files do not belong there.
     const bool installato = QFileInfo::exists(installati);
     QString cartella = !installato && scrivibile(accanto) ? accanto : utente;
     QDir().mkpath(cartella);
@@ -41,7 +40,7 @@ void portaEsempi(const QString &esempi, const QString &cartella)
     const QStringList nomi = QDir(esempi).entryList({u"*.sqm"_s, u"prog.dat"_s}, QDir::Files);
     if (portati.exists() || nomi.isEmpty())
         return;
-    // A file of the user's is the same one in any case, as on Windows.
+    // Names that differ only in case are the same file, as on Windows.
     const QStringList presenti =
         QDir(cartella).entryList(QDir::AllEntries | QDir::Hidden | QDir::System);
     bool tutti = true;

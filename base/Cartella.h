@@ -1,24 +1,26 @@
-// Where the program's files are.
+// The folder of the program's files, and small functions for paths.
 #pragma once
 
 #include <QString>
 
-// The folder of the executable where it can be written to, else the user's data folder for the
-// program, which is made where it is missing. An installed program, with its share/lumbra beside
-// its bin, always takes the user's folder. The folder gets the sample lists: those of share/lumbra,
-// or of the folder liste beside the executable. Asked once, at the start.
+// Returns the folder of the executable if it is writable, else the user's data folder for the
+// program, which is created if it is missing. An installed program (there is a folder
+// ../share/lumbra/liste) always uses the user's folder. Copies the sample lists into the folder:
+// those of share/lumbra/liste, or of the folder liste next to the executable. Called once, at the
+// start.
 QString trovaCartellaProgramma();
 
-// The same for an executable in the folder accanto and a user with the data folder utente.
+// The same for an executable in the folder accanto and a user whose data folder is utente.
 QString trovaCartellaProgramma(const QString &accanto, const QString &utente);
 
-// Copies the lists of the folder esempi into the program's folder, once: what the user has of the
-// same name, in any case, stays, and what he deletes later does not come back. Failures are passed
-// over; what failed is tried again at the next call.
+// Copies the samples (*.sqm and prog.dat) of the folder esempi into the program's folder, only
+// once: the file .esempi marks that it was done, so that a sample that the user deletes does not
+// come back. A file that is there already is kept, whatever the case of its name. Throws nothing;
+// if a copy fails, the next call tries again.
 void portaEsempi(const QString &esempi, const QString &cartella);
 
-// The name behind the last backslash or "/" of a path, or the whole text.
+// The part of a path after its last "\" or "/"; the whole text if it has none.
 QString nomeDelFile(const QString &percorso);
 
-// The folder with the separator behind it, unless it ends in one already, as a root does.
+// The folder with a "/" at its end, unless it has a separator there already, as "/" and "C:\" do.
 QString conSeparatore(const QString &cartella);

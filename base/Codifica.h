@@ -1,4 +1,4 @@
-// The border between bytes and characters: Windows-1252 on every system.
+// Conversion between bytes and text: Windows-1252 on every system, for the wire and for files.
 #pragma once
 
 #include <QByteArray>
@@ -6,11 +6,11 @@
 
 namespace Codifica {
 
-// One character for each byte. The five bytes that the code page leaves open (129, 141, 143, 144,
-// 157) become the control characters of the same number, so that all 256 survive the round trip.
+// One character for each byte. The five bytes without a character in the code page (129, 141, 143,
+// 144, 157) become the control characters of the same number, so that inByte gives back all 256.
 QString daByte(QByteArrayView byte);
 
-// The way back; a character outside the code page becomes "?".
+// One byte for each UTF-16 unit; a character outside the code page becomes "?".
 QByteArray inByte(QStringView testo);
 
 } // namespace Codifica

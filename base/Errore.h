@@ -1,11 +1,12 @@
-// How a statement fails: one exception with a number, and the helpers that pass over it.
+// The program's one exception type, and helpers that ignore it.
 #pragma once
 
 #include <QString>
 #include <exception>
 #include <utility>
 
-// A failed statement: its number, and its description in Italian as the user reads it.
+// An error with a number and a description in Italian, as the user reads it. If the description is
+// empty, the default text of the number is used.
 class Errore : public std::exception
 {
 public:
@@ -42,7 +43,7 @@ private:
     QByteArray m_what;
 };
 
-// Runs one statement and passes over its failure; true when it did not fail.
+// Runs one statement and ignores an Errore that it throws. Returns true if it threw none.
 template <class Istruzione>
 bool passaErrori(Istruzione &&istruzione)
 {
@@ -54,8 +55,8 @@ bool passaErrori(Istruzione &&istruzione)
     }
 }
 
-// A test in a routine that passes over errors: when the test itself fails, the work goes on with
-// the statement behind it, as if it had been passed.
+// A condition in a routine that ignores errors: if evaluating it throws an Errore, the result is
+// true, so that the routine goes on with the next statement.
 template <class Prova>
 bool provaPassata(Prova &&prova)
 {

@@ -48,8 +48,8 @@ double Valore(QStringView testo)
             break;
         numero += c;
     }
-    // toDouble gives 0 for what is left without a digit ("", "-", "."), and infinity for a number
-    // of hundreds of digits, which every integer then refuses.
+    // toDouble gives 0 for a text without digits ("", "-", "."). A number of hundreds of digits
+    // becomes infinity, which Byte, Intero and Lungo refuse.
     return numero.toDouble();
 }
 
@@ -82,7 +82,7 @@ bool Logico(QStringView testo)
         return false;
     bool numero = false;
     const double valore = nudo.toDouble(&numero);
-    // "nan" and "inf" are numbers to Qt only.
+    // Qt also takes "nan" and "inf" for numbers.
     if (!numero || !std::isfinite(valore))
         throw Errore(Errore::TipoNonCorrispondente);
     return valore != 0;

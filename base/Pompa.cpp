@@ -12,12 +12,13 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// 100000 idle rounds are to take about 4 seconds.
+// The waits of the program allow 100000 idle rounds for about 4 seconds.
 constexpr auto durataGiro = 40us;
-// The pauses of so many rounds are made as one: the system cannot sleep for 40 microseconds without
-// spending as much again on waking up.
+// One pause is made for this many rounds (1 ms): waking up from a sleep costs the system about 40
+// microseconds itself.
 constexpr int giriPerPausa = 25;
-// A round ends though there is still something to do, lest a flood of events holds it for ever.
+// A round stops after this many passes even if events are left, so that a flood of events cannot
+// hold it for ever.
 constexpr int passateMassime = 100;
 
 } // namespace

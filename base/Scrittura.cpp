@@ -11,21 +11,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Where a link leads, also if nothing is there yet.
+// The target of a symbolic link, even if it does not exist yet.
 QString senzaCollegamenti(QString nome)
 {
-    constexpr int collegamentiMassimi = 40; // more than that is a circle
+    constexpr int collegamentiMassimi = 40; // more is a circle of links
     for (int i = 0; i < collegamentiMassimi && QFileInfo(nome).isSymbolicLink(); ++i)
         nome = QFileInfo(nome).symLinkTarget();
     return nome;
 }
 
-// A temporary file has the file's own name and some bytes more; for a name so long that no more fit
-// it is one of its own.
+// The base name for the temporary file. QSaveFile adds 7 bytes to the file's name; if they do not
+// fit, another name is taken.
 QString nomeAccanto(const QString &nome)
 {
     constexpr qsizetype aggiunta = 7;
-    constexpr qsizetype nomeMassimo = 255; // bytes, as file systems have it
+    constexpr qsizetype nomeMassimo = 255; // bytes, the limit of common file systems
     const QFileInfo info(nome);
     if (QFile::encodeName(info.fileName()).size() <= nomeMassimo - aggiunta)
         return nome;
@@ -34,7 +34,7 @@ QString nomeAccanto(const QString &nome)
 
 bool apriEsistente(QFile &file)
 {
-    // Without a buffer nothing of a failed write is left over for the next one.
+    // Unbuffered: a buffer would keep the rest of a failed write for the next one.
     return QFileInfo(file).isFile() &&
            file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered);
 }
@@ -69,10 +69,10 @@ void Scrittura::conferma()
         sovrascrivi();
 }
 
-// False if what is whole beside the old file cannot take its place.
+// Returns false if the finished temporary file cannot replace the old file.
 bool Scrittura::sostituisci()
 {
-    // Replacing the file would not notice that the last bytes could not be written.
+    // Flushed here because commit() does not report that the last bytes could not be written.
     if (m_accanto->write(m_byte) != m_byte.size() || !m_accanto->flush())
         throw Errore(Errore::DiscoPieno);
     if (!m_accanto->commit())
@@ -98,7 +98,7 @@ void Scrittura::sovrascrivi()
         throw Errore(Errore::AccessoNegato);
     if (riempi(file, m_byte))
         return;
-    // The old text has its room on the disk already.
+    // The old contents fit: their space on the disk is still taken.
     riempi(file, prima);
     throw Errore(Errore::DiscoPieno);
 }

@@ -1,4 +1,4 @@
-// Writing a file: nothing is seen of it under its name before it is whole.
+// Writes a file as a whole: others see the old contents or the new ones, nothing between.
 #pragma once
 
 #include <QByteArray>
@@ -7,20 +7,20 @@
 #include <QString>
 #include <memory>
 
-// What is written takes the place of the old file at the end, in one stroke, from a temporary file
-// beside it. If the folder takes no new file, or lets nobody replace this one, the file itself is
-// overwritten at the end. Then a write that fails (full disk) brings the old text back; only a
-// computer that stops in the middle leaves a file that is half new.
+// Collects the bytes and writes them at the end, to a temporary file in the same folder that then
+// replaces the old one. If the folder does not allow new files or the replacement, the file itself
+// is overwritten. In this case a failed write (full disk) restores the old contents; only if the
+// computer stops in the middle, the file is left half written.
 class Scrittura
 {
 public:
-    // A link is followed. Errore::AccessoNegato if the file can neither be replaced nor
-    // overwritten, also if it may only be read.
+    // Follows a symbolic link. Throws Errore::AccessoNegato if the file can be neither replaced nor
+    // overwritten, or is read-only.
     explicit Scrittura(const QString &nome);
 
     void aggiungi(const QByteArray &byte) { m_byte += byte; }
-    // Errore::DiscoPieno or AccessoNegato leaves the old file as it was. Without a call of this
-    // everything added is dropped.
+    // Writes the file. If it throws (Errore::DiscoPieno, AccessoNegato), the old file is kept. If
+    // it is never called, all bytes added are dropped.
     void conferma();
 
 private:

@@ -1,7 +1,7 @@
-// A sleep that is as short as it is asked to be.
+// A sleep of less than a millisecond, more exact than the system's usual one.
 #pragma once
 
 #include <chrono>
 
-// Sleeps that long, or some tens of microseconds longer.
+// Sleeps for the given time; may take some tens of microseconds longer.
 void dormi(std::chrono::steady_clock::duration tempo);

@@ -10,7 +10,8 @@
 
 void dormi(std::chrono::steady_clock::duration tempo)
 {
-    // A plain sleep ends with a tick of the system's clock, up to 16 milliseconds late.
+    // A plain sleep ends at a tick of the system clock, up to 16 ms late. The high-resolution timer
+    // counts in units of 100 ns; negative means from now.
     static const HANDLE sveglia = ::CreateWaitableTimerExW(
         nullptr, nullptr, CREATE_WAITABLE_TIMER_HIGH_RESOLUTION, TIMER_ALL_ACCESS);
     using unita = std::chrono::duration<LONGLONG, std::ratio<1, 10'000'000>>;

@@ -7,8 +7,8 @@
 
 namespace {
 
-// A button, a check box, or a picture or a label to look at, by what its window has connected to
-// it.
+// The interface of an Immagine or an Etichetta: a button or a check box if its window has connected
+// a click, else a plain picture or text.
 class Interfaccia : public QAccessibleWidget
 {
 public:
@@ -61,7 +61,7 @@ public:
     }
 
 private:
-    // nullptr while the control is going away, of which Qt still tells.
+    // nullptr while the control is being destroyed; Qt still asks for its interface then.
     Azionabile *azionabile() const { return dynamic_cast<Azionabile *>(widget()); }
     const QLabel *etichetta() const { return qobject_cast<const QLabel *>(widget()); }
     bool agibile() const { return azionabile() && azionabile()->prendeClick(); }
@@ -75,7 +75,7 @@ private:
 QAccessibleInterface *fabbrica(const QString &, QObject *oggetto)
 {
     auto *controllo = qobject_cast<QWidget *>(oggetto);
-    // Whether it is clicked may be told later; a frame is what Qt says of it.
+    // All pictures and labels, since a click may be connected later. A Cornice keeps Qt's role.
     if (qobject_cast<Immagine *>(controllo) || qobject_cast<Etichetta *>(controllo))
         return new Interfaccia(controllo);
     return nullptr;

@@ -1,9 +1,9 @@
-// What a screen reader is told of pictures and labels that act as buttons.
+// What a screen reader gets to know about pictures and labels that act as buttons.
 #pragma once
 
 class QWidget;
 
-// Makes them known to the accessibility of Qt; once is enough.
+// Registers their interface with Qt's accessibility. Further calls do nothing.
 void dichiaraAzionabili();
-// The mark of a picture has changed.
+// Reports that the check mark of a picture has changed.
 void annunciaSpunta(QWidget &controllo);

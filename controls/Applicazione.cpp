@@ -1,11 +1,11 @@
 #include "controls/Applicazione.h"
 
-#include "controls/look/Aspetto.h"
 #include "art/Disegni.h"
 #include "controls/Italiano.h"
 #include "controls/PressioniPerse.h"
 #include "controls/SecondaPressione.h"
 #include "controls/TastiRipetuti.h"
+#include "controls/look/Aspetto.h"
 
 #include <QApplication>
 
@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 void preparaApplicazione(QApplication &app)
 {
-    // Qt would end the program with its last window, and a box counts as one.
+    // Qt would end the program with its last window, and a message box counts as one.
     QApplication::setQuitOnLastWindowClosed(false);
     QCoreApplication::setQuitLockEnabled(false);
     fermaSecondePressioni(app);

@@ -1,9 +1,9 @@
-// What holds for the whole program, the same in main.cpp and in every test program.
+// The settings of the whole application, for main.cpp and for every test program.
 #pragma once
 
 class QApplication;
 
-// The language, the look, what held keys and second presses do in all windows, and that no closing
-// of a window or a box ends the program: it ends by terminaProgramma only. Once, after the
-// application was made, before its first window.
+// Sets the language, the look, and what held keys and second presses of the mouse do in all
+// windows. Closing a window or a message box no longer ends the program; only terminaProgramma
+// does. Call it once, after creating the application and before its first window.
 void preparaApplicazione(QApplication &app);

@@ -12,7 +12,8 @@ template <class Tipo>
 class ArrayControlli
 {
 public:
-    // Named "nome(prima)" to "nome(ultima)".
+    // Creates the controls "nome(prima)" to "nome(ultima)". The arguments altro go to each one's
+    // constructor, after its name and its parent.
     template <class... Altro>
     ArrayControlli(const QString &nome, int prima, int ultima, QWidget *dentro,
                    const Altro &...altro)
@@ -28,7 +29,7 @@ public:
     int prima() const { return m_prima; }
     int ultima() const { return m_prima + static_cast<int>(m_controlli.size()) - 1; }
 
-    // An index that is not there is Errore::ProprietaNonValida.
+    // Throws Errore::ProprietaNonValida if the index does not exist.
     Tipo &operator()(int indice)
     {
         if (indice < prima() || indice > ultima())

@@ -7,7 +7,8 @@
 #include <QToolButton>
 #include <vector>
 
-// One button of the toolbar, or a separator (image 0). Image is the number in the bar's list.
+// One button of the toolbar, or a separator (Image 0). Image is a number in the bar's list of
+// pictures.
 class PulsanteBarra : public QToolButton
 {
     Q_OBJECT
@@ -18,13 +19,15 @@ public:
     PulsanteBarra(const QString &nome, QWidget *dentro, const ListaImmagini *lista);
 
     int Image() const { return m_immagine; }
+    // Throws Errore::ProprietaNonValida if the list has no such picture.
     void setImage(int numero);
     bool Enabled() const { return isEnabled(); }
+    // Sets the tool tip and the accessible name.
     void setToolTipText(const QString &testo);
 
 protected:
-    // Enter presses it as the space bar does, which may have a meaning of its own in the window: it
-    // is pressed while the key is, and clicked when the key is let go.
+    // Enter works like the space bar: the button is down while the key is held, and clicked when it
+    // is released. The window may use the space bar for something else.
     void keyPressEvent(QKeyEvent *evento) override;
     void keyReleaseEvent(QKeyEvent *evento) override;
 
@@ -41,9 +44,11 @@ class BarraDiPulsanti : public Controllo<QWidget>
 public:
     BarraDiPulsanti(const QString &nome, QWidget *dentro, const ListaImmagini *lista);
 
+    // Adds a button at the right end.
     void aggiungi(int immagine, const QString &suggerimento);
+    // Adds a separator; it counts as a button in Buttons().
     void aggiungiSeparatore();
-    // From 1; a button that is not there is Errore::ProprietaNonValida.
+    // Counted from 1. Throws Errore::ProprietaNonValida if there is no such button.
     PulsanteBarra &Buttons(int numero);
 
     Evento<PulsanteBarra &> ButtonClick;
@@ -61,10 +66,11 @@ class BarraDiStato : public Controllo<QWidget>
     CONTROLLO
 
 public:
-    // The panels' widths in logical pixels; 0 takes what is left.
+    // One width for each panel, in logical pixels; a panel of width 0 takes the remaining room.
     BarraDiStato(const QString &nome, QWidget *dentro, const std::vector<int> &larghezze);
 
-    // From 1; a panel that is not there is Errore::ProprietaNonValida.
+    // Text of a panel, counted from 1. Both throw Errore::ProprietaNonValida if there is no such
+    // panel.
     QString Panels(int numero) const { return pannello(numero).text(); }
     void setPanels(int numero, const QString &testo) { pannello(numero).setText(testo); }
 
@@ -88,6 +94,6 @@ public:
     int Min() const { return minimum(); }
     int Max() const { return maximum(); }
     int Value() const { return value(); }
-    // Errore::ProprietaNonValida outside the limits.
+    // Throws Errore::ProprietaNonValida outside Min and Max.
     void setValore(int valore);
 };

@@ -20,7 +20,8 @@ CasellaTesto::CasellaTesto(const QString &nome, QWidget *dentro, const QString &
 
 CasellaTesto::~CasellaTesto()
 {
-    // A widget that goes with the focus tells the application so when only its base is left.
+    // If the box has the focus, ~QWidget still makes the application emit focusChanged, when the
+    // members of this class are gone already.
     disconnect(qApp, nullptr, this, nullptr);
 }
 
@@ -59,7 +60,7 @@ void CasellaTesto::keyPressEvent(QKeyEvent *evento)
         return;
     }
     const QString testo = evento->text();
-    // Control and Alt together are AltGr, which types characters.
+    // Control and Alt together mean AltGr, which types characters.
     const bool comando = evento->modifiers().testFlag(Qt::ControlModifier) &&
                          !evento->modifiers().testFlag(Qt::AltModifier);
     const bool battuto = !testo.isEmpty() && testo.front().isPrint() && !comando &&
@@ -101,7 +102,7 @@ void CasellaTesto::fuocoCambiato(QWidget *ora)
 {
     if (!m_inSospeso)
         return;
-    // A window without a control for the focus becomes the active one all the same.
+    // ora is null if the window that becomes active has no control that takes the focus.
     const QWidget *dove = ora ? ora->window() : QApplication::activeWindow();
     if (ora == this) {
         m_inSospeso = false;

@@ -1,4 +1,4 @@
-// The text box.
+// The text box, of one line.
 #pragma once
 
 #include "controls/Controllo.h"
@@ -16,17 +16,19 @@ public:
     ~CasellaTesto() override;
 
     QString Text() const { return text(); }
-    // The caret stays where the user types: as far from the text's end as it was.
+    // Raises Change if the text differs. The caret keeps its distance from the end of the text, so
+    // that a user who is typing goes on where he was.
     void setText(const QString &testo);
 
-    // Whenever the text changes, by the user or by code.
+    // The text has changed, by the user or by code.
     Evento<> Change;
-    // Each typed character first, as its byte (8 for backspace); the handler may change it, or drop
-    // it with 0. Pasted text does not come here.
+    // A character was typed; it is not in the text yet. The argument is its byte in Windows-1252, 8
+    // for backspace. The handler may change it; 0 drops it. Pasted text does not come here.
     Evento<int &> KeyPress;
-    // When the focus goes to another control or window of the program; not when another program or
-    // a message box comes to the front.
+    // The focus has gone to another control or window of the program. Not raised when another
+    // program or a message box comes to the front.
     Evento<> LostFocus;
+    // The left button was released inside the box.
     Evento<> Click;
 
 protected:
@@ -39,9 +41,10 @@ private:
     QString filtrato(const QString &battuto);
     void fuocoCambiato(QWidget *ora);
 
-    // The window went to the back with the focus in this box; who comes next decides.
+    // The window has become inactive while this box had the focus. Whether LostFocus is raised
+    // depends on the window that becomes active next.
     bool m_inSospeso = false;
 };
 
-// The common filter: digits and backspace pass, all else is dropped.
+// A filter for KeyPress: digits and backspace pass, anything else is dropped.
 void soloCifre(int &KeyAscii);

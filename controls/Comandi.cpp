@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// An error that nobody handled is ending the program.
+// An unhandled error is ending the program: no handler runs any more.
 bool finisce = false;
 std::function<void()> ultimoAtto;
 
@@ -29,8 +29,8 @@ void impostaUltimoAtto(std::function<void()> atto)
     ultimoAtto = std::move(atto);
 }
 
-// Nothing else of the program goes on while the box is open: a timer that ticks or a byte that
-// arrives would meet what the error left behind, and fail in its turn.
+// Nothing else runs while the box is open: a timer tick or an arriving byte would work on the state
+// that the error left half changed, and might fail as well.
 static void erroreNonGestito(const QString &descrizione)
 {
     finisce = true;

@@ -1,13 +1,14 @@
-// How the program stops at once.
+// Ending the program at once.
 #pragma once
 
 #include <functional>
 
-// Ends the process at once: no unloading, no destructors. What was written to the port and to
-// closed files is with the operating system already.
+// Ends the process at once with this exit code: no window is unloaded, no destructor runs. Nothing
+// is lost by it: what was written to the port and to closed files is already with the operating
+// system.
 [[noreturn]] void terminaProgramma(int esito);
 
-// What is still done when an error that nobody handled ends the program: after its message box,
-// before the process ends. There is one for the whole program; an empty one takes it away. Errors
-// in it are passed over.
+// Sets what is done when an unhandled error ends the program: after its message box, before the
+// process ends. There is one for the whole program; an empty function removes it. An Errore that it
+// throws is ignored.
 void impostaUltimoAtto(std::function<void()> atto);

@@ -13,7 +13,7 @@ Combo::Combo(const QString &nome, QWidget *dentro, Stile stile) : Controllo(nome
         setInsertPolicy(QComboBox::NoInsert);
         setCompleter(nullptr);
         setValidator(new UnaRiga(this));
-        // Leaving the box would look the typed text up in the list and select a row.
+        // On leaving the box Qt would look the typed text up in the list and select its row.
         disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
         connect(lineEdit(), &QLineEdit::textEdited, this, [this] {
             m_scelta = -1;
@@ -30,7 +30,7 @@ void Combo::setListIndex(int riga)
 {
     if (riga < -1 || riga >= count())
         throw Errore(Errore::ProprietaNonValida);
-    // A text that was typed goes, too, when nothing is to be selected.
+    // -1 goes on even if nothing is selected: it also clears a typed text.
     if (riga == m_scelta && riga >= 0)
         return;
     m_scelta = riga;
@@ -48,7 +48,7 @@ QString Combo::List(int riga) const
     return itemText(riga);
 }
 
-// Qt selects rows of its own accord when rows come and go; that is no choice of anybody's.
+// Adds or removes rows while nothing is selected: Qt would select a row then, and change the text.
 template <class Modifica>
 void Combo::senzaScelta(Modifica modifica)
 {
@@ -94,8 +94,8 @@ void Combo::Clear()
 void Combo::showPopup()
 {
     Controllo::showPopup();
-    // The list is closed by a choice, by Esc and by a press beside it; only its going is the same
-    // for all three.
+    // A choice, Esc and a press outside all close the list. Hiding is the one event that they have
+    // in common.
     view()->window()->installEventFilter(this);
 }
 
@@ -109,7 +109,7 @@ bool Combo::eventFilter(QObject *oggetto, QEvent *evento)
 
 void Combo::wheelEvent(QWheelEvent *evento)
 {
-    // Who only passes over it with the mouse has chosen nothing.
+    // Without the focus the wheel must not change the choice: the pointer is there by chance.
     if (hasFocus())
         Controllo::wheelEvent(evento);
     else
@@ -118,7 +118,7 @@ void Combo::wheelEvent(QWheelEvent *evento)
 
 void Combo::keyPressEvent(QKeyEvent *evento)
 {
-    // Enter would look the typed text up in the list and select a row: the text stays typed.
+    // On Enter Qt would look the typed text up in the list and select its row.
     if (isEditable() && (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter))
         evento->ignore();
     else

@@ -1,4 +1,4 @@
-// The combo box, with a fixed list or an editable text.
+// The combo box: a fixed list, or a list with an editable text.
 #pragma once
 
 #include "controls/Controllo.h"
@@ -18,24 +18,28 @@ public:
     Combo(const QString &nome, QWidget *dentro, Stile stile = Stile::Fisso);
 
     int ListCount() const { return count(); }
-    // -1 where nothing is selected, or while the text was typed.
+    // -1 if no row is selected, or if the text was typed.
     int ListIndex() const { return m_scelta; }
-    // As in a list box: -1 clears and raises nothing, a change raises Click at once, a row that is
-    // not there is Errore::ProprietaNonValida and changes nothing.
+    // Selects a row; a change raises Click at once. -1 selects nothing, clears an editable text and
+    // raises nothing. A row that does not exist throws Errore::ProprietaNonValida and changes
+    // nothing.
     void setListIndex(int riga);
 
     QString Text() const { return currentText(); }
+    // Throws Errore::ProprietaNonValida if the row does not exist.
     QString List(int riga) const;
+    // Adds a row at the end; selection and text stay as they are.
     void AddItem(const QString &testo);
-    // A row that is not there is Errore::ChiamataNonValida.
+    // Removing the selected row leaves nothing selected. Throws Errore::ChiamataNonValida if the
+    // row does not exist.
     void RemoveItem(int riga);
     void Clear();
 
-    // When a row is chosen, by the user or by code.
+    // A row was chosen, by the user or by code.
     Evento<> Click;
-    // When the text is typed.
+    // The user has changed the text.
     Evento<> Change;
-    // When the list has gone, with a choice or without; before the Click of the choice.
+    // The list has closed, with or without a choice; comes before the Click of the choice.
     Evento<> Chiusa;
 
     void showPopup() override;

@@ -1,4 +1,4 @@
-// What all controls have in common, laid over the Qt widget of their kind.
+// What all controls have in common, as a template over the Qt widget of each kind.
 #pragma once
 
 #include "base/Errore.h"
@@ -10,13 +10,13 @@
 #include <QString>
 #include <QWidget>
 
-// Buttons as the mouse events give them: 1 left, 2 right, 4 middle.
+// Mouse buttons as numbers, added up: 1 left, 2 right, 4 middle.
 int numeroPulsante(Qt::MouseButton pulsante);
 int numeroPulsanti(Qt::MouseButtons pulsanti);
-// 1 for the shift key, 2 for control, 4 for alt, added up.
+// Modifier keys as numbers, added up: 1 Shift, 2 Control, 4 Alt.
 int numeroMaiuscole(Qt::KeyboardModifiers tasti);
 
-// Properties under the design's names; goes into the class body behind Q_OBJECT.
+// The properties of every control; goes into the class body after Q_OBJECT.
 #define CONTROLLO                                                                                  \
     Q_PROPERTY(QString Tag READ Tag WRITE setTag)                                                  \
     Q_PROPERTY(bool Enabled READ Enabled WRITE setEnabled)                                         \
@@ -26,7 +26,7 @@ int numeroMaiuscole(Qt::KeyboardModifiers tasti);
     Q_PROPERTY(double Width READ Width WRITE setWidth)                                             \
     Q_PROPERTY(double Height READ Height WRITE setHeight)
 
-// Tag, geometry in layout units, and the mouse events, for any widget.
+// Adds the Tag, the geometry in layout units and the mouse events to a widget.
 template <class Base>
 class Controllo : public Base
 {
@@ -39,18 +39,18 @@ public:
 
     QString Tag() const { return m_tag.testo(); }
     void setTag(const QString &tag) { m_tag.imposta(tag); }
-    // From now on the Tag shows what an owner holds.
+    // From now on the Tag is read from and written to the owner of a state (see TestoTag).
     void mostraTag(TestoTag::Lettura lettura, TestoTag::Scrittura scrittura)
     {
         m_tag.mostra(std::move(lettura), std::move(scrittura));
     }
 
     bool Enabled() const { return Base::isEnabled(); }
-    // As set for this control, whether or not its window is on the screen.
+    // As set for this control; a control of a hidden window can be Visible.
     bool Visible() const { return !Base::isHidden(); }
 
-    // Layout units, relative to what the control lies in. A value that code has set is read back as
-    // it was set, not as the pixels that it became.
+    // In layout units, 15 to a logical pixel, relative to the parent. A value that was set is read
+    // back exactly, not rounded to pixels, until Qt moves or resizes the control.
     double Left() const { return esatta(m_left, Base::x()); }
     double Top() const { return esatta(m_top, Base::y()); }
     double Width() const { return esatta(m_width, Base::width()); }
@@ -72,7 +72,7 @@ public:
         Base::resize(Unita::pixel(width), Unita::pixel(height));
     }
 
-    // Fails with Errore::ChiamataNonValida where the control cannot take the focus now.
+    // Throws Errore::ChiamataNonValida if the control is disabled or not on the screen.
     void SetFocus()
     {
         if (!Base::isVisible() || !Base::isEnabled())
@@ -80,14 +80,15 @@ public:
         Base::setFocus(Qt::OtherFocusReason);
     }
 
-    // Button, Shift, X, Y. X and Y in units of the control, by default layout units.
+    // Arguments: Button, Shift, X, Y. X and Y are in layout units, on a surface in pixels in
+    // logical pixels. MouseMove has all buttons that are held, the others the one that changed.
     Evento<int, int, double, double> MouseDown;
     Evento<int, int, double, double> MouseMove;
     Evento<int, int, double, double> MouseUp;
     Evento<> DblClick;
 
 protected:
-    // 15 on a surface in layout units, 1 on one whose unit is the pixel.
+    // Factor for X and Y of the mouse events: 15 for layout units, 1 for pixels.
     double unitaPerPixel = Unita::perPixel;
 
     void mousePressEvent(QMouseEvent *evento) override
@@ -95,7 +96,7 @@ protected:
         Base::mousePressEvent(evento);
         premuto(evento);
     }
-    // A press that the Qt widget does not see.
+    // Raises MouseDown without passing the press on to the Qt widget.
     void premuto(QMouseEvent *evento)
     {
         evento->accept();
@@ -118,7 +119,7 @@ protected:
     }
     void mouseDoubleClickEvent(QMouseEvent *evento) override
     {
-        // The second press of a double click is a press as well.
+        // Most Qt widgets call mousePressEvent here, so that the second press raises MouseDown.
         Base::mouseDoubleClickEvent(evento);
         evento->accept();
         DblClick();

@@ -23,7 +23,7 @@ QColor Cornice::ForeColor() const
 
 void Cornice::setForeColor(const QColor &colore)
 {
-    // Not by the palette, which would hand the colour on to what lies in the frame.
+    // Not set in the palette: the controls in the frame would inherit it.
     m_colore = colore;
     update();
 }
@@ -50,7 +50,7 @@ void Cornice::paintEvent(QPaintEvent *)
     pittore.setBrush(fondo);
     pittore.setPen(palette().color(QPalette::Mid));
     pittore.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), raggio, raggio);
-    // The stated colours are for a light window: in a dark theme a light plate carries them.
+    // The colours are chosen for a light ground: on a dark one the caption gets a light plate.
     if (m_colore.isValid() && fondo.lightness() < 128) {
         pittore.setPen(Qt::NoPen);
         pittore.setBrush(QColor(0xEE, 0xF4, 0xF8));
@@ -61,7 +61,7 @@ void Cornice::paintEvent(QPaintEvent *)
     pittore.drawText(titolo(), Qt::AlignLeft | Qt::TextSingleLine, title());
 }
 
-// Qt keeps a place free for a caption of its own.
+// QGroupBox sets margins for its own caption, which is not drawn: they are removed again.
 void Cornice::resizeEvent(QResizeEvent *evento)
 {
     Cliccabile::resizeEvent(evento);

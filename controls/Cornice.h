@@ -1,4 +1,4 @@
-// The frame with a caption, around the controls that lie in it: a card like the console's.
+// A frame with a caption around a group of controls, drawn as a card with rounded corners.
 #pragma once
 
 #include "controls/Grafica.h"
@@ -13,16 +13,17 @@ class Cornice : public Cliccabile<QGroupBox>
     Q_PROPERTY(QColor ForeColor READ ForeColor WRITE setForeColor)
 
 public:
-    // The caption begins that many logical pixels from the left edge.
+    // rientro: distance of the caption from the left edge, in logical pixels.
     Cornice(const QString &nome, QWidget *dentro, const QString &testo = {}, int rientro = 12);
 
     QString Caption() const { return title(); }
     void setCaption(const QString &testo) { setTitle(testo); }
-    // Of the caption alone; the window's text colour where none was set.
+    // Colour of the caption only; the palette's text colour if none was set.
     QColor ForeColor() const;
     void setForeColor(const QColor &colore);
 
-    // Where the caption stands; what lies in the frame keeps clear of it by its own layout.
+    // The rectangle of the caption, in logical pixels. The controls in the frame must be laid out
+    // around it.
     QRect titolo() const;
 
 protected:

@@ -6,7 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
-// The style draws each once.
+// The style keeps each picture, so that it is drawn once.
 static QIcon disegno(QStyle::StandardPixmap quale)
 {
     return QApplication::style()->standardIcon(quale);

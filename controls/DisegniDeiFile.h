@@ -1,4 +1,4 @@
-// What a file dialog shows beside a name: a picture of ours, and the kind in Italian.
+// What the file dialog shows for each file: the program's own pictures, and the kind in Italian.
 #pragma once
 
 #include <QFileIconProvider>
@@ -8,7 +8,7 @@ class DisegniDeiFile : public QFileIconProvider
 public:
     DisegniDeiFile();
 
-    // Qt asks from a thread of its own, too.
+    // Qt calls this from another thread, too: the pictures are made in the constructor.
     QIcon icon(IconType quale) const override;
     QIcon icon(const QFileInfo &file) const override;
     QString type(const QFileInfo &file) const override;

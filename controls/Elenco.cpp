@@ -13,7 +13,7 @@ Elenco::Elenco(const QString &nome, QWidget *dentro, Stile stile)
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     viewport()->setMouseTracking(true);
-    // Qt would move the current row along when rows come and go: that is no choice of the user's.
+    // m_zitto: Qt also changes the current row when rows are added or removed, which is no choice.
     connect(this, &QListWidget::currentRowChanged, this, [this](int) {
         if (!m_zitto)
             Click();
@@ -130,8 +130,7 @@ double Elenco::AltezzaRiga() const
 QItemSelectionModel::SelectionFlags Elenco::selectionCommand(const QModelIndex &indice,
                                                              const QEvent *evento) const
 {
-    // Qt would take the selection off the current row at a click beside the rows, and at one with
-    // the control key held.
+    // Qt would deselect the current row at a click below the rows, or with the Control key held.
     if (!indice.isValid())
         return QItemSelectionModel::NoUpdate;
     const auto comando = QListWidget::selectionCommand(indice, evento);
@@ -157,7 +156,7 @@ void Elenco::mousePressEvent(QMouseEvent *evento)
     const QPoint punto = evento->position().toPoint();
     const QListWidgetItem *sotto = itemAt(punto);
     ++m_pressioni;
-    // The left button alone chooses a row.
+    // Only the left button selects a row.
     if (evento->button() != Qt::LeftButton) {
         premuto(evento);
         return;
@@ -168,11 +167,11 @@ void Elenco::mousePressEvent(QMouseEvent *evento)
     {
         const QScopedValueRollback zitto(m_zitto, m_zitto || m_clickDovuto);
         Controllo::mousePressEvent(evento);
-        // Qt leaves the selection alone when a check mark is pressed.
+        // Qt does not select the row whose check mark is pressed.
         if (m_clickDovuto && itemAt(punto) == sotto)
             setCurrentRow(row(sotto));
     }
-    // A click on the row that is selected already is a click as well.
+    // A press on the row that is selected already raises Click as well.
     if (!m_clickDovuto && sotto && itemAt(punto) == sotto && row(sotto) == prima)
         Click();
 }
@@ -182,7 +181,7 @@ void Elenco::mouseDoubleClickEvent(QMouseEvent *evento)
     const QModelIndex sotto = indexAt(evento->position().toPoint());
     const bool sullaRiga =
         evento->button() == Qt::LeftButton && sotto.isValid() && m_premuta == sotto;
-    // Qt makes an ordinary press of it beside the rows and on another row.
+    // Below the rows and on another row Qt calls mousePressEvent, which has raised MouseDown.
     const unsigned prima = m_pressioni;
     QListWidget::mouseDoubleClickEvent(evento);
     evento->accept();
@@ -196,14 +195,14 @@ void Elenco::mouseDoubleClickEvent(QMouseEvent *evento)
 void Elenco::mouseReleaseEvent(QMouseEvent *evento)
 {
     Controllo::mouseReleaseEvent(evento);
-    // The button was released elsewhere: the row was chosen all the same.
+    // Released outside the check mark: the mark stays as it is, but the row was selected.
     if (std::exchange(m_clickDovuto, false))
         Click();
 }
 
 void Elenco::focusInEvent(QFocusEvent *evento)
 {
-    // Qt makes the first row the current one when the focus comes and there is none.
+    // If no row is current, Qt makes the first one current when the list gets the focus.
     const QScopedValueRollback zitto(m_zitto, true);
     const int prima = currentRow();
     Controllo::focusInEvent(evento);
@@ -217,7 +216,7 @@ void Elenco::keyPressEvent(QKeyEvent *evento)
 {
     int codice = Tasti::codice(*evento);
     KeyDown(codice, numeroMaiuscole(evento->modifiers()));
-    // Held down, the space bar changes a check mark once.
+    // While the space bar is held, the check mark changes only once.
     const bool ancora = codice == Tasti::Spazio && evento->isAutoRepeat();
     if (codice != 0 && !(ancora && m_stile == Stile::ConSpunte))
         Controllo::keyPressEvent(evento);

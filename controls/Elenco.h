@@ -1,4 +1,4 @@
-// The list box, with or without check marks.
+// The list box, with or without check marks. Rows count from 0.
 #pragma once
 
 #include "controls/Controllo.h"
@@ -19,39 +19,44 @@ public:
 
     int ListCount() const { return count(); }
     int ListIndex() const { return currentRow(); }
-    // -1 clears the selection and raises nothing; a change raises Click at once; a row that is not
-    // there is Errore::ProprietaNonValida and changes nothing.
+    // Selects a row; a change raises Click at once. -1 clears the selection and raises nothing. A
+    // row that does not exist throws Errore::ProprietaNonValida and changes nothing.
     void setListIndex(int riga);
 
-    // A row that is not there is Errore::ProprietaNonValida.
+    // The text of a row. Both throw Errore::ProprietaNonValida if the row does not exist.
     QString List(int riga) const;
     void setList(int riga, const QString &testo);
+    // The text of the selected row, empty if there is none.
     QString Text() const;
 
-    // At the end, or before the given row.
+    // Adds a row at the end, or before the given row. Throws Errore::ChiamataNonValida if the row
+    // is not 0 to ListCount. Raises nothing.
     void AddItem(const QString &testo);
     void AddItem(const QString &testo, int riga);
-    // A row that is not there is Errore::ChiamataNonValida. After removing the selected row
-    // nothing is selected.
+    // Removing the selected row leaves nothing selected. Raises nothing. Throws
+    // Errore::ChiamataNonValida if the row does not exist.
     void RemoveItem(int riga);
     void Clear();
 
-    // A number of the program's own for each row, 0 at first.
+    // A number that the program can keep for each row, 0 at first. Both throw
+    // Errore::ProprietaNonValida if the row does not exist.
     qint32 ItemData(int riga) const;
     void setItemData(int riga, qint32 valore);
 
-    // The check mark of a row; every change raises Click, by the user or by code.
+    // The check mark of a row; each change raises Click. Both throw Errore::ProprietaNonValida if
+    // the row does not exist.
     bool Selected(int riga) const;
     void setSelected(int riga, bool valore);
 
-    // The height of a row in layout units.
+    // The height of a row in layout units (15 to a logical pixel).
     double AltezzaRiga() const;
 
-    // DblClick comes with the left button and on a row only, both presses on the same one. The
-    // second press is a MouseDown as well, and no Click.
-    // When ListIndex or a check mark changes, by the user or by code, and at a press on a row.
+    // ListIndex or a check mark has changed, by the user or by code, or the user has pressed the
+    // row that is selected already. The second press of a double click raises MouseDown and
+    // DblClick, but no Click; DblClick needs the left button and both presses on the same row.
     Evento<> Click;
-    // KeyCode and Shift, before the list; a handler that sets KeyCode to 0 keeps the key from it.
+    // Arguments: KeyCode, Shift. Comes before the list handles the key; a handler that sets KeyCode
+    // to 0 drops the key.
     Evento<int &, int> KeyDown;
 
 protected:
@@ -69,11 +74,12 @@ private:
     bool sullaSpunta(const QListWidgetItem *voce, QPoint punto) const;
 
     Stile m_stile;
+    // No Click is raised while this is true.
     bool m_zitto = false;
-    // A press on a check mark: the mark changes, and Click comes, when the button is released.
+    // A check mark was pressed: it changes, and Click comes, when the button is released.
     bool m_clickDovuto = false;
-    // The row of the last press; invalid beside the rows, and when that row has gone.
+    // The row of the last press; invalid if no row was hit, or if the row was removed since.
     QPersistentModelIndex m_premuta;
-    // How many presses there were, to be compared.
+    // Number of presses so far; shows if Qt has turned a double click into a press.
     unsigned m_pressioni = 0;
 };

@@ -1,9 +1,9 @@
-// The list of the files in a folder.
+// A list box with the names of the files in a folder.
 #pragma once
 
 #include "controls/Elenco.h"
 
-// Hidden: it is read by code. Names without a path, sorted without regard to case.
+// It is hidden; code reads it. Names have no path and are sorted without regard to case.
 class ElencoFile : public Elenco
 {
     Q_OBJECT
@@ -11,7 +11,7 @@ class ElencoFile : public Elenco
     Q_PROPERTY(QString Pattern READ Pattern WRITE setPattern)
 
 public:
-    // A pattern as in "*.sqm"; several are parted by ";". Filled at once.
+    // modello: a pattern such as "*.sqm", or several separated by ";". The list is filled at once.
     ElencoFile(const QString &nome, QWidget *dentro, const QString &cartella,
                const QString &modello);
 
@@ -20,7 +20,8 @@ public:
     QString Pattern() const { return m_modello; }
     void setPattern(const QString &modello);
 
-    // Reads the folder anew; nothing is selected then. A folder that is not there has no files.
+    // Reads the folder again; no row is selected afterwards. A folder that does not exist counts as
+    // empty. A new Path or Pattern does the same.
     void Refresh();
 
 private:

@@ -1,4 +1,4 @@
-// A label whose text may be longer than its place: it ends in an ellipsis there.
+// A label that shortens a text that is too long for it, with an ellipsis at the end.
 #pragma once
 
 #include "controls/Grafica.h"

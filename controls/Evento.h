@@ -1,15 +1,16 @@
-// Events of controls, and the one road by which handlers run.
+// Events of controls, and the one function that runs all handlers.
 #pragma once
 
 #include <functional>
 #include <utility>
 
-// Runs a handler. No exception leaves it: an error that nobody handled is shown in a message box,
-// and the program ends. From that error on no handler runs any more.
+// Runs a handler. No exception leaves this function, since none may cross Qt's event loop: an error
+// that was not caught is shown in a message box, and the program ends. No other handler runs after
+// such an error.
 void eseguiGestore(const std::function<void()> &gestore);
 
-// While one of these lives no event is raised: a window puts its design values back, which no
-// handler is to see.
+// No event is raised while an object of this class exists. A window uses it when it resets its
+// controls to their design values.
 class EventiSospesi
 {
 public:
@@ -24,16 +25,16 @@ private:
     static inline int s_vivi = 0;
 };
 
-// One event of one control, with the one handler that its window gave it.
+// One event of one control. It has at most one handler; calling the event runs it.
 template <class... Argomenti>
 class Evento
 {
 public:
+    // Sets the handler: a member function of a window, with the event's arguments or with none.
     template <class Finestra, class Classe, class... Parametri>
     void collega(Finestra *finestra, void (Classe::*gestore)(Parametri...))
     {
         m_gestore = [finestra, gestore](Argomenti... argomenti) {
-            // A handler may leave out the arguments that it has no use for.
             if constexpr (sizeof...(Parametri) == 0)
                 (finestra->*gestore)();
             else
@@ -47,7 +48,7 @@ public:
     void operator()(Argomenti... argomenti) const
     {
         if (m_gestore && !EventiSospesi::ora()) {
-            // A copy: the handler may live longer than its control.
+            // A copy, because the handler may destroy the control, and this event with it.
             const auto gestore = m_gestore;
             eseguiGestore([&] { gestore(argomenti...); });
         }

@@ -16,11 +16,11 @@
 
 namespace {
 
-// The window of the program that was activated last: coming back to it from a message box or from
-// another program is no activation.
+// The window that got the last Activate. It gets no other one when the user comes back to it from a
+// message box or from another program.
 QPointer<Finestra> ultimaAttiva;
 
-// All windows of the program, the one that was active last first.
+// All windows of the program, the most recently active one first.
 QList<Finestra *> &perAttivita()
 {
     static QList<Finestra *> finestre;
@@ -34,7 +34,7 @@ void ricordaAttiva(Finestra *finestra)
     perAttivita().prepend(finestra);
 }
 
-// A window that is just going away is hidden already, though Qt calls it visible still.
+// While a window is being hidden, isVisible() is still true and isHidden() is true already.
 bool siVede(const QWidget &finestra)
 {
     return finestra.isVisible() && !finestra.isHidden();
@@ -45,9 +45,9 @@ bool eAperta(const QWidget &finestra)
     return siVede(finestra) && !finestra.isMinimized();
 }
 
-// X11 gives each repeat of a held key as a release and a press of the same moment, and Qt takes
-// the release for an automatic one only if the press has come with it. While a handler's wait keeps
-// the events running it often has not: the release is then held back until it is sure.
+// X11 reports each repeat of a held key as a release and a press with the same time stamp. Qt marks
+// the release as automatic only if the press is already in its queue, which is often not the case
+// while a handler pumps events in a wait. So a release is held back until it is certain.
 struct RilascioSospeso
 {
     int codice;
@@ -56,7 +56,7 @@ struct RilascioSospeso
 };
 std::optional<RilascioSospeso> sospeso;
 
-// Milliseconds: how far the two may be apart, and how long the press may be on its way.
+// Milliseconds: the largest difference of the two time stamps, and how long the press may be late.
 constexpr quint64 stessoMomento = 2;
 constexpr int attesaDelTasto = 150;
 
@@ -148,7 +148,7 @@ void Finestra::riportaDavanti()
     raise();
 }
 
-// The buttons of the title bar. A window system adds what it likes unless it is told.
+// Sets the buttons of the title bar; without flags the window system chooses them.
 void Finestra::impostaPulsanti()
 {
     if (windowType() == Qt::SplashScreen)
@@ -159,7 +159,7 @@ void Finestra::impostaPulsanti()
     Qt::WindowFlags come = Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
     come |= m_dialogo ? Qt::Dialog : Qt::Window | Qt::WindowMinimizeButtonHint;
-    // A window that is there already would be made anew.
+    // Setting the flags creates the native window again.
     if (come != windowFlags())
         setWindowFlags(come);
 }
@@ -182,7 +182,7 @@ void Finestra::MostraModale()
     while (Visible())
         attesa.processEvents(QEventLoop::WaitForMoreEvents);
     setWindowModality(Qt::NonModal);
-    // The next time it may belong to another window, and that one to this.
+    // Next time the parent may be another window, even one that is shown over this one.
     windowHandle()->setTransientParent(nullptr);
 }
 
@@ -265,10 +265,10 @@ bool Finestra::event(QEvent *evento)
     return esito;
 }
 
-// A key that nobody takes travels up through the parents as one and the same event, and only its
-// first stop counts. Nothing but the event itself can tell: handlers move the focus and handle
-// other keys meanwhile. So the first stop marks it, by the one bit of its time that no clock
-// reaches.
+// Qt sends a key event that a widget ignores to its parents as well, always the same object; only
+// the first widget counts. State outside the event cannot tell, since a handler may move the focus
+// or handle other keys meanwhile. So the event is marked, with the highest bit of its time stamp,
+// which no clock reaches.
 static bool primaTappa(QKeyEvent &tasto)
 {
     constexpr quint64 segno = quint64(1) << 63;
@@ -314,7 +314,7 @@ bool Finestra::eventFilter(QObject *oggetto, QEvent *evento)
 
 void Finestra::closeEvent(QCloseEvent *evento)
 {
-    // Where the window goes is decided below, not by Qt.
+    // Ignored because scarica() decides if the window closes, not Qt.
     evento->ignore();
     eseguiGestore([this] { scarica(Chiusura::Utente); });
 }

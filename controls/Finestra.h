@@ -1,5 +1,5 @@
-// The window of the design: loaded at its first showing, unloaded by closing, loaded anew with its
-// design values by the next showing.
+// The base of all windows. A window is loaded when it is first shown and unloaded when it is
+// closed; shown again, it is loaded again with its design values. The object itself stays.
 #pragma once
 
 #include "controls/Controllo.h"
@@ -16,17 +16,17 @@ class Finestra : public QWidget
     Q_PROPERTY(int WindowState READ WindowState WRITE setWindowState)
 
 public:
-    // Who closes: the user with the window's own close control, or a statement of the program.
+    // Who closes the window: the user with its close button, or the program.
     enum class Chiusura { Utente = 0, Codice = 1 };
 
     explicit Finestra(const QString &nome, const QString &titolo);
     ~Finestra() override;
     Q_DISABLE_COPY_MOVE(Finestra)
 
-    // The window's own text; it outlives unloading.
+    // A text for outside use; unloading does not clear it.
     QString Tag() const { return m_tag.testo(); }
     virtual void setTag(const QString &tag) { m_tag.imposta(tag); }
-    // From now on the Tag shows what an owner holds.
+    // From now on the Tag is read from and written to the owner of a state (see TestoTag).
     void mostraTag(TestoTag::Lettura lettura, TestoTag::Scrittura scrittura)
     {
         m_tag.mostra(std::move(lettura), std::move(scrittura));
@@ -37,58 +37,60 @@ public:
     bool Visible() const { return !isHidden(); }
     bool Caricata() const { return m_caricata; }
 
-    // Loads the window if it is not loaded, and shows it. If it is open already, it is restored if
-    // minimised, and raised: nothing else.
+    // Loads the window if it is not loaded, shows it and calls Activate. If it is visible already,
+    // it is only restored, if minimised, and raised.
     void Mostra();
-    // The same as a dialog, without the buttons that minimise and maximise: returns when the window
-    // is hidden or unloaded; at once if it is open already.
+    // Shows it as a modal dialog, without buttons to minimise and maximise, and returns when it is
+    // hidden or unloaded. Returns at once if it is visible already.
     void MostraModale();
-    // The window of the program that is or was active last, of those that are visible: a window
-    // system gives the activity back only some time after a message box or a file dialog has
-    // closed, and not at all while another program is in front. nullptr if none is visible.
+    // The visible window that is active or was active last; nullptr if none is visible. Needed
+    // because a window system makes a window active only some time after a message box or a file
+    // dialog has closed, and not while another program is in front.
     static Finestra *Ultima();
-    // What a message box or a dialog stands over: the modal window in front, else the window that
-    // was active last, not a minimised one if there is another; one that is hidden only if all are.
-    // nullptr only if the program has no window at all.
+    // The parent for a message box or a dialog: the modal window if there is one, else the window
+    // that was active last. A minimised window is taken only if no other is visible, a hidden one
+    // only if all are hidden. nullptr only if the program has no window.
     static QWidget *Davanti();
-    // Keeps the window's state.
+    // Hides the window and keeps its state.
     void Nascondi() { hide(); }
-    // Asks QueryUnload and Unload; where neither refuses, hides the window and puts its design
-    // values back.
+    // Calls QueryUnload and Unload; if neither cancels, hides the window and resets it to its
+    // design values.
     void Scarica();
 
     // 0 normal, 1 minimised, 2 maximised.
     int WindowState() const;
     void setWindowState(int stato);
 
-    // The frame's place on the screen, in layout units.
+    // Position and size on the screen, frame included, in layout units (15 to a logical pixel).
     double Left() const { return Unita::unita(frameGeometry().x()); }
     double Top() const { return Unita::unita(frameGeometry().y()); }
     double Width() const { return Unita::unita(frameGeometry().width()); }
     double Height() const { return Unita::unita(frameGeometry().height()); }
     void Move(double left, double top) { move(Unita::pixel(left), Unita::pixel(top)); }
 
-    // A dialog, also if it is not shown modally.
+    // Gives the window the title bar of a dialog, even if it is not shown modally.
     void setDialogo() { m_dialogo = true; }
-    // Enter clicks this button unless another button has the focus, Esc clicks the other one.
+    // Enter clicks the first button, unless another button has the focus; Esc clicks the second.
     void setPredefinito(Pulsante *pulsante);
     void setAnnulla(Pulsante *pulsante) { m_annulla = pulsante; }
 
 protected:
-    // Puts the design values of the window's controls back.
+    // Resets the window's controls to their design values; runs at unloading, without events.
     virtual void Disegno() {}
 
+    // Before the first Load, once.
     virtual void Initialize() {}
     virtual void Load() {}
-    // At each showing, and when the user comes here from another window of the program.
+    // After each showing, and when the user comes from another window of the program; not after a
+    // message box, a file dialog or another program.
     virtual void Activate() {}
     virtual void Resize() {}
     virtual void QueryUnload(bool &Cancel, Chiusura UnloadMode);
     virtual void Unload(bool &Cancel);
     virtual void MouseMove() {}
 
-    // Every key before the control that has the focus, once setKeyPreview was called. A held key
-    // repeats KeyDown and gives one KeyUp, at its end.
+    // After setKeyPreview the window gets every key before the control that has the focus. A held
+    // key repeats KeyDown; KeyUp comes once, when it is released.
     virtual void KeyDown(int KeyCode, int Shift);
     virtual void KeyUp(int KeyCode, int Shift);
     void setKeyPreview();

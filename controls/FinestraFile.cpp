@@ -1,7 +1,7 @@
 #include "controls/FinestraFile.h"
 
-#include "controls/DisegniDeiFile.h"
 #include "base/Errore.h"
+#include "controls/DisegniDeiFile.h"
 #include "controls/Finestra.h"
 
 #include <QFileInfo>
@@ -12,6 +12,7 @@
 
 using namespace Qt::StringLiterals;
 
+// "Mosse|*.sqm;*.txt" becomes "Mosse (*.sqm *.txt)".
 static QStringList filtriQt(const QString &filtro)
 {
     const QStringList parti = filtro.split(u'|');
@@ -21,7 +22,7 @@ static QStringList filtriQt(const QString &filtro)
     return filtri;
 }
 
-// Each column as wide as what stands in it, and the names have the rest.
+// Makes the columns as wide as their contents; the column of the names takes the rest.
 static void disponi(QFileDialog &dialogo)
 {
     if (auto *tabella = dialogo.findChild<QTreeView *>(u"treeView"_s)) {
@@ -55,9 +56,9 @@ void FinestraFile::mostra(QFileDialog::AcceptMode modo)
 {
     const bool apre = modo == QFileDialog::AcceptOpen;
     DisegniDeiFile disegni;
-    // Not on the stack: it belongs to the window beneath, which may go first.
+    // On the heap, because the parent window may be destroyed first and then deletes it.
     const QPointer<QFileDialog> dialogo = new QFileDialog(Finestra::Davanti());
-    // The system's own dialog speaks the system's language.
+    // The system's own dialog would use the system's language.
     dialogo->setOption(QFileDialog::DontUseNativeDialog);
     dialogo->setOption(QFileDialog::DontConfirmOverwrite);
     dialogo->setAcceptMode(modo);

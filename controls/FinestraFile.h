@@ -1,12 +1,12 @@
-// The file dialog, for opening and for saving.
+// The file dialog, to choose a file to open or to save.
 #pragma once
 
 #include <QFileDialog>
 #include <QObject>
 #include <QString>
 
-// Holds the name from one showing to the next; each showing fails with Errore::Annullato where the
-// user cancels, and leaves the name as it was then.
+// Keeps the name from one showing to the next. If the user cancels, ShowOpen and ShowSave throw
+// Errore::Annullato and the name stays as it was.
 class FinestraFile : public QObject
 {
     Q_OBJECT
@@ -23,9 +23,10 @@ public:
     QString Filter() const { return m_filtro; }
     void setFilter(const QString &filtro) { m_filtro = filtro; }
 
-    // A file that is there.
+    // Asks for an existing file.
     void ShowOpen();
-    // The name as typed: no extension is added, and overwriting is not asked about.
+    // Asks for a name and takes it as typed: no extension is added, and there is no question before
+    // overwriting a file.
     void ShowSave();
 
 private:

@@ -81,7 +81,7 @@ void Immagine::setBorderStyle(int bordo)
 
 namespace {
 
-// Around the picture, not on it: a small one would not be known again.
+// The focus ring. It is drawn around the picture, because on a small one it would hide too much.
 class Anello : public QFocusFrame
 {
 protected:
@@ -94,7 +94,7 @@ protected:
     }
 };
 
-// Puts the ring there while the control has the focus.
+// Shows the ring while the control has the focus.
 class Fuoco : public QObject
 {
 public:
@@ -120,7 +120,7 @@ protected:
 
 private:
     QWidget &m_controllo;
-    // It lies beside the control, and goes with what both lie in.
+    // Qt makes it a child of the control's parent, which may delete it first.
     QPointer<Anello> m_anello;
 };
 
@@ -131,7 +131,7 @@ void Immagine::conTastiera()
     if (!m_conTastiera)
         new Fuoco(*this);
     m_conTastiera = true;
-    // Not by the mouse: a box in which the user types does not lose the focus to a picture.
+    // Not by a click: a text box must not lose the focus when a picture is clicked.
     setFocusPolicy(Qt::TabFocus);
 }
 
@@ -145,10 +145,10 @@ std::optional<bool> Immagine::spunta() const
 void Immagine::keyPressEvent(QKeyEvent *evento)
 {
     const int tasto = evento->key();
-    // On a box with a mark Enter is the window's default button, as everywhere.
+    // On a check box Enter is left for the window's default button, as in every dialog.
     const bool invio = (tasto == Qt::Key_Return || tasto == Qt::Key_Enter) && m_spuntata == 0;
     if (m_conTastiera && (tasto == Qt::Key_Space || invio)) {
-        // Held down it stays one click.
+        // A held key is one click.
         if (!evento->isAutoRepeat())
             aziona();
     } else {
@@ -239,12 +239,13 @@ void Superficie::Pulisci()
     update();
 }
 
-// Also before the first showing, when no resize event has come yet.
+// Fits the image to the surface. Called before drawing, too: before the first showing Qt sends no
+// resize event.
 void Superficie::adatta()
 {
-    // Grows only, so that what is drawn survives a window made smaller and larger again.
+    // It only grows, so that a drawing is not lost if the window is made smaller and larger again.
     const QSize dovuta = size().expandedTo(m_disegno.deviceIndependentSize().toSize());
-    // As fine as the screen that the surface is on now.
+    // Pixels of the screen for each logical pixel.
     const double finezza = devicePixelRatioF();
     if (dovuta != m_disegno.deviceIndependentSize().toSize() ||
         finezza != m_disegno.devicePixelRatio()) {
@@ -269,7 +270,7 @@ void Superficie::paintEvent(QPaintEvent *evento)
     pittore.setRenderHint(QPainter::SmoothPixmapTransform);
     if (!m_sfondo.isNull())
         m_sfondo.paint(&pittore, rect());
-    // Boxes keep their edges.
+    // Without smoothing: drawn blocks keep sharp edges.
     pittore.setRenderHint(QPainter::SmoothPixmapTransform, false);
     pittore.setClipRect(evento->rect());
     pittore.drawImage(0, 0, m_disegno);

@@ -1,4 +1,4 @@
-// What is looked at: labels, images, shapes, surfaces drawn by code.
+// Controls that show something: labels, pictures, shapes, and surfaces drawn by code.
 #pragma once
 
 #include "controls/Accessibile.h"
@@ -12,7 +12,7 @@
 #include <optional>
 #include <vector>
 
-// Pictures by number, from 1; 0 is no picture.
+// Pictures by number, counted from 1.
 class ListaImmagini
 {
 public:
@@ -20,14 +20,14 @@ public:
     explicit ListaImmagini(std::vector<QIcon> immagini) : m_immagini(std::move(immagini)) {}
 
     int ListCount() const { return static_cast<int>(m_immagini.size()); }
-    // Errore::ProprietaNonValida for a number that is not there.
+    // Throws Errore::ProprietaNonValida if there is no picture with this number.
     QIcon immagine(int numero) const;
 
 private:
     std::vector<QIcon> m_immagini;
 };
 
-// What becomes a button by its handlers, though it looks like a picture or a label.
+// A picture or a label that acts as a button if its window has connected a handler.
 class Azionabile
 {
 public:
@@ -36,16 +36,16 @@ public:
     Azionabile(const Azionabile &) = delete;
     Azionabile &operator=(const Azionabile &) = delete;
 
-    // Whether anything happens when the mouse presses it.
+    // True if a mouse click has an effect.
     virtual bool prendeClick() const = 0;
-    // What a click of the left button does.
+    // Does what a click of the left button in the middle of the control does.
     virtual void aziona() = 0;
-    // A mark that the click sets and takes away; nothing where it is a plain button.
+    // The state of its check mark; no value if it has none.
     virtual std::optional<bool> spunta() const { return {}; }
 };
 
-// Adds a Click on the left button's release inside, after MouseUp. The second press of a double
-// click raises MouseDown, but no second Click: who clicks twice means it once.
+// Adds a Click when the left button is released inside the control, after MouseUp. The second press
+// of a double click raises MouseDown but no second Click: a user who double-clicks means one click.
 template <class Base>
 class Cliccabile : public Controllo<Base>, public Azionabile
 {
@@ -56,7 +56,7 @@ public:
     }
     Evento<> Click;
 
-    // From now on the second press of a double click gives a Click of its own.
+    // From now on the second press of a double click also raises Click.
     void conDoppioClick() { m_conDoppio = true; }
 
     bool prendeClick() const override
@@ -75,11 +75,11 @@ public:
 protected:
     void mousePressEvent(QMouseEvent *evento) override
     {
-        // A further button does not take the left one's click away.
+        // Pressing another button meanwhile does not cancel the click.
         if (evento->button() == Qt::LeftButton) {
             m_premuto = m_conDoppio || !secondaPressione(*evento);
             m_quando = evento->timestamp();
-            // Where it was pressed: a handler of the press may move it.
+            // Kept because the handler of MouseDown may move the control.
             m_dove = this->geometry();
         }
         Controllo<Base>::mousePressEvent(evento);
@@ -98,7 +98,8 @@ protected:
     }
 
 private:
-    // Of a double click that began here, not on a box or a list that was in between.
+    // True for the second press of a double click whose first press was here too, not on a message
+    // box or a list that has closed since.
     bool secondaPressione(const QMouseEvent &evento) const
     {
         return evento.type() == QEvent::MouseButtonDblClick &&
@@ -125,10 +126,11 @@ public:
     void setCaption(const QString &testo);
     void setForeColor(const QColor &colore);
 
+    // setCaption has changed the text.
     Evento<> Change;
 };
 
-// A picture, by number from a list or given as such, scaled to the control.
+// A picture, given directly or by its number in a list, scaled to the size of the control.
 class Immagine : public Cliccabile<QWidget>
 {
     Q_OBJECT
@@ -142,18 +144,20 @@ public:
     Immagine(const QString &nome, QWidget *dentro, const QIcon &disegno);
 
     int Picture() const { return m_numero; }
-    // The picture of that number in the list; Errore::ProprietaNonValida where there is none.
+    // Shows the picture with this number in the list, or none if it is 0. Throws
+    // Errore::ProprietaNonValida if the list has no such picture.
     void setPicture(int numero);
+    // Shows a picture that is not in the list; Picture becomes 0.
     void setDisegno(const QIcon &disegno);
 
-    // 0 no border, 1 a plain one.
+    // 0 no border, 1 a line. Throws Errore::ProprietaNonValida for any other value.
     int BorderStyle() const { return m_bordo; }
     void setBorderStyle(int bordo);
 
-    // From now on the Tab key reaches it, it shows the focus, and the space bar clicks it; Enter
-    // does, too, unless it has a mark.
+    // From now on the Tab key reaches the picture, it shows the focus, and the space bar clicks it.
+    // Enter clicks it as well, unless it is a check box.
     void conTastiera();
-    // Its pictures are those of a check box; this one is the ticked one.
+    // Makes the picture a check box, ticked while Picture is this number.
     void conSpunta(int spuntata) { m_spuntata = spuntata; }
     std::optional<bool> spunta() const override;
 
@@ -170,7 +174,7 @@ private:
     bool m_conTastiera = false;
 };
 
-// A rectangle for looks; the mouse goes through it.
+// A coloured rectangle. The mouse passes through it to what lies below.
 class Forma : public Controllo<QWidget>
 {
     Q_OBJECT
@@ -178,6 +182,7 @@ class Forma : public Controllo<QWidget>
 
 public:
     Forma(const QString &nome, QWidget *dentro);
+    // Radius of the corners and width of the border in logical pixels; no border if it is 0.
     void setColori(const QColor &fondo, const QColor &bordo, int raggio = 0, int spessore = 1);
 
 protected:
@@ -200,16 +205,19 @@ public:
     enum class Scala { Unita, Pixel };
     Superficie(const QString &nome, QWidget *dentro, Scala scala = Scala::Unita);
 
-    // Drawn beneath everything, scaled to the control.
+    // Background picture, scaled to the size of the control.
     void setSfondo(const QIcon &disegno);
 
-    // Coordinates in logical pixels.
+    // The drawing functions take logical pixels, whatever the surface's unit for the mouse is.
     void Riempi(const QRect &rettangolo, const QColor &colore);
-    // A whole picture at once, its upper left corner there, in place of what was there.
+    // Draws a picture with its upper left corner at this point; its transparent pixels erase what
+    // was there.
     void Dipingi(QPoint angolo, const QImage &immagine);
+    // Writes a text at the upper left corner.
     void Stampa(const QString &testo);
+    // Clears everything that was drawn; the background stays.
     void Pulisci();
-    // What was drawn, in the pixels of the screen; it may be larger than the surface is now.
+    // What was drawn, in pixels of the screen. It may be larger than the surface: it never shrinks.
     const QImage &disegno() const { return m_disegno; }
 
     Evento<> Resize;

@@ -6,7 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
-// The resources of a static library are linked only where somebody names them.
+// The linker drops the resources of a static library if no code names them.
 static void prendiRisorse()
 {
     Q_INIT_RESOURCE(italiano);

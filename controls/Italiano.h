@@ -1,7 +1,8 @@
-// Qt's own texts in Italian: the standard buttons and the file dialogs.
+// Qt's own texts (standard buttons, file dialogs) in Italian.
 #pragma once
 
 class QCoreApplication;
 
-// Whatever the system's language is; Qt's translation is carried inside the executable.
+// Sets Italian, whatever the language of the system is. Qt's translation is built into the
+// executable.
 void installaItaliano(QCoreApplication &app);

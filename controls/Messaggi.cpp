@@ -11,8 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A box that asks for Sì or No is left by one of the two only; Qt would take Esc and the window's
-// close control for No.
+// A box with only Sì and No closes only by one of them; Qt would take Esc and the close button of
+// the title bar for No.
 class Riquadro : public QMessageBox
 {
 public:
@@ -36,7 +36,7 @@ private:
     bool senzaUscita() const { return standardButtons() == (Yes | No); }
 };
 
-// What counts when the box went away with the window beneath it.
+// The answer if the box was destroyed together with its parent window.
 Risposta senzaRisposta(Pulsanti pulsanti)
 {
     switch (pulsanti) {
@@ -85,7 +85,7 @@ void mostraPulsanti(QMessageBox &box, Pulsanti pulsanti)
 
 Risposta messaggio(const QString &testo, Icona icona, Pulsanti pulsanti, const QString &titolo)
 {
-    // Not on the stack: it belongs to the window beneath, which may go first.
+    // On the heap, because the parent window may be destroyed first and then deletes it.
     const QPointer<Riquadro> box = new Riquadro(Finestra::Davanti());
     box->setObjectName(u"Messaggio"_s);
     box->setWindowTitle(titolo.isEmpty() ? u"Lumbra"_s : titolo);

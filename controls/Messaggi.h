@@ -1,4 +1,4 @@
-// Message boxes: the only place of the program that makes one.
+// Message boxes. No other module creates one.
 #pragma once
 
 #include <QString>
@@ -7,8 +7,9 @@ enum class Icona { Nessuna, Informazione, Domanda, Stop };
 enum class Pulsanti { OK, SiNo, SiNoAnnulla };
 enum class Risposta { OK, Si, No, Annulla };
 
-// Shows a message box over the window in front and waits for the answer; timers go on meanwhile. An
-// empty title is the program's name. Closing the box counts as OK, as Annulla where there is such
-// a button, and is not offered between Sì and No.
+// Shows a message box over Finestra::Davanti() and waits for the answer; timers keep running. If
+// the title is empty, the program's name is shown. Closing the box counts as Annulla if it has that
+// button, else as OK; a box with only Sì and No cannot be closed without a choice. If its parent
+// window is destroyed, the answer is Annulla, No or OK, the first of these that the box has.
 Risposta messaggio(const QString &testo, Icona icona = Icona::Nessuna,
                    Pulsanti pulsanti = Pulsanti::OK, const QString &titolo = {});

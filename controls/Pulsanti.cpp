@@ -14,8 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// With the keys up and down Qt would take the focus to a neighbour: held on, they would then change
-// what that one shows.
+// Keeps the focus on a button: on Up and Down Qt would move it to a neighbour, and a held key would
+// then change the neighbour's value.
 class FrecceFerme : public QObject
 {
 public:
@@ -47,8 +47,8 @@ Pulsante::Pulsante(const QString &nome, QWidget *dentro, const QString &testo)
 void Pulsante::mousePressEvent(QMouseEvent *evento)
 {
     Controllo::mousePressEvent(evento);
-    // A control that lost the focus to this button may have shown a message box, which the release
-    // went to: when it does not come any more, the button must not stay down.
+    // The control that had the focus may have shown a message box now, and the box then got the
+    // release of the mouse. It does not come here any more, and the button must not stay down.
     const auto rilasciato = [] { return !(QGuiApplication::mouseButtons() & Qt::LeftButton); };
     if (evento->button() != Qt::LeftButton || !evento->spontaneous() || !rilasciato())
         return;
@@ -75,13 +75,13 @@ void CasellaSpunta::setValue(int valore)
 
 void CasellaSpunta::setForeColor(const QColor &colore, const QColor &fondo)
 {
-    // The same room with a ground and without: the text stays where it is.
+    // The same padding with and without a ground, so that the text does not move.
     const QString aspetto = u"QCheckBox { padding: 4px 7px; border-radius: 5px; "_s;
     setStyleSheet(aspetto + (fondo.isValid() ? u"background: %1; }"_s.arg(fondo.name()) : u"}"_s));
-    // The style sheet puts the palette back.
+    // After the style sheet, which resets the palette.
     QPalette tavolozza = palette();
     tavolozza.setColor(QPalette::WindowText, colore);
-    // The mark, too: it is drawn on the ground, in a colour that the style darkens by so much.
+    // The colour of the mark; the style darkens it by the same factor.
     tavolozza.setColor(QPalette::Text, colore.lighter(120));
     setPalette(tavolozza);
 }
@@ -98,7 +98,7 @@ CasellaOpzione::CasellaOpzione(const QString &nome, QWidget *dentro, const QStri
 
 void CasellaOpzione::setValue(bool valore)
 {
-    // Qt would not let the chosen box of a group go.
+    // Qt does not clear the chosen box of an exclusive group.
     setAutoExclusive(valore);
     setChecked(valore);
     setAutoExclusive(true);
@@ -107,7 +107,7 @@ void CasellaOpzione::setValue(bool valore)
 void CasellaOpzione::setBackColor(const QColor &colore)
 {
     m_fondo = colore;
-    // The stated colours are light in every theme, so the text on them is dark in every theme.
+    // The grounds used are light, so the text on them is black.
     QPalette tavolozza = palette();
     tavolozza.setColor(QPalette::WindowText, Qt::black);
     setPalette(tavolozza);
@@ -128,9 +128,9 @@ void CasellaOpzione::paintEvent(QPaintEvent *evento)
 
 namespace {
 
-// An arrow of the spin bar. The mouse alone spins: where a key belongs to the window, it must not
-// spin as well, nor take the focus to a neighbour. A handler of its own bar may give the focus to
-// another control while it is held: it goes on all the same, as Qt's would not.
+// An arrow of the spin bar. It takes no keys: a key of the window must neither change the value nor
+// move the focus to a neighbour. A handler of the bar may move the focus while the arrow is held;
+// Qt would release the arrow then, this one goes on repeating.
 class FrecciaSuGiu : public QToolButton
 {
 public:
@@ -198,7 +198,7 @@ bool SuGiu::eventFilter(QObject *, QEvent *evento)
     if (tasto != Tasti::Su && tasto != Tasti::Giu)
         return false;
     m_casella->LostFocus();
-    // The handler may have refused it.
+    // An empty box has no number to change.
     if (!m_casella->Text().isEmpty())
         passo(tasto == Tasti::Su ? +1 : -1);
     return true;

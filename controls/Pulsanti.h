@@ -1,4 +1,4 @@
-// What is pressed or ticked: buttons, check boxes, option boxes, spin bars.
+// Buttons, check boxes, option boxes and spin bars.
 #pragma once
 
 #include "controls/Controllo.h"
@@ -25,7 +25,7 @@ protected:
     void mousePressEvent(QMouseEvent *evento) override;
 };
 
-// Value is 0 or 1.
+// A check box. Value is 0 or 1.
 class CasellaSpunta : public Controllo<QCheckBox>
 {
     Q_OBJECT
@@ -37,17 +37,18 @@ public:
     CasellaSpunta(const QString &nome, QWidget *dentro, const QString &testo);
 
     int Value() const { return isChecked() ? 1 : 0; }
-    // Errore::ProprietaNonValida for another value than 0 and 1.
+    // Throws Errore::ProprietaNonValida if the value is not 0 or 1.
     void setValue(int valore);
     QString Caption() const { return text(); }
     void setCaption(const QString &testo) { setText(testo); }
-    // On the window's own ground where none is given.
+    // Colour of text and mark, and of the ground, which is transparent if none is given.
     void setForeColor(const QColor &colore, const QColor &fondo = {});
 
-    // By the user or by code.
+    // The value has changed, by the user or by code.
     Evento<> Click;
 };
 
+// An option box; of those with the same parent only one is chosen.
 class CasellaOpzione : public Controllo<QRadioButton>
 {
     Q_OBJECT
@@ -63,7 +64,7 @@ public:
     QColor BackColor() const { return m_fondo; }
     void setBackColor(const QColor &colore);
 
-    // When the box becomes the chosen one, by the user or by code.
+    // The box was chosen, by the user or by code.
     Evento<> Click;
 
 protected:
@@ -90,14 +91,14 @@ public:
     int Min() const { return m_minimo; }
     int Max() const { return m_massimo; }
     int Value() const { return m_valore; }
-    // Errore::ProprietaNonValida outside the limits.
+    // Throws Errore::ProprietaNonValida outside Min and Max.
     void setValue(int valore);
 
-    // From now on the keys up and down spin in that box, which then counts as left: its number
-    // comes into the bar first.
+    // From now on the keys Up and Down in this text box change the value by 1. Each of them first
+    // raises the box's LostFocus, whose handler brings the typed number into the bar.
     void conFrecce(CasellaTesto &casella);
 
-    // By the user or by code.
+    // The value has changed, by the user or by code.
     Evento<> Change;
 
 protected:

@@ -23,7 +23,7 @@ protected:
         switch (evento->type()) {
         case QEvent::MouseButtonPress: {
             const quint64 quando = static_cast<QMouseEvent *>(evento)->timestamp();
-            // A press that nobody takes travels up through the parents.
+            // Qt sends a press that a widget ignores to its parents as well: still the same press.
             const bool inViaggio = m_premuto && quando == m_quando && controllo != m_premuto &&
                                    controllo->isAncestorOf(m_premuto);
             if (!inViaggio)
@@ -33,7 +33,7 @@ protected:
             return false;
         }
         case QEvent::Show:
-            // Qt looks after its own lists and menus.
+            // Qt handles popup lists and menus itself.
             if (controllo->window()->windowType() != Qt::Popup)
                 m_aperti.insert(controllo);
             return false;
@@ -60,7 +60,7 @@ private:
         return true;
     }
 
-    // What was shown since the last press; compared only, never looked into.
+    // The widgets shown since the last press. Some may be deleted: pointers are only compared.
     QSet<const QWidget *> m_aperti;
     QPointer<QWidget> m_premuto;
     quint64 m_quando = 0;

@@ -1,8 +1,8 @@
-// The second press of a double click never reaches what the first one has just opened: a message
-// box or a list that came up under the pointer is there to be read first.
+// Drops the second press of a double click if it falls on something that the first press has
+// opened: the user has not yet read the message box or the list that appeared under the pointer.
 #pragma once
 
 class QApplication;
 
-// From now on, in all windows of the program.
+// Installs this for all windows of the program.
 void fermaSecondePressioni(QApplication &app);

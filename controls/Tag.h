@@ -1,11 +1,11 @@
-// The text that a control or a window carries for whoever looks at it from outside.
+// The property Tag of controls and windows: a text that is read and written from outside.
 #pragma once
 
 #include <QString>
 #include <functional>
 
-// By itself it keeps what was written. If it shows the state of an owner, it is read from the
-// owner, and a write goes to the owner, which takes from it what it understands.
+// A Tag is a plain text, or it shows the state that an owner class holds: then it is read from the
+// owner, and a write goes to the owner, which ignores a text that it does not know.
 class TestoTag
 {
 public:
@@ -20,7 +20,7 @@ public:
         else
             m_testo = testo;
     }
-    // Both, or neither: an owner that goes gives the text back.
+    // Connects the Tag to an owner. Two empty functions disconnect it: it is a plain text again.
     void mostra(Lettura lettura, Scrittura scrittura)
     {
         m_lettura = std::move(lettura);

@@ -1,4 +1,4 @@
-// Key codes of the design.
+// Key codes, as KeyDown and KeyUp report them.
 #pragma once
 
 class QKeyEvent;
@@ -18,8 +18,8 @@ inline constexpr int Menu = 93;
 inline constexpr int F5 = 116;
 inline constexpr int F10 = 121;
 
-// Digits and letters are their capital's ASCII code; a key without a code of its own here is 255,
-// so that no real key is 0.
+// The code of a key. Digits and letters have the ASCII code of the digit or capital letter, F1 to
+// F24 have 112 to 135. Any other key without a code is 255, since 0 means a dropped key.
 int codice(const QKeyEvent &evento);
 
 } // namespace Tasti

@@ -1,8 +1,8 @@
-// Enter and Esc act once for each press: the repeats of a held key would go on in whatever its
-// press has just opened or uncovered, and answer a question that nobody has read.
+// Drops the repeats of a held Enter or Esc. They would act in the window that the first press has
+// opened or uncovered, and answer a question that the user has not yet read.
 #pragma once
 
 class QApplication;
 
-// From now on, in all windows, boxes and file dialogs of the program.
+// Installs this for all windows, message boxes and file dialogs of the program.
 void fermaTastiRipetuti(QApplication &app);

@@ -1,4 +1,4 @@
-// The timer of the design.
+// The timer.
 #pragma once
 
 #include "controls/Evento.h"
@@ -7,7 +7,8 @@
 #include <QObject>
 #include <QTimer>
 
-// Ticks every Interval milliseconds while Enabled; never inside its own tick.
+// Raises Timer every Interval milliseconds while it is Enabled, but never during its own tick, even
+// if the handler pumps events.
 class Temporizzatore : public QObject
 {
     Q_OBJECT
@@ -22,11 +23,13 @@ public:
     // Disables every timer of the program.
     static void fermaTutti();
 
-    // 0 to 65535 ms, else Errore::ProprietaNonValida and the old value stays. 0 stops the ticks and
-    // leaves Enabled as it is. Setting it starts the period anew.
+    // 0 to 65535 ms; 0 stops the ticks and leaves Enabled as it is. Setting it, even to the same
+    // value, starts a new period. Another value throws Errore::ProprietaNonValida and changes
+    // nothing.
     int Interval() const { return m_intervallo; }
     void setInterval(int millisecondi);
 
+    // Setting it, even to the same value, starts a new period.
     bool Enabled() const { return m_attivo; }
     void setEnabled(bool attivo);
 
@@ -40,8 +43,8 @@ public:
 
     Evento<> Timer;
 
-    // Keeps the running tick open after its handler has returned: a tick that is suspended and
-    // taken up later. The timer does not tick again while one of these lives.
+    // Keeps a tick open after its handler has returned, for a tick that is suspended and resumed
+    // later. The timer does not tick again while an object of this class exists.
     class ScattoAperto
     {
     public:

@@ -25,7 +25,7 @@ QValidator::State UnaRiga::validate(QString &testo, int &cursore) const
     for (qsizetype i = testo.size() - 1; i >= 0; --i) {
         if (!rottura(testo[i]))
             continue;
-        // CR LF is one break.
+        // CR LF is one line break.
         if (testo[i] == u'\n' && i > 0 && testo[i - 1] == u'\r') {
             testo.remove(i, 1);
             if (cursore > i)

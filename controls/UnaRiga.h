@@ -1,10 +1,10 @@
-// A box of one line holds no line break.
+// Keeps line breaks out of text boxes of one line.
 #pragma once
 
 #include <QValidator>
 
-// Makes a blank of every line break, however it comes: typed, pasted, dropped, composed, by code.
-// Set on a box, it acts before anybody sees the text.
+// Replaces each line break by a blank, whether it was typed, pasted, dropped, composed by an input
+// method or set by code. As the validator of a box it acts before the text is shown or read.
 class UnaRiga : public QValidator
 {
     Q_OBJECT

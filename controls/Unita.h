@@ -1,4 +1,4 @@
-// Layout units: 1/1440 inch, 15 to a logical pixel.
+// Layout units: 1/1440 inch, so that a logical pixel of 1/96 inch is 15 units.
 #pragma once
 
 #include <cmath>
@@ -7,10 +7,12 @@ namespace Unita {
 
 inline constexpr int perPixel = 15;
 
+// Layout units to logical pixels, rounded to the nearest.
 inline int pixel(double unita)
 {
     return static_cast<int>(std::lround(unita / perPixel));
 }
+// Logical pixels to layout units.
 inline double unita(double pixel)
 {
     return pixel * perPixel;

@@ -8,7 +8,7 @@ VoceMenu::VoceMenu(const QString &nome, QMenu *dentro, const QString &testo)
     setObjectName(nome);
     dentro->addAction(this);
     connect(this, &QAction::triggered, this, [this] {
-        // Qt has taken the mark off by itself.
+        // Qt has toggled the check mark: put it back.
         setChecked(m_spuntata);
         Click();
     });
@@ -17,7 +17,7 @@ VoceMenu::VoceMenu(const QString &nome, QMenu *dentro, const QString &testo)
 void VoceMenu::setChecked(bool spuntata)
 {
     m_spuntata = spuntata;
-    // An entry without a mark shows no empty box for one either.
+    // Not checkable without a mark: the menu would show an empty box.
     setCheckable(spuntata);
     QAction::setChecked(spuntata);
 }

@@ -1,4 +1,4 @@
-// Menus: a bar, its menus, their entries. Each entry is a QAction under its name.
+// Menus: the bar, its menus and their entries. Each entry is a QAction that is found by its name.
 #pragma once
 
 #include "controls/Evento.h"
@@ -7,7 +7,7 @@
 #include <QAction>
 #include <QMenuBar>
 
-// An entry that raises Click. Its check mark changes by code only, not by the user's choosing it.
+// A menu entry. Choosing it raises Click and does not change its check mark; only code does.
 class VoceMenu : public QAction
 {
     Q_OBJECT
@@ -39,7 +39,7 @@ private:
     bool m_spuntata = false;
 };
 
-// At the top of a window, inside it on every system.
+// The menu bar, inside its window on every system.
 class BarraMenu : public QMenuBar
 {
     Q_OBJECT
@@ -47,7 +47,7 @@ class BarraMenu : public QMenuBar
 public:
     explicit BarraMenu(QWidget *finestra);
 
-    // A menu is named by the QAction that opens it.
+    // Adds a menu to the bar, or a submenu to a menu. The name goes to the QAction that opens it.
     QMenu *aggiungi(const QString &nome, const QString &testo);
     static QMenu *aggiungi(QMenu *dentro, const QString &nome, const QString &testo);
     static void aggiungiSeparatore(QMenu *dentro, const QString &nome);

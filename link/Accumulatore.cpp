@@ -19,8 +19,8 @@ void Accumulatore::aggiungi(const QByteArray &byte)
 void Accumulatore::taglia(qsizetype quanti)
 {
     m_tagliati += qMin(quanti, lunghezza());
-    // What was cut is given back once it outweighs what is left, so that each byte moves at most
-    // once on average.
+    // The bytes cut off are removed only when they are at least as many as those left, so that on
+    // average each byte is moved at most once.
     if (m_tagliati >= m_byte.size() - m_tagliati) {
         m_byte.remove(0, m_tagliati);
         m_tagliati = 0;

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// One piece of a command: what one write carries.
+// One piece of a command: the bytes of one write.
 QByteArray pezzo(std::initializer_list<int> byte)
 {
     QByteArray scritti;
@@ -19,7 +19,7 @@ QByteArray pezzo(std::initializer_list<int> byte)
     return scritti;
 }
 
-// The pieces go out one by one; the first that fails ends the command. True when all went out.
+// Sends the pieces one by one and stops at the first that fails. True if all were sent.
 bool manda(ControlloSeriale &COM, std::initializer_list<QByteArray> pezzi)
 {
     try {
@@ -32,7 +32,7 @@ bool manda(ControlloSeriale &COM, std::initializer_list<QByteArray> pezzi)
     }
 }
 
-// Three writes of one byte each, as most commands of the actuators go out.
+// Three pieces of one byte each: the form of most commands that move something.
 bool manda3(ControlloSeriale &COM, int primo, int secondo, int terzo)
 {
     return manda(COM, {pezzo({primo}), pezzo({secondo}), pezzo({terzo})});
@@ -49,7 +49,7 @@ struct NomeLed
     quint8 maschera;
 };
 
-// In the order in which all of them are switched.
+// In the order in which LedTestaTutti switches them.
 constexpr std::array<NomeLed, 8> ledTesta = {{{"Vs"_L1, 8},
                                               {"Vd"_L1, 128},
                                               {"Rs"_L1, 4},
@@ -142,7 +142,7 @@ void LedTesta(ControlloSeriale &COM, bool acceso, const QString &nome)
 
 void LedTestaTutti(ControlloSeriale &COM, bool acceso)
 {
-    // One command: its first failing piece ends it.
+    // Stops at the first failure, so that a closed port is reported once and not eight times.
     for (const NomeLed &uno : ledTesta) {
         if (!led(COM, acceso, uno.nome))
             return;

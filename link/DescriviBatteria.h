@@ -1,10 +1,10 @@
-// A battery byte as a level.
+// The charge of a battery as a level and as a word.
 #pragma once
 
 #include <QString>
 
-// 0 (0 to 50), 1 (to 100), 2 (to 150), 3 (to 200), 4 (to 255).
+// The level of a battery byte: 0 up to 50, 1 up to 100, 2 up to 150, 3 up to 200, 4 up to 255.
 int LivelloBatteria(quint8 b);
 
-// The word for the level, in brackets: "(Scarichissima)" to "(Carichissima)".
+// The word for the level of a battery byte, "(Scarichissima)" to "(Carichissima)", with brackets.
 QString DescriviBatteria(quint8 b);

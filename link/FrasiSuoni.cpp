@@ -174,7 +174,7 @@ constexpr std::array<NomiSuono, FrasiSuoni::ultimoSuono> nomiSuoni = {{
     {u"", u"Bip singolo"},
 }};
 
-// From 1; nullptr for a number that is not there.
+// An entry, counted from 1; nullptr if there is none with this number.
 template <class Tabella>
 const typename Tabella::value_type *riga(const Tabella &tabella, int numero)
 {

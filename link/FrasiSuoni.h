@@ -1,4 +1,4 @@
-// The one vocabulary of what the robot can say and play, by number.
+// The phrases and sounds of the robot, by number from 1.
 #pragma once
 
 #include <QString>
@@ -9,19 +9,20 @@ namespace FrasiSuoni {
 inline constexpr int ultimaFrase = 140;
 inline constexpr int ultimoSuono = 16;
 
-// What is added to the number of a phrase or of a sound for the robot, which has one numbering for
-// both.
+// The robot numbers phrases and sounds together: these are added to the number of a phrase (67 to
+// 206 on the wire) or of a sound (207 to 222).
 inline constexpr int primaDelleFrasi = 66;
 inline constexpr int primaDeiSuoni = 206;
 
-// Empty for a number that is not in the table.
+// The text of a phrase. This function and the next two return an empty text for a number that does
+// not exist.
 QString frase(int numero);
-// As the console names sounds: the last two have no name there.
+// The name of a sound in the console, where the last two have none.
 QString suonoConsole(int numero);
-// As the value dialog names them: all of them have one.
+// The name of a sound in the value dialog, where all have one.
 QString suonoDialogo(int numero);
 
-// In their order, number 1 first.
+// All of them, number 1 first.
 QStringList frasi();
 QStringList suoniDialogo();
 

@@ -1,9 +1,9 @@
 #include "link/MotoreRicezione.h"
 
-#include "shell/Abilita_Disabilita.h"
-#include "link/DescriviBatteria.h"
-#include "shell/Gest_Variabili.h"
 #include "base/Pompa.h"
+#include "link/DescriviBatteria.h"
+#include "shell/Abilita_Disabilita.h"
+#include "shell/Gest_Variabili.h"
 
 #include <QTimer>
 
@@ -21,8 +21,8 @@ enum Tipo : quint8 {
     BloccoElenco = 47,
 };
 
-constexpr qsizetype lunghezzaRiga = 161;
-constexpr quint8 temperaturaMassima = 50;
+constexpr qsizetype lunghezzaRiga = 161;  // the type and 80 pixels of 2 bytes
+constexpr quint8 temperaturaMassima = 50; // degrees; more is taken for a false reading
 
 } // namespace
 
@@ -105,8 +105,8 @@ Scatto MotoreRicezione::tmrElabInput_Timer()
             const qsizetype n = basso + 256 * alto;
             if (m_file)
                 m_file->bloccoInArrivo();
-            // One byte beyond the body is awaited. The line may have more of it than one reading
-            // takes.
+            // n + 5 bytes are consumed, but the block is taken only when n + 6 are there. One
+            // reading takes 1024 bytes at most, so the port is read until it gives no more.
             for (qsizetype prima = -1;
                  m_accumulatore.lunghezza() - 5 <= n && m_accumulatore.lunghezza() != prima;) {
                 prima = m_accumulatore.lunghezza();
@@ -122,7 +122,7 @@ Scatto MotoreRicezione::tmrElabInput_Timer()
         case BloccoElenco: {
             const quint8 k = co_await byte(2);
             const qsizetype n = co_await byte(4);
-            // One byte looser than what is consumed.
+            // n + 5 bytes are consumed, but n + 4 are enough: the last one is not used.
             if (m_accumulatore.lunghezza() - 4 < n)
                 co_return;
             if (m_file && m_file->visibile()) {
@@ -213,7 +213,7 @@ void MotoreRicezione::riprendi()
 
 void MotoreRicezione::riprendiPresto()
 {
-    // Not from inside the statement that made the accumulator grow.
+    // From the event loop, not inside the call that has added the bytes.
     if (!m_sospeso || m_ripresaChiesta)
         return;
     m_ripresaChiesta = true;

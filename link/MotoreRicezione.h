@@ -1,13 +1,14 @@
-// The receive engine: cuts what the robot sends into telegrams and shows what they tell.
+// The receive engine: cuts the robot's bytes into telegrams (docs/protocol.md), shows telemetry in
+// the console's controls and hands the other telegrams over.
 #pragma once
 
+#include "controls/Barre.h"
 #include "link/Accumulatore.h"
 #include "link/Ascoltatori.h"
-#include "controls/Barre.h"
-#include "serial/ControlloSeriale.h"
 #include "link/Scatto.h"
+#include "serial/ControlloSeriale.h"
 
-// The console's controls that telegrams change.
+// The console's controls that telemetry changes.
 struct ControlliTelemetria
 {
     BarraDiStato &BarraStato;
@@ -26,10 +27,10 @@ class MotoreRicezione : public QObject
     Q_OBJECT
 
 public:
-    // A bar of a full battery, in layout units.
+    // Width of the level bar of a full battery, in layout units: 615 / 15 = 41 logical pixels.
     static constexpr qint32 barraPiena = 615;
 
-    // The listeners come later; without one its telegrams are consumed as with its window closed.
+    // Listeners are set later. The telegrams of a listener that is missing are consumed.
     MotoreRicezione(ControlloSeriale &COM, TemporizzatoreIngresso &tmrElabInput,
                     const ControlliTelemetria &controlli);
     ~MotoreRicezione() override;
@@ -38,11 +39,12 @@ public:
     void ascoltaFile(AscoltatoreFile *ascoltatore) { m_file = ascoltatore; }
     void ascoltaTelemetria(AscoltatoreTelemetria *ascoltatore) { m_telemetria = ascoltatore; }
 
-    // Appends all that the port gives to the accumulator; passes over errors.
+    // Appends the bytes of the port to the accumulator; ignores errors.
     void LeggiIngresso();
 
-    // While one lives, a tick that lacks a byte neither looks for it nor is taken up: somebody
-    // beneath counts what the port holds, and the bytes are his to see first.
+    // While an object of this class exists, a tick that needs another byte neither reads the port
+    // nor is resumed. Routines use it that wait and count the bytes of the port, so that they see
+    // the bytes first.
     class Fermo
     {
     public:
@@ -55,7 +57,8 @@ public:
     };
 
 private:
-    // The failed reading of a byte beyond the accumulator's end: waits until it is there.
+    // co_await byte(n) gives byte n of the accumulator. If the byte has not arrived, the tick is
+    // suspended until it has.
     struct Byte
     {
         MotoreRicezione &motore;
@@ -66,15 +69,18 @@ private:
     };
     Byte byte(qsizetype posto) { return {*this, posto}; }
 
-    // Cuts off and handles telegrams until nothing is left, or the first is not complete.
+    // Handles and cuts off telegrams until none is left or the first one is not complete.
     Scatto tmrElabInput_Timer();
     void videoRiga();
     void temperatura(quint8 t);
     void batterie(quint8 l, quint8 m);
     void riferisciUltrasuoni();
 
+    // Resumes the suspended tick if its byte has arrived.
     void riprendi();
+    // Calls riprendi from the event loop.
     void riprendiPresto();
+    // The port reports new bytes only while a tick waits for them.
     void aggiornaAvviso();
     void riferisci(const QString &testo);
 

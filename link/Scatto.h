@@ -1,10 +1,10 @@
-// A timer tick that can be suspended in the middle and taken up again there.
+// A timer tick as a coroutine: it can be suspended in the middle and resumed there.
 #pragma once
 
 #include <coroutine>
 #include <exception>
 
-// Runs at once up to its first suspension; the frame goes when the tick ends.
+// Starts at once. The coroutine's frame is freed when the tick ends.
 struct Scatto
 {
     struct promise_type
@@ -13,7 +13,7 @@ struct Scatto
         std::suspend_never initial_suspend() noexcept { return {}; }
         std::suspend_never final_suspend() noexcept { return {}; }
         void return_void() {}
-        // The way out of every handler, back to who started or resumed the tick.
+        // An error goes to the caller that has started or resumed the tick, as in any handler.
         void unhandled_exception() { std::rethrow_exception(std::current_exception()); }
     };
 };

@@ -1,13 +1,13 @@
 #include "link/Sessione.h"
 
-#include "shell/Abilita_Disabilita.h"
 #include "base/Archivio.h"
 #include "base/Codifica.h"
-#include "controls/Comandi.h"
-#include "shell/Gest_File.h"
-#include "controls/Messaggi.h"
 #include "base/Numeri.h"
 #include "base/Pompa.h"
+#include "controls/Comandi.h"
+#include "controls/Messaggi.h"
+#include "shell/Abilita_Disabilita.h"
+#include "shell/Gest_File.h"
 #include "shell/VisErrori.h"
 
 #include <utility>
@@ -18,10 +18,12 @@ namespace {
 
 enum ImmaginePulsante { Connetti = 1, Disconnetti = 6 };
 
-// Rounds of the keep-alive before the search is shown, and before it is given up.
+// Rounds of the pump in the keep-alive: after 5000 (0.2 s) "Ricerca..." is shown, after 100000
+// (about 4 s) it stops waiting.
 constexpr int giriRicerca = 5000;
 constexpr int giriMassimi = 100000;
 
+// Milliseconds of tmrChiusuraAutomatica: its first period, and all others.
 constexpr int intervalloIniziale = 1000;
 constexpr int intervalloSeguente = 5000;
 
@@ -113,7 +115,7 @@ bool Sessione::Collega()
         return collegato();
     if (m_stato != Stato::Scollegata)
         Scollega();
-    // The windows that were unloaded may have let somebody else begin.
+    // Unloading windows may have run a handler that has begun an attempt.
     if (!passa(Stato::InTentativo))
         return collegato();
     const MotoreRicezione::Fermo fermo(m_motore);
@@ -153,8 +155,8 @@ bool Sessione::aspettaRobot()
             messaggio(u"Collegamento non riuscito!"_s);
         if (Numeri::Logico(m_splash.pulNonCollegare.Tag()) || scaduta)
             return false;
-        // Where the count cannot be read, as the port is not open, the wait ends as if the bytes
-        // had come: the keep-alive undoes it.
+        // If the port is not open, reading the count fails, and the wait ends as if the bytes had
+        // come. The keep-alive ends this connection.
         if (provaPassata([&] { return COM.InBufferCount() >= 2; }))
             return true;
     }
@@ -172,8 +174,8 @@ void Sessione::connesso()
     ImpostaAbilitati(true, c.tmrControllaConn, c.tmrElabInput, c.tmrSensori);
     sonda(Sondaggio::StatoA);
     sonda(Sondaggio::StatoB);
-    // If there is no port, the first of the two opens its box, and the keep-alive may have ended it
-    // all before the user closed it.
+    // If the port is closed, the first request shows a message box, and the keep-alive may have
+    // ended the connection before the user closes the box.
     if (!dura(turno))
         return;
     m_motore.LeggiIngresso();
@@ -221,8 +223,8 @@ void Sessione::ApriPortaSalvata()
             if (!COM.PortOpen())
                 COM.setPortOpen(true);
         } catch (const Errore &apertura) {
-            // Any other failure ends the attempt unseen; but it is at the first start of all that
-            // a user without rights has to be told what to do.
+            // Other errors are not shown here. This one is: it occurs at the very first start, and
+            // its text says how to get access to the port.
             if (apertura.numero() == Errore::AccessoNegato)
                 mostraErroreDiCollegamento(apertura);
             throw;
@@ -245,7 +247,7 @@ void Sessione::Scollega()
     passaErrori([&] { m_finestre.scaricaEsploraFile(); });
     if (m_finestre.vigilioAvviato())
         passaErrori([&] { m_finestre.stoppaVigilio(); });
-    // What waited in there may have ended this connection, and begun another one.
+    // Handlers that ran meanwhile may have ended this connection and begun another one.
     if (turno != m_turno)
         return;
     ImpostaAbilitati(false, c.tmrControllaConn, c.tmrElabInput, c.tmrSensori);
@@ -274,11 +276,10 @@ void Sessione::MostraInvio(const QString &testo, const Abbandono &abbandono)
     BarraDiCaricamento &barra = c.BarraCaricamento;
     barra.setValore(1);
     while (true) {
-        // A wait inside this one may have left the bar at its end.
+        // Fails if a wait inside this one has left the bar at its Max.
         passaErrori([&] { barra.setValore(barra.Value() + 1); });
         pompa();
-        // The user may have disconnected meanwhile, and connected anew: what the robot does is no
-        // longer asked.
+        // If the user has disconnected meanwhile, or connected again, the wait is over.
         if (!COM.PortOpen() || turno != m_turno || (abbandono && abbandono())) {
             barra.setValore(1);
             return;
@@ -327,8 +328,7 @@ void Sessione::tmrControllaConn_Timer()
     QByteArray risposta;
     for (int giri = 1; risposta.isEmpty() && giri <= giriMassimi; ++giri) {
         pompa();
-        // The user may have disconnected meanwhile, and connected anew: there is nothing left to
-        // search for.
+        // If the user has disconnected meanwhile, or connected again, this search is over.
         if (!dura(turno)) {
             c.BarraCaricamento.setValore(1);
             return;
@@ -355,7 +355,7 @@ void Sessione::tmrControllaConn_Timer()
     } else {
         c.BarraStato.setPanels(3, u"Robot non trovato, chiusura della connessione in corso..."_s);
         pompa();
-        // Where the user was quicker, the button would connect again.
+        // If the user has disconnected meanwhile, this click would connect again.
         if (dura(turno))
             passaErrori([&] { m_finestre.BarraPulsanti_ButtonClick(c.BarraPulsanti.Buttons(1)); });
         m_mancato = false;

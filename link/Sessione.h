@@ -1,5 +1,4 @@
-// The life of a connection: opening the port, waiting for the robot, keeping the line alive,
-// ending.
+// The connection: opening the port, waiting for the robot, keeping the line alive, disconnecting.
 #pragma once
 
 #include "controls/Barre.h"
@@ -20,12 +19,12 @@ struct ControlliSessione
     TemporizzatoreIngresso &tmrElabInput;
 };
 
-// What the session needs of the windows above it.
+// What the session needs from the windows of higher folders.
 class FinestreSessione
 {
 public:
     virtual ~FinestreSessione() = default;
-    // Unloads the windows that live from the connection, where they are visible.
+    // These two unload a window that needs the connection, if it is visible.
     virtual void scaricaCamera() = 0;
     virtual void scaricaEsploraFile() = 0;
     virtual bool vigilioAvviato() const = 0;
@@ -37,13 +36,12 @@ public:
 class Sessione : public EsitoVideo
 {
 public:
-    // Where the connection stands.
     enum class Stato {
         Scollegata,
-        // An attempt is under way, from its first step until it has succeeded or failed.
+        // A connection attempt is running.
         InTentativo,
         Collegata,
-        // Connected, but the robot has been silent for a while.
+        // Connected, but the robot has sent nothing for a while.
         InRicerca,
     };
 
@@ -55,44 +53,48 @@ public:
     Q_DISABLE_COPY_MOVE(Sessione)
 
     Stato stato() const { return m_stato; }
-    // A connection stands and its port is open. An attempt on a port that could not be opened is
-    // carried on as a success, but it has connected nothing.
+    // True if connected and the port is open. An attempt whose port could not be opened ends as
+    // Collegata as well, until the keep-alive notices it; it does not count here.
     bool collegato() const
     {
         return (m_stato == Stato::Collegata || m_stato == Stato::InRicerca) && COM.PortOpen();
     }
     bool staTentando() const { return m_stato == Stato::InTentativo; }
 
-    // The whole connection attempt; returns when it has succeeded or failed, timers and clicks
-    // being served meanwhile. Passes over errors, statement by statement. True if the robot is
-    // connected now. There is one attempt at a time: whoever asks during it is refused. Over a
-    // connection that stands nothing happens; one without a port is ended before the attempt.
+    // Makes a connection attempt and returns collegato() after it has succeeded or failed; timers
+    // and clicks are handled meanwhile. Ignores errors, statement by statement. Does nothing during
+    // another attempt or if connected; a connection without a port is ended first.
     bool Collega();
-    // The orderly disconnection; refused during an attempt. Passes over errors.
+    // Disconnects; does nothing during an attempt. Ignores errors.
     void Scollega();
-    // Waits, up to 100000 rounds of the pump, until the robot reacts to the command just sent, and
-    // shows the text in panel 3, or "Nessuna risposta."; nothing where the port is closed.
+    // Waits until the number of bytes at the port changes, which means that the robot has reacted
+    // to the last command, and shows the text in panel 3. After as many rounds of the pump as
+    // BarraCaricamento counts (100000, about 4 s), shows "Nessuna risposta.". Does nothing if the
+    // port is closed.
     void MostraInvio(const QString &testo, const Abbandono &abbandono = {}) override;
     void mostraMessaggio(const QString &testo) override;
 
 private:
-    // A connection, from the start of its attempt to its end.
+    // The number of a connection, counted from the start of its attempt.
     using Turno = int;
     enum class Sondaggio { Sensori, StatoA, StatoB };
 
-    // The one place where the state changes. False, and nothing changes, if that step makes no
-    // sense in the present state.
+    // The only place where the state changes. Returns false and changes nothing if the step is not
+    // allowed in the present state.
     bool passa(Stato nuovo);
-    // Whether that connection still stands. A handler that waits may come back to none, or to
-    // another one.
+    // True if this connection still exists. While a handler waits, it may end, and another one may
+    // begin.
     bool dura(Turno turno) const;
-    // Sends a poll. The first poll on a closed port reports it, for the whole attempt.
+    // Sends a request. A closed port is reported to the user once for each connection.
     void sonda(Sondaggio quale);
 
-    // Sets the port from the file "Porta COM" and opens it where it is closed. A missing file asks
-    // the user; any other failure is shown to him.
+    // Sets the number of the port from the file "Porta COM" (docs/formats.md) and opens the port if
+    // it is closed. If the file is missing, asks the user for the number; shows any other error.
     void ApriPortaSalvata();
+    // Asks the user for the number of the port and writes the file.
     void ChiediPorta();
+    // True when the robot has sent two bytes, or if the port is closed; false if the time is over
+    // or the user gives up.
     bool aspettaRobot();
     void connesso();
     void nonRiuscito();

@@ -1,4 +1,4 @@
-// Asks for the number of the serial port.
+// The dialog that asks for the number of the serial port.
 #pragma once
 
 #include "controls/Finestra.h"

@@ -58,7 +58,7 @@ void ControlloSeriale::avvisa(bool attivo)
 
 void ControlloSeriale::guarda()
 {
-    // One reading may give less than there is.
+    // One read may return fewer bytes than have arrived.
     while (m_tenuti.size() < InBufferSize) {
         const QByteArray letti = m_porta->leggi(InBufferSize - m_tenuti.size());
         if (letti.isEmpty())

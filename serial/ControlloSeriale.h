@@ -1,4 +1,4 @@
-// The serial control of the design, over a line that is handed in.
+// The serial control: a port with a number, over a line that is a constructor argument.
 #pragma once
 
 #include "controls/Evento.h"
@@ -15,35 +15,39 @@ class ControlloSeriale : public QObject
     Q_PROPERTY(int InBufferCount READ conteggio)
 
 public:
-    // How many bytes are held at most; the rest waits in the operating system.
+    // The control holds at most this number of bytes; more stay in the operating system.
     static constexpr qsizetype InBufferSize = 1024;
 
+    // cartella: the program's folder, see percorsoPorta.
     ControlloSeriale(const QString &nome, QObject *finestra, std::unique_ptr<Porta> porta,
                      const QString &cartella);
 
     int CommPort() const { return m_numero; }
-    // Comes into use at the next opening; a number below 1 is Errore::PortaInesistente.
+    // Used at the next opening. Throws Errore::PortaInesistente if the number is below 1.
     void setCommPort(int numero);
     bool PortOpen() const { return m_porta->aperta(); }
-    // Opening fails with Errore::PortaInesistente, PortaInUso or AccessoNegato.
+    // Opening drops the bytes held and throws Errore::PortaInesistente, PortaInUso or
+    // AccessoNegato. Does nothing if the port is in that state already.
     void setPortOpen(bool aperta);
 
-    // One write, with the operating system when this returns. Errore::PORT_NOT_OPEN where the port
-    // is closed, Errore::LineaPersa where the line does not take the bytes.
+    // Hands the bytes to the operating system in one write before it returns. Throws
+    // Errore::PORT_NOT_OPEN if the port is closed, LineaPersa if the line does not take the bytes.
     void Output(QByteArrayView byte);
-    // All that is held, after a look at the port; empty where nothing came or the far end went
-    // away. Errore::PORT_NOT_OPEN where the port is closed.
+    // Reads the port and takes all bytes held; empty if none has come or the far end is gone.
+    // Throws Errore::PORT_NOT_OPEN if the port is closed.
     QByteArray Input();
-    // How many bytes are held, after a look at the port. Errore::PORT_NOT_OPEN where it is closed.
+    // Reads the port and returns the number of bytes held. Throws Errore::PORT_NOT_OPEN if the port
+    // is closed.
     int InBufferCount();
-    // The same for who only looks: 0 where the port is closed.
+    // The same for the property: 0 if the port is closed.
     int conteggio() { return PortOpen() ? InBufferCount() : 0; }
 
-    // While on, Arrivo is raised from the event loop when the port has bytes.
+    // While it is on, the event loop raises Arrivo when the port has bytes.
     void avvisa(bool attivo);
     Evento<> Arrivo;
 
 private:
+    // Reads from the port until it has no more bytes or InBufferSize bytes are held.
     void guarda();
 
     std::unique_ptr<Porta> m_porta;

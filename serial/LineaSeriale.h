@@ -1,10 +1,10 @@
-// What the serial lines of all systems have in common.
+// What the serial lines of Linux and Windows have in common.
 #pragma once
 
 #include <asio/serial_port.hpp>
 
-// 9600 baud, 8 data bits, no parity, 1 stop bit, no handshake. The first option that the line does
-// not take is the error.
+// Sets 9600 baud, 8 data bits, no parity, 1 stop bit, no handshake. Returns the error of the first
+// option that the line refuses.
 inline asio::error_code impostaParametri(asio::serial_port &porta)
 {
     using opzione = asio::serial_port_base;

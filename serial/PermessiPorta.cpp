@@ -18,7 +18,7 @@ bool contiene(const std::vector<gid_t> &gruppi, gid_t gruppo)
     return std::find(gruppi.begin(), gruppi.end(), gruppo) != gruppi.end();
 }
 
-// The groups that this process acts with, fixed when the user's session began.
+// The groups of this process. They were fixed when the user's session began.
 std::vector<gid_t> gruppiDelProcesso()
 {
     const int quanti = ::getgroups(0, nullptr);
@@ -28,7 +28,7 @@ std::vector<gid_t> gruppiDelProcesso()
     return gruppi;
 }
 
-// The groups that the system's files give the user now.
+// The groups of the user in the system's files now.
 std::vector<gid_t> gruppiDellUtente(const passwd &utente)
 {
     int quanti = 0;
@@ -54,7 +54,8 @@ PermessiPorta permessiPorta(const QString &percorso)
     struct stat stato = {};
     if (::stat(QFile::encodeName(percorso).constData(), &stato) != 0)
         return permessi;
-    // Nobody is told to join the administrator's group, nor one that he acts with in vain.
+    // No advice to join a group that may not read and write, the group root, or a group that the
+    // process has already and that did not help.
     constexpr mode_t leggeEScrive = S_IRGRP | S_IWGRP;
     if ((stato.st_mode & leggeEScrive) != leggeEScrive || stato.st_gid == 0 ||
         contiene(gruppiDelProcesso(), stato.st_gid))
@@ -69,7 +70,7 @@ PermessiPorta permessiPorta(const QString &percorso)
 QString spiegaPermessi(const PermessiPorta &permessi)
 {
     const auto [dispositivo, utente, gruppo, daRientrare] = permessi;
-    // Last, as the error's number comes behind it.
+    // At the end of the text, because the error's number is shown after it.
     const QString errore = u"\n\nAccesso alla porta negato"_s;
     if (gruppo.isEmpty())
         return u"La porta seriale %1 non è permessa al tuo utente \"%2\".\n\n"

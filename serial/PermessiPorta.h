@@ -1,22 +1,22 @@
-// Why the system refuses a serial line to a user, and what he can do about it.
+// Explains why the system denies the user a serial line, and what to do about it.
 #pragma once
 
 #include <QString>
 
-// What the system says about a line and about who asks for it.
+// What the system says about a line and about the user of the program.
 struct PermessiPorta
 {
-    // The device itself, where the name that was opened is a link to it.
+    // The device: the target, if the name that was opened is a link.
     QString dispositivo;
     QString utente;
-    // The group whose members may read and write; empty where joining one would not help.
+    // The group whose members may read and write; empty if joining it would not help.
     QString gruppo;
-    // The user is in the group already, but his session began before that.
+    // The user is in the group already, but was added after this session began.
     bool daRientrare = false;
 };
 
-// Asks the system about a line that it has just refused to this user.
+// Asks the system about a line that it has just denied to this user. Throws nothing.
 PermessiPorta permessiPorta(const QString &percorso);
 
-// The text for the user: what is refused, the group that he has to join, how, and what to do then.
+// The text for the user: what is denied, which group to join, how, and what to do afterwards.
 QString spiegaPermessi(const PermessiPorta &permessi);

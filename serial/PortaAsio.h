@@ -1,4 +1,4 @@
-// The real serial line.
+// The real serial line, over Asio.
 #pragma once
 
 #include "serial/Porta.h"

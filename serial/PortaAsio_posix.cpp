@@ -38,7 +38,7 @@ struct PortaAsio::Linea
         return ::poll(&attesa, 1, 0) > 0 && (attesa.revents & (POLLHUP | POLLERR)) != 0;
     }
     void aggiornaAvvisatore() { avvisatore->setEnabled(sorvegliata && !presenza.persa()); }
-    // Asio opens the line so that no write waits.
+    // Never waits: Asio opens the line in non-blocking mode.
     Presenza::Scrittura scrivi(QByteArrayView byte)
     {
         while (!byte.isEmpty()) {
@@ -75,9 +75,10 @@ static Errore erroreDiApertura(const asio::error_code &errore, const QString &pe
     }
 }
 
-// The lock keeps out every program that asks for it, also where the user may open a line in spite
-// of the flag; the flag keeps out those that do not ask. It is not set on a pseudo-terminal: there
-// it outlives the process, and after an abnormal end nobody could open the line again.
+// Reserves the line for this program; false if another one has it. The lock keeps out programs that
+// ask for it, also those of root, on which the exclusive flag has no effect. The flag keeps out
+// programs that do not ask. It is not set on a pseudo-terminal, where it would outlive the process:
+// after a crash the line could not be opened again.
 static bool riserva(int linea)
 {
     int giaRiservata = 0;
@@ -100,7 +101,7 @@ void PortaAsio::apri(const QString &percorso)
     porta.open(QFile::encodeName(percorso).toStdString(), errore);
     if (errore)
         throw erroreDiApertura(errore, percorso);
-    // A program that we start must not keep the line.
+    // Programs that this one starts must not inherit the line.
     ::fcntl(porta.native_handle(), F_SETFD, FD_CLOEXEC);
     if (!riserva(porta.native_handle())) {
         porta.close(errore);
@@ -111,7 +112,7 @@ void PortaAsio::apri(const QString &percorso)
         chiudi();
         throw Errore(Errore::PortaInesistente);
     }
-    // A pseudo-terminal has no control lines: that is no error.
+    // Fails on a pseudo-terminal, which has no control lines: no error.
     int linee = TIOCM_DTR | TIOCM_RTS;
     ::ioctl(porta.native_handle(), TIOCMBIS, &linee);
 
@@ -120,7 +121,7 @@ void PortaAsio::apri(const QString &percorso)
         std::make_unique<QSocketNotifier>(porta.native_handle(), QSocketNotifier::Read);
     QObject::connect(m_linea->avvisatore.get(), &QSocketNotifier::activated,
                      m_linea->avvisatore.get(), [this] {
-                         // A line whose far end went away is ready to be read for ever.
+                         // Without a far end the line always counts as readable.
                          if (m_linea->staccata())
                              m_linea->presenza.perdi();
                          else if (arrivo)
@@ -134,7 +135,7 @@ void PortaAsio::chiudi()
     if (!aperta())
         return;
     if (m_linea->avvisatore) {
-        // The notifier may be the one whose call we are in.
+        // Deleted later, because this may run inside a call from the notifier.
         m_linea->avvisatore->setEnabled(false);
         m_linea->avvisatore.release()->deleteLater();
     }

@@ -1,6 +1,6 @@
-// The serial line of Windows. One read of one byte is always waiting in the system: its end says
-// that bytes are there. The rest is then read by its count, so that no reading waits. Windows'
-// time limits for readings, which could do the same, are not alike on all drivers.
+// The serial line of Windows. A read of one byte is always pending in the system; when it ends,
+// bytes have arrived. The system reports how many there are, and exactly these are read, so that no
+// read waits. The read time-outs of Windows could do the same, but drivers treat them differently.
 #include "serial/PortaAsio.h"
 
 #include "base/Errore.h"
@@ -15,12 +15,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What the driver may take for a write before the line counts as lost, in ms, and more for each
-// byte: at 9600 baud it needs about one.
+// Time limit for a write, in ms, and what is added for each byte; after it the line counts as lost.
+// At 9600 baud a byte takes about 1 ms.
 constexpr DWORD attesaScrittura = 500;
 constexpr DWORD attesaPerByte = 2;
 
-// One operation that the system works on while the program goes on.
+// One overlapped operation: the system works on it while the program goes on.
 class Operazione
 {
 public:
@@ -32,18 +32,18 @@ public:
     OVERLAPPED *nuova()
     {
         m_stato = {};
-        // The mark keeps the end out of Asio's own queue, which nobody empties.
+        // The lowest bit keeps the result out of Asio's completion queue, which is never read.
         m_stato.hEvent = reinterpret_cast<HANDLE>(reinterpret_cast<quintptr>(m_evento) | 1U);
         return &m_stato;
     }
     bool finita() const { return HasOverlappedIoCompleted(&m_stato); }
-    // Waits for the end. How many bytes went through; less than 0 where it failed.
+    // Waits for the end. Returns the number of bytes, or -1 if the operation failed.
     qint64 esito(HANDLE linea)
     {
         DWORD quanti = 0;
         return ::GetOverlappedResult(linea, &m_stato, &quanti, TRUE) ? qint64{quanti} : -1;
     }
-    // The system lets go of the memory that it was given.
+    // Cancels the operation and waits until the system no longer uses its memory.
     void annulla(HANDLE linea)
     {
         ::CancelIoEx(linea, &m_stato);
@@ -55,6 +55,7 @@ private:
     OVERLAPPED m_stato{};
 };
 
+// True if an operation has ended at once or is pending; subito: the result of the system's call.
 bool avviata(BOOL subito)
 {
     return subito || ::GetLastError() == ERROR_IO_PENDING;
@@ -77,8 +78,7 @@ struct PortaAsio::Linea
         presenza.perduta = [this] { aggiornaAvvisatore(); };
     }
     void aggiornaAvvisatore() { avvisatore->setEnabled(sorvegliata && !presenza.persa()); }
-    // Waits until the system has sent the bytes: it drops what it has not sent when the program
-    // ends.
+    // Waits until the system has sent the bytes: unsent ones are lost when the program ends.
     Presenza::Scrittura scrivi(QByteArrayView byte)
     {
         Operazione scrittura;
@@ -86,7 +86,7 @@ struct PortaAsio::Linea
             avviata(::WriteFile(porta.native_handle(), byte.data(), static_cast<DWORD>(byte.size()),
                                 nullptr, scrittura.nuova())) &&
             scrittura.esito(porta.native_handle()) == byte.size();
-        // A far end that does not take them keeps the window waiting: once is enough.
+        // A time-out counts as a lost line: a far end that takes no bytes blocks the window once.
         return presa ? Presenza::Scrittura::Presa : Presenza::Scrittura::Mancata;
     }
     void aspettaUnByte()
@@ -95,7 +95,7 @@ struct PortaAsio::Linea
                 ::ReadFile(porta.native_handle(), &primo, sizeof primo, nullptr, attesa.nuova())))
             presenza.perdi();
     }
-    // Whether the read that waits has brought its byte.
+    // True if the pending read has got its byte.
     bool arrivato()
     {
         if (presenza.persa() || !attesa.finita())
@@ -107,7 +107,7 @@ struct PortaAsio::Linea
             aspettaUnByte();
         return quanti > 0;
     }
-    // Those that are with the system already.
+    // Appends the bytes that the system has already received, up to massimo.
     void prendiIlResto(QByteArray &letti, qsizetype massimo)
     {
         DWORD errori = 0;
@@ -134,7 +134,7 @@ PortaAsio::~PortaAsio()
     chiudi();
 }
 
-// Windows refuses whoever comes second: that is what it means by a denied access.
+// On Windows a denied access means that another program has opened the port.
 static Errore erroreDiApertura(const asio::error_code &errore)
 {
     switch (errore.value()) {
@@ -178,10 +178,10 @@ void PortaAsio::chiudi()
 {
     if (!aperta())
         return;
-    // The notifier may be the one whose call we are in.
+    // Deleted later, because this may run inside a call from the notifier.
     m_linea->avvisatore->setEnabled(false);
     m_linea->avvisatore.release()->deleteLater();
-    // Also on a lost line a read may still wait.
+    // A read may be pending on a lost line as well.
     if (!m_linea->attesa.finita())
         m_linea->attesa.annulla(m_linea->porta.native_handle());
     asio::error_code ignorato;

@@ -1,7 +1,7 @@
-// Enables or shows several controls with one call.
+// Enables, disables, shows or hides several controls with one call.
 #pragma once
 
-// Timers, buttons and images may stand in one list.
+// The controls may be of different types: timers, buttons, images.
 template <class... Controlli>
 void ImpostaAbilitati(bool valore, Controlli &...controlli)
 {

@@ -13,7 +13,7 @@ namespace {
 
 const QString nomeUsuale = u"prog.dat"_s;
 
-// What the sample holds: nothing that a user has chosen.
+// The contents of the sample file, which holds no choice of a user.
 const QByteArray esempio = "1;";
 
 bool propria(const QFileInfo &file)
@@ -61,7 +61,7 @@ QByteArray impostazione(const QByteArray &testo)
 
 QByteArray condizione(const QByteArray &testo)
 {
-    // Nothing found is -1, and what stands behind it is the whole text.
+    // Without a semicolon indexOf gives -1, and the result is the whole text.
     return testo.sliced(testo.indexOf(';') + 1);
 }
 

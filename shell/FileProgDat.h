@@ -1,6 +1,6 @@
-// The settings in "prog.dat": one file, however its name is spelled. Two fields, parted by the
-// first semicolon: whether to connect at the start, and the condition that new projects give to
-// every list. Each has its own writer, which keeps the other's field.
+// The settings in "prog.dat" (docs/formats.md), whatever the case of the file's name. Two fields,
+// separated by the first semicolon: whether to connect at the start, and the condition that each
+// list gets in a new project. Two windows write one field each and keep the other.
 #pragma once
 
 #include <QByteArray>
@@ -8,21 +8,22 @@
 
 namespace FileProgDat {
 
-// The file's name in the working directory, in the spelling that is there. If there are several, as
-// on a system that tells case apart: the user's own rather than the sample that a first start
-// brings, and of several of his own the one written last. The others stay untouched.
+// The file's name in the working directory, as it is spelled there; "prog.dat" if there is none. On
+// a case-sensitive system there may be several: then a file that the user has changed is preferred
+// to the sample that the first start copies, and of several changed ones the newest. The others are
+// not touched.
 QString nome();
 
-// The whole file, and all of it anew. Errors are those of reading and writing a file.
+// Reads the whole file, or writes it. Throws what LeggiFile and ScriviFile throw.
 QByteArray leggi();
 void scrivi(const QByteArray &impostazione, const QByteArray &condizione);
 
-// What stands before the semicolon. A text without one is both fields at once.
+// The field before the semicolon. Without a semicolon the whole text is both fields.
 QByteArray impostazione(const QByteArray &testo);
-// What stands behind it.
+// The field after the first semicolon.
 QByteArray condizione(const QByteArray &testo);
 
-// The file's text, made of both.
+// The text of the file, with both fields.
 QByteArray uniti(const QByteArray &impostazione, const QByteArray &condizione);
 
 } // namespace FileProgDat

@@ -19,7 +19,7 @@ void ScriviFile(const QString &nome, const QByteArray &valore)
     try {
         Archivio::stampa(1, valore);
     } catch (const Errore &) {
-        // Half a file must not take the place of a whole one.
+        // An incomplete file must not replace the old one.
         Archivio::abbandona();
         throw;
     }

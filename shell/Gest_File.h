@@ -1,13 +1,13 @@
-// Whole files, read and written at once.
+// Reading and writing whole files.
 #pragma once
 
 #include <QByteArray>
 #include <QString>
 
-// modo 0 opens the file as text, 1 as binary; any other modo gives an empty text and opens nothing.
-// Gives the file's bytes and closes all files. Errors are those of opening a file.
+// Returns the bytes of a file and closes all files. modo: 0 text, 1 binary, with the same result;
+// any other modo opens nothing and returns an empty text. Throws what Archivio::apri throws.
 QByteArray LeggiFile(const QString &nome, quint8 modo);
 
-// Replaces what the file held by valore, with no line end, and closes all files. Where that fails
-// the old file stays whole.
+// Replaces the contents of a file by valore, without a line end, and closes all files. Throws what
+// Archivio::apri and chiudi throw; the old file is kept then.
 void ScriviFile(const QString &nome, const QByteArray &valore);

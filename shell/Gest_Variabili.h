@@ -1,14 +1,15 @@
-// Small sums on bytes.
+// Small calculations with bytes.
 #pragma once
 
 #include <QtGlobal>
 
-// a times c, divided by b and rounded toward zero: a is a value, b its full scale, c the length
-// wanted. A b of 0 is Errore::DivisionePerZero, a result beyond 32 bits Errore::Overflow.
+// a * c / b, rounded toward zero. a: a value; b: the value of the full scale; c: the length of the
+// full scale. Throws Errore::DivisionePerZero if b is 0, Errore::Overflow if the result does not
+// fit in 32 bits.
 qint32 Proporzione(quint8 a, qint32 b, qint32 c);
 
-// The remainder of a divided by b; a b of 0 is Errore::DivisionePerZero.
+// The remainder of a / b. Throws Errore::DivisionePerZero if b is 0.
 quint8 ModuloByte(quint8 a, quint8 b);
 
-// The b high bits of a, b from 0 to 8: a divided by 2 to the power of 8 minus b.
+// The b highest bits of a, as a number; b from 0 to 8, a larger one counts as 8.
 qint32 BitAlti(quint8 a, quint8 b);

@@ -1,7 +1,7 @@
 #include "shell/NumeroPorta.h"
 
-#include "controls/Messaggi.h"
 #include "base/Numeri.h"
+#include "controls/Messaggi.h"
 
 #include <QGuiApplication>
 #include <utility>
@@ -24,15 +24,16 @@ void NumeroPorta::conOK(Pulsante &pulsante)
 
 void NumeroPorta::pulOK_MouseDown()
 {
-    // The press took the focus from an empty box, and the message was shown then. If the button was
-    // let go over the message no click follows, and the next OK is a try of its own.
+    // If the box is empty, this press took the focus from it, and the message was shown. If the
+    // mouse button was released over the message, this press gives no click: then the next click on
+    // OK must show the message again.
     m_dettoAlClick =
         m_finestra.Tag() == u"Errore"_s && (QGuiApplication::mouseButtons() & Qt::LeftButton);
 }
 
 NumeroPorta::Conferma NumeroPorta::conferma()
 {
-    // A mark that is left from a box put right since is not held against it.
+    // The flag may be older than the number that is in the box now.
     const bool giaDetto = std::exchange(m_dettoAlClick, false) && txtPorta.Text().isEmpty();
     m_finestra.setTag({});
     if (giaDetto)
@@ -60,7 +61,7 @@ void NumeroPorta::txtPorta_LostFocus()
     const double numero = Numeri::Valore(txtPorta.Text());
     if (numero > m_suGiu.Max())
         txtPorta.setText(QString::number(m_suGiu.Max()));
-    else if (numero < m_suGiu.Min()) // 0, or pasted text that is no number
+    else if (numero < m_suGiu.Min()) // 0, or pasted text that is not a number
         txtPorta.setText(QString::number(m_suGiu.Min()));
     m_suGiu.setValue(Numeri::Intero(txtPorta.Text()));
 }

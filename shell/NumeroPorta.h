@@ -1,4 +1,4 @@
-// The rules of the port number, alike in the two dialogs that ask for it.
+// The rules for the number of the serial port, common to the two dialogs that ask for it.
 #pragma once
 
 #include "controls/CasellaTesto.h"
@@ -11,28 +11,29 @@ public:
     static constexpr int Minimo = 1;
     static constexpr int Massimo = 99;
 
-    // Ties the box and the spin bar together; window is the one whose Tag tells of an empty box.
+    // Connects the text box and the spin bar. The Tag of the window is set to "Errore" while the
+    // box is empty.
     NumeroPorta(Finestra &finestra, CasellaTesto &txtPorta, SuGiu &suGiu);
 
     // What a click on OK finds in the box.
     enum class Conferma {
-        // A number within the limits.
+        // A number from Minimo to Massimo.
         Valido,
-        // Nothing: the message was shown now, and the focus is in the box.
+        // An empty box: the message was shown and the box has the focus.
         Vuoto,
-        // Nothing, as the message said that the press of this click brought up.
+        // An empty box, but the press of this click has already shown the message.
         GiaDetto,
     };
-    // Follows the button that ends the dialog with the number.
+    // Watches the presses of the OK button; call it once.
     void conOK(Pulsante &pulsante);
-    // At its click: applies the rules of leaving the box, whether it was left or not, with one
-    // message for each click. The window's Tag is empty afterwards.
+    // To be called when OK is clicked: applies the rules for leaving the box, even if it still has
+    // the focus, with at most one message for each click. Clears the window's Tag.
     Conferma conferma();
-    // Gives the focus to the box, with its number selected.
+    // Gives the focus to the box and selects its number.
     void inizia();
 
-    // Brings the number into the limits; an empty box gets its message, the focus comes back and
-    // the window's Tag becomes "Errore".
+    // Limits the number to the range. If the box is empty, shows a message, gives the focus back to
+    // the box and sets the window's Tag to "Errore".
     void txtPorta_LostFocus();
 
 private:

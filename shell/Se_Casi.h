@@ -1,7 +1,7 @@
-// Is a value one of several?
+// Tests if a value is one of several.
 #pragma once
 
-// False for an empty list.
+// True if valore equals one of the others; false for an empty list.
 template <class Valore, class... Lista>
 bool ContieneValore(const Valore &valore, const Lista &...lista)
 {

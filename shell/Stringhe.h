@@ -3,7 +3,7 @@
 
 #include <QString>
 
-// Searches lettera (one character or more, exact comparison) from the right. Gives the position
-// counted from the right end, 1 being the last character, or 0 where it is not found; with avvisa
-// that is told in a message box instead, and the program halts.
+// Searches lettera (one or more characters, case-sensitive) from the right. Returns the position of
+// its first character, counted from the right end (1 is the last character), or 0 if it is not
+// found. With avvisa, a text that is not found is reported in a message box, and the program ends.
 qint32 InStrDx(const QString &testo, const QString &lettera, bool avvisa = false);

@@ -5,14 +5,15 @@
 
 #include <QString>
 
-// A box with the stop icon, titled "Errore - " and titolo, or, where titolo is empty, the caption
-// of the active window and " - Errore".
+// Shows a message box with the stop icon. Its title is "Errore - " and titolo or, if titolo is
+// empty, the caption of the active window and " - Errore". Throws no Errore.
 void MostraErrore(const QString &messaggioErrore, const QString &titolo);
 
-// The caption of the window that is active, or was last; empty where there is none.
+// The caption of the window that is active or was active last; empty if no window is visible.
 QString titoloFinestraAttiva();
 
-// The one exit of the handlers with a file dialog: the user's cancelling is silent.
+// Runs a handler that uses a file dialog. An Errore is shown to the user, except Errore::Annullato:
+// the user has cancelled.
 template <class Gestore>
 void conUscita(Gestore gestore)
 {

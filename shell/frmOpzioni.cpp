@@ -2,9 +2,9 @@
 
 #include "base/Archivio.h"
 #include "base/Codifica.h"
+#include "base/Numeri.h"
 #include "shell/FileProgDat.h"
 #include "shell/Gest_File.h"
-#include "base/Numeri.h"
 
 #include <QGridLayout>
 #include <QGuiApplication>
@@ -78,7 +78,7 @@ void frmOpzioni::disponi()
 void frmOpzioni::Disegno()
 {
     setTag({});
-    // Ticked, as a missing file means connecting.
+    // Ticked, because without a file the program connects.
     opzCollegaAut.setValue(1);
     txtPorta.setText(u"1"_s);
     SuGiu.setValue(1);
@@ -117,7 +117,7 @@ void frmOpzioni::leggiFile()
 
 void frmOpzioni::pulOK_Click()
 {
-    // After a click that has said it already, the Tag is not looked at.
+    // Conferma::GiaDetto goes on: the settings are stored although the box is empty.
     if (m_numeroPorta.conferma() == NumeroPorta::Conferma::Vuoto)
         return;
     passaErrori([&] { ScriviFile(u"Porta COM"_s, Codifica::inByte(txtPorta.Text()) + "\r\n"); });
@@ -132,8 +132,8 @@ void frmOpzioni::pulOK_Click()
 
 void frmOpzioni::pulAnnulla_MouseDown(int Button, int, double, double)
 {
-    // The press took the focus from an empty box. If the button was let go over the message no
-    // click follows, though the user has clicked.
+    // If the box is empty, the press took the focus from it and showed the message. If the mouse
+    // button was released over the message, no Click follows, although the user has clicked.
     if (Button == 1 && !(QGuiApplication::mouseButtons() & Qt::LeftButton))
         pulAnnulla_Click();
 }

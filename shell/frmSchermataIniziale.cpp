@@ -35,8 +35,8 @@ void frmSchermataIniziale::disponi()
 {
     setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
     setFixedSize(560, 300);
-    // Boxes of the start stand over this window: its place must be known before the system tells
-    // it.
+    // Message boxes at the start are placed over this window, so its position must be known before
+    // the window system reports it.
     move(screen()->availableGeometry().center() - rect().center());
     Frame1.setGeometry(rect());
     Frame1.setColori(palette().color(QPalette::Base), QColor(0x1F, 0x5F, 0x8B), 0, 2);

@@ -1,4 +1,4 @@
-// The splash: what the user sees while the program starts and connects.
+// The splash window, shown while the program starts and connects.
 #pragma once
 
 #include "controls/Finestra.h"
@@ -21,14 +21,15 @@ public:
     Etichetta lblVersion;
     Etichetta lblColl;
     Immagine imgAttesa;
-    // Its Tag outlives the window: every connection attempt reads it.
+    // Its Tag is "True" after a click. Unloading does not clear it: each connection attempt reads
+    // it.
     Pulsante pulNonCollegare;
     Temporizzatore tmrAnimazione;
 
 protected:
     void Disegno() override;
     void Load() override;
-    // It goes with the start, and only then.
+    // The user cannot close it; the program does at the end of the start.
     void QueryUnload(bool &Cancel, Chiusura UnloadMode) override;
 
 private:

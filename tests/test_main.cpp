@@ -1,5 +1,5 @@
-// The main of every test program: offscreen unless told otherwise, and else set up as the program
-// itself.
+// The main of all test programs: offscreen unless QT_QPA_PLATFORM is set, and prepared like the
+// program itself.
 #include "controls/Applicazione.h"
 
 #include <QApplication>

@@ -12,10 +12,10 @@ struct Colore
 {
     QPalette::ColorRole ruolo;
     QRgb attivo;
-    QRgb spento; // in what is disabled
+    QRgb spento; // for disabled controls
 };
 
-// Every role: one that is left out would be taken from the desktop.
+// All roles of QPalette: a role that is not set would come from the desktop.
 constexpr Colore colori[] = {
     {QPalette::Window, 0xEFEFEF, 0xEFEFEF},
     {QPalette::WindowText, 0x000000, 0x666666},

@@ -1,8 +1,8 @@
 // The program's style and colours, the same on every desktop.
 #pragma once
 
-// Fusion, in light colours of our own: some colours of controls are fixed by the design and made
-// for light windows, so a desktop's dark colours must not come between them. Text stands out from
-// its ground by at least 4.5 : 1. After the application was made, before its first window; what a
-// desktop changes later does not come in either.
+// Sets the style Fusion with light colours of our own. Some controls have fixed colours that are
+// made for light windows, so the desktop's colours, which may be dark, are not used, not even if
+// they change later. Text has a contrast of at least 4.5 : 1. Call it once, after creating the
+// application and before its first window.
 void impostaAspetto();

@@ -48,10 +48,9 @@ QStringView disegnoDi(QStyle::StandardPixmap quale)
     }
 }
 
-// A widget made anew has a copy of the application's palette with a number of its own; drawn under
-// that, each message box would leave new pictures of its buttons in Qt's cache. Whether this is a
-// widget of that kind, with the application's colours: then it is drawn under the application's
-// number.
+// If the widget's palette is a copy of the application's, with the same colours but another number,
+// draws it with the application's palette and returns true; else returns false. Each new widget has
+// such a copy, so without this each message box would leave new pictures in Qt's cache.
 template <typename Opzione, typename Disegna>
 bool conTavolozzaComune(const QStyleOption *opzione, const Disegna &disegna)
 {
@@ -118,7 +117,7 @@ void Stile::drawComplexControl(ComplexControl quale, const QStyleOptionComplex *
 int Stile::styleHint(StyleHint quale, const QStyleOption *opzione, const QWidget *controllo,
                      QStyleHintReturn *risposta) const
 {
-    // What the buttons say is enough.
+    // Buttons of dialogs show their text only.
     if (quale == SH_DialogButtonBox_ButtonsHaveIcons)
         return 0;
     return QProxyStyle::styleHint(quale, opzione, controllo, risposta);
@@ -130,7 +129,7 @@ QSize Stile::sizeFromContents(ContentsType quale, const QStyleOption *opzione,
     QSize misura = QProxyStyle::sizeFromContents(quale, opzione, contenuto, controllo);
     const auto *pulsante = qstyleoption_cast<const QStyleOptionButton *>(opzione);
     if (quale == CT_PushButton && pulsante && !pulsante->text.isEmpty()) {
-        // Fusion leaves a text that is longer than the usual no room at its sides.
+        // Fusion leaves no room at the sides of a long text.
         constexpr int respiro = 12;
         misura.setWidth(qMax(misura.width(), contenuto.width() + 2 * respiro));
     }

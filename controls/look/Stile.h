@@ -1,12 +1,10 @@
-// How the style draws what is its own: its pictures are of the program's family, and sharp on every
-// screen.
+// The style Fusion with the program's own pictures, which are sharp on every screen.
 #pragma once
 
 #include <QHash>
 #include <QIcon>
 #include <QProxyStyle>
 
-// Over Fusion.
 class Stile : public QProxyStyle
 {
     Q_OBJECT
@@ -14,11 +12,13 @@ class Stile : public QProxyStyle
 public:
     Stile();
 
-    // The pictures of message boxes and file dialogs are ours; a desktop's would not go with our
-    // colours.
+    // Returns the program's own pictures for message boxes and file dialogs: those of a desktop
+    // would not match our colours.
     QIcon standardIcon(StandardPixmap quale, const QStyleOption *opzione,
                        const QWidget *controllo) const override;
-    // What Fusion keeps as a picture, it keeps under its palette's number among others.
+    // Fusion caches drawings under keys that contain the number of the palette. These three draw
+    // buttons, list headers, combos and spin boxes with the application's palette if its colours
+    // are the same, so that the cache does not grow with each new window.
     void drawPrimitive(PrimitiveElement quale, const QStyleOption *opzione, QPainter *pittore,
                        const QWidget *controllo) const override;
     void drawControl(ControlElement quale, const QStyleOption *opzione, QPainter *pittore,
@@ -31,7 +31,7 @@ public:
                            const QWidget *controllo) const override;
 
 private:
-    // Each drawing is made once for each scale of the screen: a new one for each box would fill
-    // Qt's cache of pictures, in which each has a place of its own.
+    // The pictures by name and scale of the screen. Each is made once: a new one for each message
+    // box would take another place in Qt's cache of pictures.
     mutable QHash<std::pair<QString, qreal>, QIcon> m_disegni;
 };

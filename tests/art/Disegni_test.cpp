@@ -23,7 +23,7 @@ void PrintTo(const Disegno &disegno, std::ostream *dove)
     *dove << disegno.nome;
 }
 
-// Natural sizes, in logical pixels.
+// The natural size of each drawing, in logical pixels.
 const Disegno disegni[] = {
     {"freccia_su", 48, 48},
     {"freccia_sinistra", 48, 48},
@@ -124,13 +124,13 @@ QString nomeDi(const Disegno &disegno)
     return QString::fromLatin1(disegno.nome);
 }
 
-// Pixels of the scale asked for, in the drawing's natural size.
+// The picture of an icon in this scale.
 QImage immagine(const QIcon &icona, QSize naturale, int scala)
 {
     return icona.pixmap(naturale, scala).toImage();
 }
 
-// How much of a picture is covered, and in how many colours.
+// The covered part of a picture, from 0 to 1, and its colours.
 struct Contenuto
 {
     double coperto = 0;
@@ -183,9 +183,9 @@ TEST_P(OgniDisegno, HasItsSizeAndIsNotBlankAtAllThreeScales)
 INSTANTIATE_TEST_SUITE_P(Disegni, OgniDisegno, testing::ValuesIn(disegni),
                          [](const auto &caso) { return std::string(caso.param.nome); });
 
-TEST(Disegni, EveryPictureOfTheResourceIsKnownToTheTableAbove)
+TEST(Disegni, EveryPictureOfTheResourceIsInTheTable)
 {
-    Disegni::icona(u"logo"); // the resource is there from the first use on
+    Disegni::icona(u"logo"); // the first use loads the resource
     std::set<QString> noti;
     for (const Disegno &disegno : disegni)
         noti.insert(nomeDi(disegno));
@@ -193,7 +193,7 @@ TEST(Disegni, EveryPictureOfTheResourceIsKnownToTheTableAbove)
         EXPECT_EQ(noti.count(file.chopped(7)), 1U) << file.toStdString();
 }
 
-// Run a second time on a screen of 150 %, see CMakeLists.txt.
+// CMakeLists.txt runs it a second time, with a screen of 150 %.
 TEST(Scala, EveryPictureHasThePixelsOfTheScreen)
 {
     const double scala = qGuiApp->devicePixelRatio();
@@ -222,7 +222,7 @@ TEST(Disegni, TheProgramsHaveTheirIconsInAllSizes)
     }
 }
 
-TEST(ListaImg, HoldsTheArrowsAtRestThenPressedThenTheOptionIcons)
+TEST(ListaImg, ContainsTheNormalArrowsThenThePressedOnesThenTheOptionIcons)
 {
     const auto icone = Disegni::listaImg();
     const QString frecce[] = {u"su"_s, u"sinistra"_s, u"destra"_s, u"giu"_s};
@@ -247,7 +247,7 @@ TEST(ImgPulsantiConsole, ConnectsWithPicture1AndDisconnectsWithPicture6)
         stessa(icone[i], u"barra_"_s + nomi[i], {32, 32});
 }
 
-TEST(ImgPulsantiEditor, HoldsThePointerOverPictureSixPlacesAfterTheNormalOne)
+TEST(ImgPulsantiEditor, ContainsThePictureForThePointerSixPlacesAfterTheNormalOne)
 {
     const auto icone = Disegni::imgPulsantiEditor();
     const QString nomi[] = {u"cancella"_s, u"pausa"_s, u"su"_s, u"giu"_s, u"frase"_s, u"suono"_s};
@@ -279,7 +279,7 @@ TEST(Attese, HaveSixAndEightFramesInOrder)
         stessa(file[i], u"attesa_file_%1"_s.arg(i + 1), {32, 32});
 }
 
-TEST(ImgCaselle, HoldsTheEmptyBoxThenTheTickedOne)
+TEST(ImgCaselle, ContainsTheEmptyBoxThenTheTickedOne)
 {
     const auto icone = Disegni::imgCaselle();
     ASSERT_EQ(icone.size(), 2U);
@@ -299,7 +299,7 @@ TEST(Disegni, NoTwoPicturesAreTheSame)
     }
 }
 
-TEST(Testa, IsCalmUnderTheTwoLabelsOfItsTopBand)
+TEST(Testa, IsTransparentUnderTheTwoLabelsAtTheTop)
 {
     const QImage testa = immagine(Disegni::icona(u"testa"), {160, 152}, 1);
     for (int y = 0; y < 33; ++y)
@@ -307,9 +307,9 @@ TEST(Testa, IsCalmUnderTheTwoLabelsOfItsTopBand)
             ASSERT_EQ(qAlpha(testa.pixel(x, y)), 0) << x << ',' << y;
 }
 
-TEST(Batterie, LeaveOneWellForTheLevelBar)
+TEST(Batterie, HaveAPlainGroundUnderTheLevelBar)
 {
-    // In the corners of the 41 by 14 pixels at (4,5), where the emblem in the middle is far away.
+    // The corners of the 41 by 14 pixels at (4, 5); the emblem is in the middle.
     for (const QStringView nome : {u"batteria_logica", u"batteria_motori"}) {
         const QImage batteria = immagine(Disegni::icona(nome), {56, 24}, 1);
         const QRgb fondo = batteria.pixel(6, 12);

@@ -1,4 +1,4 @@
-// Folders in which everybody makes files and nobody replaces another's.
+// Folders with the sticky bit, as /tmp: all users create files, but replace only their own.
 #include "base/Archivio.h"
 
 #include "tests/support/Controlli.h"
@@ -9,10 +9,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-TEST(ArchivioPosix, a_file_that_may_be_written_but_not_replaced_is_written_in_its_place)
+using namespace Qt::StringLiterals;
+
+TEST(ArchivioPosix, AFileThatMayBeWrittenButNotReplacedIsOverwritten)
 {
     if (::geteuid() != 0)
-        GTEST_SKIP() << "only root can become somebody else";
+        GTEST_SKIP() << "only root can become another user";
     const QTemporaryDir cartella;
     ASSERT_EQ(::chmod(QFile::encodeName(cartella.path()).constData(), 01777), 0);
     for (const QString &breve : {u"prova.dat"_s, QString(255, u'x')}) {

@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+using namespace Qt::StringLiterals;
+
 using Archivio::Modo;
 
 namespace {
@@ -48,7 +50,7 @@ struct ArchivioTest : ::testing::Test
         Archivio::abbandona();
         return errore;
     }
-    // A file that everybody may write.
+    // A file that all users may write.
     void diTutti(const QString &nome, const QByteArray &byte)
     {
         contenuto(nome, byte);
@@ -78,7 +80,7 @@ QList<QByteArray> righe()
 
 } // namespace
 
-TEST_F(ArchivioTest, a_number_that_is_still_open_is_error_55)
+TEST_F(ArchivioTest, ANumberThatIsStillOpenGivesError55)
 {
     perLettura("1");
     EXPECT_EQ(erroreDi([] { Archivio::apri(1, u"prova.dat"_s, Modo::Lettura); }), 55);
@@ -86,7 +88,7 @@ TEST_F(ArchivioTest, a_number_that_is_still_open_is_error_55)
     EXPECT_EQ(erroreDi([] { Archivio::apri(1, u"manca.dat"_s, Modo::Lettura); }), 55);
 }
 
-TEST_F(ArchivioTest, two_numbers_can_be_open_and_one_close_all_closes_both)
+TEST_F(ArchivioTest, TwoNumbersCanBeOpenAndOneCallClosesBoth)
 {
     contenuto(u"a"_s, "1");
     Archivio::apri(1, u"a"_s, Modo::Lettura);
@@ -97,27 +99,27 @@ TEST_F(ArchivioTest, two_numbers_can_be_open_and_one_close_all_closes_both)
     EXPECT_EQ(erroreDi([] { Archivio::apri(1, u"a"_s, Modo::Lettura); }), 0);
 }
 
-TEST_F(ArchivioTest, a_missing_file_is_error_53_and_leaves_the_number_closed)
+TEST_F(ArchivioTest, AMissingFileGivesError53AndLeavesTheNumberClosed)
 {
     EXPECT_EQ(erroreDi([] { Archivio::apri(1, u"Porta COM"_s, Modo::Lettura); }), 53);
     contenuto(u"Porta COM"_s, "3\r\n");
     EXPECT_EQ(erroreDi([] { Archivio::apri(1, u"Porta COM"_s, Modo::Lettura); }), 0);
 }
 
-TEST_F(ArchivioTest, a_missing_folder_is_error_76)
+TEST_F(ArchivioTest, AMissingFolderGivesError76)
 {
     EXPECT_EQ(erroreDi([] { Archivio::apri(1, u"manca/a.dat"_s, Modo::Lettura); }), 76);
     EXPECT_EQ(erroreDi([] { Archivio::apri(1, u"manca/a.dat"_s, Modo::Scrittura); }), 76);
 }
 
-TEST_F(ArchivioTest, a_folder_in_the_place_of_a_file_is_error_75)
+TEST_F(ArchivioTest, AFolderInsteadOfAFileGivesError75)
 {
     QDir().mkdir(u"dati"_s);
     EXPECT_EQ(erroreDi([] { Archivio::apri(1, u"dati"_s, Modo::Lettura); }), 75);
     EXPECT_EQ(erroreDi([] { Archivio::apri(1, u"dati"_s, Modo::Scrittura); }), 75);
 }
 
-TEST_F(ArchivioTest, a_number_that_is_not_open_is_error_52)
+TEST_F(ArchivioTest, ANumberThatIsNotOpenGivesError52)
 {
     EXPECT_EQ(erroreDi([] { Archivio::leggiCampo(1); }), 52);
     EXPECT_EQ(erroreDi([] { Archivio::leggiNumero(1); }), 52);
@@ -128,7 +130,7 @@ TEST_F(ArchivioTest, a_number_that_is_not_open_is_error_52)
     EXPECT_EQ(erroreDi([] { Archivio::lunghezza(1); }), 52);
 }
 
-TEST_F(ArchivioTest, printing_to_a_file_that_is_open_for_reading_is_an_error)
+TEST_F(ArchivioTest, PrintingToAFileThatIsOpenForReadingIsAnError)
 {
     perLettura("1");
     EXPECT_EQ(erroreDi([] { Archivio::stampa(1, "x"); }), 52);
@@ -136,7 +138,7 @@ TEST_F(ArchivioTest, printing_to_a_file_that_is_open_for_reading_is_an_error)
     EXPECT_EQ(contenuto(u"prova.dat"_s), "1");
 }
 
-TEST_F(ArchivioTest, reading_past_the_end_is_error_62)
+TEST_F(ArchivioTest, ReadingPastTheEndGivesError62)
 {
     for (const char *vuoto : {"", "  "}) {
         perLettura(vuoto);
@@ -151,13 +153,13 @@ TEST_F(ArchivioTest, reading_past_the_end_is_error_62)
     EXPECT_EQ(erroreDi([] { Archivio::leggi(1, 1); }), 62);
 }
 
-TEST_F(ArchivioTest, closing_with_nothing_open_is_no_error)
+TEST_F(ArchivioTest, ClosingWithNothingOpenIsNoError)
 {
     EXPECT_EQ(erroreDi([] { Archivio::chiudi(); }), 0);
     EXPECT_EQ(erroreDi([] { Archivio::abbandona(); }), 0);
 }
 
-TEST_F(ArchivioTest, a_field_ends_at_a_comma_or_at_the_lines_end)
+TEST_F(ArchivioTest, AFieldEndsAtACommaOrAtTheEndOfTheLine)
 {
     const struct
     {
@@ -184,7 +186,7 @@ TEST_F(ArchivioTest, a_field_ends_at_a_comma_or_at_the_lines_end)
          {"una.sqm", "#TRUE#", "00:00:00,no,no,no,no"}},
         {"Programma C:\\a,b.exe", {"Programma C:\\a", "b.exe"}},
         {"\xbd,\x80", {"\xbd", "\x80"}},
-        // Cut short.
+        // The file ends inside the field.
         {"\"a,b", {"a,b"}},
         {"\"", {""}},
         {"a,", {"a"}},
@@ -196,7 +198,7 @@ TEST_F(ArchivioTest, a_field_ends_at_a_comma_or_at_the_lines_end)
     }
 }
 
-TEST_F(ArchivioTest, a_list_file_without_its_last_lines_is_error_62)
+TEST_F(ArchivioTest, ReadingAListFileWithoutItsLastLinesGivesError62)
 {
     perLettura("2\r\nStop\r\nFoto\r\n");
     EXPECT_EQ(Archivio::leggiNumero(1), 2);
@@ -205,7 +207,7 @@ TEST_F(ArchivioTest, a_list_file_without_its_last_lines_is_error_62)
     EXPECT_EQ(erroreDi([] { Archivio::leggiCampo(1); }), 62);
 }
 
-TEST_F(ArchivioTest, a_number_field_ends_at_a_blank_too)
+TEST_F(ArchivioTest, ANumberFieldEndsAtABlankToo)
 {
     const struct
     {
@@ -221,7 +223,7 @@ TEST_F(ArchivioTest, a_number_field_ends_at_a_blank_too)
         {"-5", {-5}},
         {"2.5", {2.5}},
         {"1\t2", {1, 2}},
-        // Not a number: 0, as the lenient scan has it.
+        // Without a number: 0, as from Numeri::Valore.
         {"abc", {0}},
         {"COM3", {0}},
         {"\"3\"", {0}},
@@ -237,7 +239,7 @@ TEST_F(ArchivioTest, a_number_field_ends_at_a_blank_too)
     }
 }
 
-TEST_F(ArchivioTest, a_line_is_read_as_it_stands_whatever_its_end)
+TEST_F(ArchivioTest, ALineIsReadUnchangedWhateverItsLineEnd)
 {
     const struct
     {
@@ -259,7 +261,7 @@ TEST_F(ArchivioTest, a_line_is_read_as_it_stands_whatever_its_end)
     }
 }
 
-TEST_F(ArchivioTest, the_whole_of_a_file_can_be_read_by_its_length)
+TEST_F(ArchivioTest, AWholeFileCanBeReadByItsLength)
 {
     perLettura("0;00:00:00,no,no,no,no");
     EXPECT_EQ(Archivio::lunghezza(1), 22);
@@ -267,7 +269,7 @@ TEST_F(ArchivioTest, the_whole_of_a_file_can_be_read_by_its_length)
     EXPECT_TRUE(Archivio::fine(1));
 }
 
-TEST_F(ArchivioTest, all_256_bytes_are_written_and_read_as_they_are)
+TEST_F(ArchivioTest, All256BytesAreWrittenAndReadAsTheyAre)
 {
     QByteArray tutti;
     for (int i = 0; i < 256; ++i)
@@ -279,7 +281,7 @@ TEST_F(ArchivioTest, all_256_bytes_are_written_and_read_as_they_are)
     EXPECT_EQ(Archivio::leggi(1, 256), tutti);
 }
 
-TEST_F(ArchivioTest, writing_replaces_the_whole_file)
+TEST_F(ArchivioTest, WritingReplacesTheWholeFile)
 {
     contenuto(u"prova.dat"_s, "the old and long contents");
     Archivio::apri(1, u"prova.dat"_s, Modo::Scrittura);
@@ -288,7 +290,7 @@ TEST_F(ArchivioTest, writing_replaces_the_whole_file)
     EXPECT_EQ(contenuto(u"prova.dat"_s), "new");
 }
 
-TEST_F(ArchivioTest, the_old_file_is_there_until_the_new_one_is_closed)
+TEST_F(ArchivioTest, TheOldFileIsThereUntilTheNewOneIsClosed)
 {
     contenuto(u"prova.dat"_s, "old");
     Archivio::apri(1, u"prova.dat"_s, Modo::Scrittura);
@@ -296,7 +298,7 @@ TEST_F(ArchivioTest, the_old_file_is_there_until_the_new_one_is_closed)
     EXPECT_EQ(contenuto(u"prova.dat"_s), "old");
 }
 
-TEST_F(ArchivioTest, the_old_file_survives_a_program_that_drops_what_it_wrote)
+TEST_F(ArchivioTest, TheOldFileSurvivesIfTheWrittenBytesAreDropped)
 {
     contenuto(u"prova.dat"_s, "old");
     Archivio::apri(1, u"prova.dat"_s, Modo::Scrittura);
@@ -306,7 +308,7 @@ TEST_F(ArchivioTest, the_old_file_survives_a_program_that_drops_what_it_wrote)
     EXPECT_EQ(QDir().entryList(QDir::Files), QStringList{u"prova.dat"_s});
 }
 
-TEST_F(ArchivioTest, the_old_file_survives_a_failed_write)
+TEST_F(ArchivioTest, TheOldFileSurvivesAFailedWrite)
 {
     if (!DiscoPieno::possibile())
         GTEST_SKIP() << "no full disk here";
@@ -325,7 +327,7 @@ TEST_F(ArchivioTest, the_old_file_survives_a_failed_write)
     EXPECT_EQ(contenuto(u"prova.dat"_s), "old");
 }
 
-TEST_F(ArchivioTest, a_failed_close_closes_all_the_same_and_keeps_the_old_file)
+TEST_F(ArchivioTest, AFailedCloseClosesTheNumberAndKeepsTheOldFile)
 {
     if (!DiscoPieno::possibile())
         GTEST_SKIP() << "no full disk here";
@@ -342,7 +344,7 @@ TEST_F(ArchivioTest, a_failed_close_closes_all_the_same_and_keeps_the_old_file)
     EXPECT_EQ(erroreDi([] { Archivio::apri(1, u"prova.dat"_s, Modo::Scrittura); }), 0);
 }
 
-TEST_F(ArchivioTest, in_a_folder_that_takes_no_new_files_a_file_is_written_in_its_place)
+TEST_F(ArchivioTest, InAReadOnlyFolderAWritableFileIsOverwritten)
 {
     if (!SenzaDiritti::possibile())
         GTEST_SKIP() << "folders have no rights here";
@@ -362,7 +364,7 @@ TEST_F(ArchivioTest, in_a_folder_that_takes_no_new_files_a_file_is_written_in_it
     }
 }
 
-TEST_F(ArchivioTest, a_file_written_in_its_place_is_left_alone_until_it_is_closed)
+TEST_F(ArchivioTest, AFileThatIsOverwrittenStaysUnchangedUntilItIsClosed)
 {
     if (!SenzaDiritti::possibile())
         GTEST_SKIP() << "folders have no rights here";
@@ -375,7 +377,7 @@ TEST_F(ArchivioTest, a_file_written_in_its_place_is_left_alone_until_it_is_close
     EXPECT_EQ(contenuto(u"prova.dat"_s), "old");
 }
 
-TEST_F(ArchivioTest, a_full_disk_in_its_place_brings_the_old_text_back)
+TEST_F(ArchivioTest, IfOverwritingFailsOnAFullDiskTheOldTextIsRestored)
 {
     if (!SenzaDiritti::possibile() || !DiscoPieno::possibile())
         GTEST_SKIP() << "no full disk here, or folders without rights";
@@ -390,7 +392,7 @@ TEST_F(ArchivioTest, a_full_disk_in_its_place_brings_the_old_text_back)
     EXPECT_EQ(contenuto(u"prova.dat"_s), "the old text");
 }
 
-TEST_F(ArchivioTest, a_file_that_can_neither_be_replaced_nor_written_is_error_75)
+TEST_F(ArchivioTest, AFileThatCanBeNeitherReplacedNorOverwrittenGivesError75)
 {
     if (!SenzaDiritti::possibile())
         GTEST_SKIP() << "folders have no rights here";
@@ -405,16 +407,16 @@ TEST_F(ArchivioTest, a_file_that_can_neither_be_replaced_nor_written_is_error_75
     EXPECT_EQ(QDir().entryList(QDir::Files), QStringList{u"prova.dat"_s});
 }
 
-TEST_F(ArchivioTest, no_file_of_somebody_elses_is_touched_by_a_long_name)
+TEST_F(ArchivioTest, WritingAFileWithALongNameTouchesNoOtherFile)
 {
-    contenuto(u"salvataggio.tmp"_s, "somebody else's");
+    contenuto(u"salvataggio.tmp"_s, "another file");
     EXPECT_EQ(scrivi(cartella.filePath(QString(250, u'x')), "new"), 0);
     EXPECT_EQ(contenuto(QString(250, u'x')), "new");
-    EXPECT_EQ(contenuto(u"salvataggio.tmp"_s), "somebody else's");
+    EXPECT_EQ(contenuto(u"salvataggio.tmp"_s), "another file");
     EXPECT_EQ(QDir().entryList(QDir::Files).size(), 2);
 }
 
-TEST_F(ArchivioTest, a_link_stays_a_link_whatever_the_length_of_the_names)
+TEST_F(ArchivioTest, ALinkStaysALinkWhateverTheLengthOfTheNames)
 {
     const QString lungo(255, u'x');
     contenuto(lungo, "old");
@@ -430,7 +432,7 @@ TEST_F(ArchivioTest, a_link_stays_a_link_whatever_the_length_of_the_names)
     EXPECT_TRUE(QFileInfo(altro).isSymbolicLink());
 }
 
-TEST_F(ArchivioTest, a_name_of_any_length_that_a_folder_takes_is_written_and_replaced)
+TEST_F(ArchivioTest, ANameOfAnyValidLengthIsWrittenAndReplaced)
 {
     for (const int lunghezza : {247, 248, 249, 255}) {
         const QString nome(lunghezza, u'x');
@@ -445,7 +447,7 @@ TEST_F(ArchivioTest, a_name_of_any_length_that_a_folder_takes_is_written_and_rep
     }
 }
 
-TEST_F(ArchivioTest, a_name_that_no_folder_takes_is_an_error_and_leaves_nothing)
+TEST_F(ArchivioTest, ATooLongNameGivesAnErrorAndLeavesNoFile)
 {
     for (const QString &nome : {QString(256, u'x'), QString(128, u'è')}) {
         const int errore = erroreDi([&] {
@@ -458,7 +460,7 @@ TEST_F(ArchivioTest, a_name_that_no_folder_takes_is_an_error_and_leaves_nothing)
     }
 }
 
-TEST_F(ArchivioTest, a_folder_of_a_long_name_is_error_75_and_stays)
+TEST_F(ArchivioTest, AFolderWithALongNameGivesError75AndStays)
 {
     const QString nome(255, u'x');
     ASSERT_TRUE(QDir().mkdir(nome));
@@ -467,7 +469,7 @@ TEST_F(ArchivioTest, a_folder_of_a_long_name_is_error_75_and_stays)
     EXPECT_TRUE(QFileInfo(nome).isDir());
 }
 
-TEST_F(ArchivioTest, a_bare_name_means_one_file_whatever_the_case_of_its_letters)
+TEST_F(ArchivioTest, ANameWithoutAFolderMeansOneFileWhateverItsCase)
 {
     contenuto(u"prog.dat"_s, "1");
     Archivio::apri(1, u"Prog.dat"_s, Modo::Lettura);
@@ -480,14 +482,14 @@ TEST_F(ArchivioTest, a_bare_name_means_one_file_whatever_the_case_of_its_letters
     EXPECT_EQ(QDir().entryList(QDir::Files).size(), 1);
 }
 
-TEST_F(ArchivioTest, a_new_file_gets_the_name_as_it_is_written)
+TEST_F(ArchivioTest, ANewFileGetsTheNameAsItIsGiven)
 {
     Archivio::apri(1, u"Porta COM"_s, Modo::Scrittura);
     Archivio::chiudi();
     EXPECT_EQ(QDir().entryList(QDir::Files), QStringList{u"Porta COM"_s});
 }
 
-TEST_F(ArchivioTest, a_full_path_reaches_another_folder)
+TEST_F(ArchivioTest, AFullPathReachesAnotherFolder)
 {
     QTemporaryDir altra;
     Archivio::apri(1, altra.filePath(u"lista.sqm"_s), Modo::Scrittura);

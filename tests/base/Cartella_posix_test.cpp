@@ -1,8 +1,8 @@
-// The program's folder and the ports of Linux.
+// The program's folder, and the paths of the ports on Linux.
 #include "base/Cartella.h"
 
-#include "tests/support/Controlli.h"
 #include "serial/Porta.h"
+#include "tests/support/Controlli.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -10,10 +10,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-TEST(Cartella, the_programs_folder_is_the_users_where_the_executables_cannot_be_written_to)
+using namespace Qt::StringLiterals;
+
+TEST(Cartella, TheProgramsFolderIsTheUsersIfTheExecutablesIsNotWritable)
 {
     if (::geteuid() != 0)
-        GTEST_SKIP() << "only root can become somebody who may not write there";
+        GTEST_SKIP() << "only root can become a user who may not write there";
     QTemporaryDir casa;
     ASSERT_EQ(::chmod(QFile::encodeName(casa.path()).constData(), 0777), 0);
     qputenv("XDG_DATA_HOME", QFile::encodeName(casa.path()));
@@ -29,14 +31,14 @@ TEST(Cartella, the_programs_folder_is_the_users_where_the_executables_cannot_be_
     qunsetenv("XDG_DATA_HOME");
 }
 
-TEST(PercorsoPorta, without_an_entry_in_the_folder_it_is_the_systems_own_line)
+TEST(PercorsoPorta, WithoutAnEntryInTheFolderItIsTheLineOfTheSystem)
 {
     const QTemporaryDir cartella;
     EXPECT_EQ(percorsoPorta(1, cartella.path()), u"/dev/ttyS0"_s);
     EXPECT_EQ(percorsoPorta(99, cartella.path()), u"/dev/ttyS98"_s);
 }
 
-TEST(PercorsoPorta, with_an_entry_in_the_folder_it_is_that_entry)
+TEST(PercorsoPorta, WithAnEntryInTheFolderItIsThatEntry)
 {
     const QTemporaryDir cartella;
     ASSERT_TRUE(QFile::link(u"/dev/null"_s, cartella.filePath(u"COM3"_s)));
@@ -45,7 +47,7 @@ TEST(PercorsoPorta, with_an_entry_in_the_folder_it_is_that_entry)
     EXPECT_EQ(percorsoPorta(2, cartella.path()), u"/dev/ttyS1"_s);
 }
 
-TEST(PercorsoPorta, a_link_that_leads_nowhere_is_still_the_entry)
+TEST(PercorsoPorta, ABrokenLinkCountsAsTheEntry)
 {
     const QTemporaryDir cartella;
     ASSERT_TRUE(QFile::link(u"/dev/not-there"_s, cartella.filePath(u"COM3"_s)));

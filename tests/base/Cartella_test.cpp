@@ -7,16 +7,19 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-TEST(Cartella, the_programs_folder_is_the_executables_where_it_can_be_written_to)
+using namespace Qt::StringLiterals;
+
+TEST(Cartella, TheProgramsFolderIsTheExecutablesIfItIsWritable)
 {
     EXPECT_EQ(trovaCartellaProgramma(), QCoreApplication::applicationDirPath());
     const QDir cartella(trovaCartellaProgramma());
-    EXPECT_TRUE(cartella.entryList({u"prova.*"_s}, QDir::Files).isEmpty()) << "the try left a file";
+    EXPECT_TRUE(cartella.entryList({u"prova.*"_s}, QDir::Files).isEmpty())
+        << "the temporary file is still there";
 }
 
 namespace {
 
-// A tree with the folders of an installed program, and a user's data folder that is not made yet.
+// The folders of an installed program, and a user's data folder that does not exist yet.
 struct Albero
 {
     QTemporaryDir radice;
@@ -46,7 +49,7 @@ struct Albero
 
 } // namespace
 
-TEST(Cartella, an_installed_program_takes_the_users_folder_though_it_could_write_beside_itself)
+TEST(Cartella, AnInstalledProgramUsesTheUsersFolderEvenIfItsOwnIsWritable)
 {
     const Albero albero;
     albero.esempio(u"saluto.sqm"_s, "Pausa 1\r\n");
@@ -55,14 +58,14 @@ TEST(Cartella, an_installed_program_takes_the_users_folder_though_it_could_write
     EXPECT_TRUE(QDir(albero.bin).isEmpty());
 }
 
-TEST(Cartella, without_what_an_installed_program_has_it_is_the_one_beside)
+TEST(Cartella, AProgramThatIsNotInstalledUsesTheFolderOfTheExecutable)
 {
     const Albero albero;
     EXPECT_EQ(trovaCartellaProgramma(albero.bin, albero.utente), albero.bin);
     EXPECT_FALSE(QFileInfo::exists(albero.utente));
 }
 
-TEST(Cartella, the_first_start_brings_the_sample_lists)
+TEST(Cartella, TheFirstStartCopiesTheSampleLists)
 {
     const Albero albero;
     albero.esempio(u"saluto.sqm"_s, "Pausa 1\r\n");
@@ -76,7 +79,7 @@ TEST(Cartella, the_first_start_brings_the_sample_lists)
     EXPECT_FALSE(QFileInfo::exists(albero.utente + u"/leggimi.txt"_s));
 }
 
-TEST(Cartella, a_program_that_runs_from_any_folder_brings_the_lists_that_came_with_it)
+TEST(Cartella, AProgramThatIsNotInstalledCopiesTheSamplesNextToIt)
 {
     const Albero albero;
     ASSERT_TRUE(QDir().mkpath(albero.bin + u"/liste"_s));
@@ -85,7 +88,7 @@ TEST(Cartella, a_program_that_runs_from_any_folder_brings_the_lists_that_came_wi
     EXPECT_EQ(trovaCartellaProgramma(albero.bin, albero.utente), albero.bin);
     EXPECT_EQ(Albero::leggi(albero.bin + u"/saluto.sqm"_s), "Pausa 1\r\n");
     EXPECT_EQ(Albero::leggi(albero.bin + u"/prog.dat"_s), "1;");
-    // A newer program unpacked over it leaves the user's own alone.
+    // A newer version unpacked into the same folder keeps the user's files.
     Albero::scrivi(albero.bin + u"/prog.dat"_s, "0;");
     ASSERT_TRUE(QFile::remove(albero.bin + u"/saluto.sqm"_s));
     trovaCartellaProgramma(albero.bin, albero.utente);
@@ -93,7 +96,7 @@ TEST(Cartella, a_program_that_runs_from_any_folder_brings_the_lists_that_came_wi
     EXPECT_EQ(Albero::leggi(albero.bin + u"/saluto.sqm"_s), "none");
 }
 
-TEST(Cartella, a_sample_list_never_takes_the_place_of_the_users)
+TEST(Cartella, ASampleListNeverReplacesAListOfTheUser)
 {
     const Albero albero;
     albero.esempio(u"saluto.sqm"_s, "Pausa 1\r\n");
@@ -105,7 +108,7 @@ TEST(Cartella, a_sample_list_never_takes_the_place_of_the_users)
     EXPECT_EQ(Albero::leggi(albero.utente + u"/ballo.sqm"_s), "Pausa 2\r\n");
 }
 
-TEST(Cartella, a_sample_list_that_the_user_deleted_or_changed_stays_so)
+TEST(Cartella, ASampleListThatTheUserDeletedOrChangedIsNotCopiedAgain)
 {
     const Albero albero;
     albero.esempio(u"saluto.sqm"_s, "Pausa 1\r\n");
@@ -118,11 +121,11 @@ TEST(Cartella, a_sample_list_that_the_user_deleted_or_changed_stays_so)
     EXPECT_EQ(Albero::leggi(albero.utente + u"/ballo.sqm"_s), "mine");
 }
 
-TEST(Cartella, sample_lists_that_could_not_be_copied_come_at_the_next_start)
+TEST(Cartella, SampleListsThatCouldNotBeCopiedAreCopiedAtTheNextStart)
 {
     const Albero albero;
     albero.esempio(u"saluto.sqm"_s, "Pausa 1\r\n");
-    // A file in the folder's place: nothing can be written there, not even by root.
+    // A file with the name of the folder: nothing can be written into it, not even by root.
     ASSERT_TRUE(QDir().mkpath(QFileInfo(albero.utente).path()));
     Albero::scrivi(albero.utente, "");
     portaEsempi(albero.liste, albero.utente);
@@ -132,7 +135,7 @@ TEST(Cartella, sample_lists_that_could_not_be_copied_come_at_the_next_start)
     EXPECT_EQ(albero.dati(), QStringList{u"saluto.sqm"_s});
 }
 
-TEST(Cartella, a_name_is_cut_behind_the_last_backslash_or_slash)
+TEST(Cartella, TheFileNameIsWhatFollowsTheLastBackslashOrSlash)
 {
     const struct
     {
@@ -150,7 +153,7 @@ TEST(Cartella, a_name_is_cut_behind_the_last_backslash_or_slash)
         EXPECT_EQ(nomeDelFile(QString::fromUtf16(caso.percorso)), QString::fromUtf16(caso.nome));
 }
 
-TEST(Cartella, the_separator_is_added_unless_it_is_there)
+TEST(Cartella, TheSeparatorIsAddedUnlessItIsThereAlready)
 {
     EXPECT_EQ(conSeparatore(u"/home/io"_s), u"/home/io/"_s);
     EXPECT_EQ(conSeparatore(u"/home/io/"_s), u"/home/io/"_s);
@@ -158,7 +161,7 @@ TEST(Cartella, the_separator_is_added_unless_it_is_there)
     EXPECT_EQ(conSeparatore(u"C:\\"_s), u"C:\\"_s);
 }
 
-TEST(Cartella, a_sample_never_comes_beside_the_users_file_of_the_same_name_in_another_case)
+TEST(Cartella, ASampleIsNotCopiedIfTheUserHasThatNameInAnotherCase)
 {
     const Albero albero;
     albero.esempio(u"prog.dat"_s, "1;");

@@ -10,20 +10,20 @@ static QByteArray tuttiIByte()
     return tutti;
 }
 
-TEST(Codifica, all_256_bytes_survive_the_round_trip)
+TEST(Codifica, All256BytesSurviveTheRoundTrip)
 {
     const QString testo = Codifica::daByte(tuttiIByte());
     EXPECT_EQ(testo.size(), 256);
     EXPECT_EQ(Codifica::inByte(testo), tuttiIByte());
 }
 
-TEST(Codifica, no_two_bytes_are_the_same_character)
+TEST(Codifica, NoTwoBytesBecomeTheSameCharacter)
 {
     const QString testo = Codifica::daByte(tuttiIByte());
     EXPECT_EQ(QSet<QChar>(testo.begin(), testo.end()).size(), 256);
 }
 
-TEST(Codifica, bytes_are_the_characters_of_the_code_page)
+TEST(Codifica, BytesBecomeTheCharactersOfTheCodePage)
 {
     const struct
     {
@@ -41,7 +41,7 @@ TEST(Codifica, bytes_are_the_characters_of_the_code_page)
     }
 }
 
-TEST(Codifica, a_character_outside_the_code_page_becomes_a_question_mark)
+TEST(Codifica, ACharacterOutsideTheCodePageBecomesAQuestionMark)
 {
     EXPECT_EQ(Codifica::inByte(u"aЖb"), "a?b");
     EXPECT_EQ(Codifica::inByte(u"中"), "?");
@@ -50,7 +50,7 @@ TEST(Codifica, a_character_outside_the_code_page_becomes_a_question_mark)
     EXPECT_EQ(Codifica::inByte(u"😀"), "??");
 }
 
-TEST(Codifica, nothing_is_nothing)
+TEST(Codifica, NoBytesGiveAnEmptyTextAndBack)
 {
     EXPECT_EQ(Codifica::daByte(QByteArray()), QString());
     EXPECT_EQ(Codifica::inByte(QString()), QByteArray());

@@ -1,18 +1,20 @@
 #include "tests/support/Controlli.h"
 
-TEST(Errore, carries_its_number_and_an_Italian_description)
+using namespace Qt::StringLiterals;
+
+TEST(Errore, CarriesItsNumberAndAnItalianDescription)
 {
     const Errore errore(Errore::PORT_NOT_OPEN);
     EXPECT_EQ(errore.numero(), 8018);
     EXPECT_EQ(errore.descrizione(), u"La porta non è aperta"_s);
 }
 
-TEST(Errore, takes_the_description_that_it_is_given)
+TEST(Errore, UsesTheDescriptionThatItIsGiven)
 {
     EXPECT_EQ(Errore(53, u"Manca \"Porta COM\""_s).descrizione(), u"Manca \"Porta COM\""_s);
 }
 
-TEST(Errore, has_the_numbers_that_the_code_tests)
+TEST(Errore, HasTheNumbersThatTheProgramCompares)
 {
     EXPECT_EQ(Errore::FileNonTrovato, 53);
     EXPECT_EQ(Errore::PercorsoNonTrovato, 76);
@@ -21,7 +23,7 @@ TEST(Errore, has_the_numbers_that_the_code_tests)
     EXPECT_EQ(Errore::Annullato, 32755);
 }
 
-TEST(Errore, every_number_in_use_has_a_description_of_its_own)
+TEST(Errore, EveryNumberInUseHasItsOwnDescription)
 {
     const QString imprevisto = Errore(1).descrizione();
     for (const int numero :
@@ -29,7 +31,7 @@ TEST(Errore, every_number_in_use_has_a_description_of_its_own)
         EXPECT_NE(Errore(numero).descrizione(), imprevisto) << numero;
 }
 
-TEST(PassaErrori, passes_over_an_error_and_says_so)
+TEST(PassaErrori, IgnoresAnErrorAndReturnsFalse)
 {
     bool dopo = false;
     EXPECT_FALSE(passaErrori([&] {
@@ -39,25 +41,25 @@ TEST(PassaErrori, passes_over_an_error_and_says_so)
     EXPECT_FALSE(dopo);
 }
 
-TEST(PassaErrori, runs_a_statement_that_does_not_fail)
+TEST(PassaErrori, RunsAStatementThatSucceedsAndReturnsTrue)
 {
     int volte = 0;
     EXPECT_TRUE(passaErrori([&] { ++volte; }));
     EXPECT_EQ(volte, 1);
 }
 
-TEST(PassaErrori, lets_other_exceptions_through)
+TEST(PassaErrori, LetsOtherExceptionsThrough)
 {
     EXPECT_THROW(passaErrori([] { throw std::runtime_error("other"); }), std::runtime_error);
 }
 
-TEST(ProvaPassata, is_the_tests_own_outcome_when_it_does_not_fail)
+TEST(ProvaPassata, IsTheResultOfTheConditionIfItDoesNotThrow)
 {
     EXPECT_TRUE(provaPassata([] { return true; }));
     EXPECT_FALSE(provaPassata([] { return false; }));
 }
 
-TEST(ProvaPassata, counts_as_passed_when_the_test_itself_fails)
+TEST(ProvaPassata, IsTrueIfTheConditionThrows)
 {
     EXPECT_TRUE(provaPassata([]() -> bool { throw Errore(Errore::PORT_NOT_OPEN); }));
 }

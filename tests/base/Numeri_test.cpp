@@ -5,7 +5,9 @@
 #include <cmath>
 #include <limits>
 
-TEST(Numeri, a_text_gives_its_longest_leading_number)
+using namespace Qt::StringLiterals;
+
+TEST(Numeri, ATextGivesItsLongestLeadingNumber)
 {
     const struct
     {
@@ -31,7 +33,7 @@ TEST(Numeri, a_text_gives_its_longest_leading_number)
         {u"3-2", 3},
         {u"12a34", 12},
         {u"65535", 65535},
-        // No number at all is 0.
+        // Without a number: 0.
         {u"", 0},
         {u"   ", 0},
         {u"abc", 0},
@@ -48,7 +50,7 @@ TEST(Numeri, a_text_gives_its_longest_leading_number)
         {u"inf", 0},
         {u"nan", 0},
         {u"½", 0},
-        // Not the number formats that Qt knows besides.
+        // Formats that only Qt would take for numbers.
         {u"1e3", 1},
         {u"0x1F", 0},
         {u"\u0661", 0},
@@ -58,14 +60,14 @@ TEST(Numeri, a_text_gives_its_longest_leading_number)
             << QString::fromUtf16(caso.testo).toStdString();
 }
 
-TEST(Numeri, bytes_are_read_like_the_text_that_they_are)
+TEST(Numeri, BytesAreReadLikeTheSameText)
 {
     EXPECT_EQ(Numeri::Valore(QByteArrayView(" 1 2;ab")), 12);
     EXPECT_EQ(Numeri::Valore(QByteArrayView("\xbd")), 0);
     EXPECT_EQ(Numeri::Valore(QByteArrayView("")), 0);
 }
 
-TEST(Numeri, a_number_of_hundreds_of_digits_is_too_large_for_every_integer)
+TEST(Numeri, ANumberOfHundredsOfDigitsIsTooLargeForEveryInteger)
 {
     const QString enorme(400, u'9');
     EXPECT_EQ(erroreDi([&] { Numeri::Byte(enorme); }), 6);
@@ -73,7 +75,7 @@ TEST(Numeri, a_number_of_hundreds_of_digits_is_too_large_for_every_integer)
     EXPECT_EQ(erroreDi([&] { Numeri::Lungo(enorme); }), 6);
 }
 
-TEST(Numeri, a_half_is_rounded_to_the_even_number)
+TEST(Numeri, AHalfIsRoundedToTheEvenNumber)
 {
     const struct
     {
@@ -90,7 +92,7 @@ TEST(Numeri, a_half_is_rounded_to_the_even_number)
     }
 }
 
-TEST(Numeri, a_byte_is_0_to_255)
+TEST(Numeri, AByteIsFrom0To255)
 {
     EXPECT_EQ(Numeri::Byte(0), 0);
     EXPECT_EQ(Numeri::Byte(255), 255);
@@ -100,7 +102,7 @@ TEST(Numeri, a_byte_is_0_to_255)
         EXPECT_EQ(erroreDi([&] { Numeri::Byte(troppo); }), 6) << troppo;
 }
 
-TEST(Numeri, a_short_integer_is_minus_32768_to_32767)
+TEST(Numeri, AShortIntegerIsFromMinus32768To32767)
 {
     EXPECT_EQ(Numeri::Intero(32767), 32767);
     EXPECT_EQ(Numeri::Intero(-32768), -32768);
@@ -108,7 +110,7 @@ TEST(Numeri, a_short_integer_is_minus_32768_to_32767)
         EXPECT_EQ(erroreDi([&] { Numeri::Intero(troppo); }), 6) << troppo;
 }
 
-TEST(Numeri, a_long_integer_has_32_bits)
+TEST(Numeri, ALongIntegerHas32Bits)
 {
     EXPECT_EQ(Numeri::Lungo(2147483647.0), 2147483647);
     EXPECT_EQ(Numeri::Lungo(-2147483648.0), std::numeric_limits<qint32>::min());
@@ -116,13 +118,13 @@ TEST(Numeri, a_long_integer_has_32_bits)
         EXPECT_EQ(erroreDi([&] { Numeri::Lungo(troppo); }), 6) << troppo;
 }
 
-TEST(Numeri, what_is_no_number_fits_into_no_integer)
+TEST(Numeri, NanAndInfinityFitIntoNoInteger)
 {
     EXPECT_EQ(erroreDi([] { Numeri::Byte(std::nan("")); }), 6);
     EXPECT_EQ(erroreDi([] { Numeri::Lungo(std::numeric_limits<double>::infinity()); }), 6);
 }
 
-TEST(Numeri, a_truth_value_is_a_number_or_one_of_two_words)
+TEST(Numeri, ATruthValueIsANumberOrOneOfTwoWords)
 {
     for (const auto *vero :
          {u"True", u"true", u"TRUE", u"1", u"-1", u"201", u"0.5", u" True ", u" 1"})
@@ -131,7 +133,7 @@ TEST(Numeri, a_truth_value_is_a_number_or_one_of_two_words)
         EXPECT_FALSE(Numeri::Logico(QStringView(falso))) << QString::fromUtf16(falso).toStdString();
 }
 
-TEST(Numeri, any_other_text_is_no_truth_value)
+TEST(Numeri, AnyOtherTextAsATruthValueGivesError13)
 {
     for (const auto *altro : {u"", u" ", u"Vero", u"Falso", u"#TRUE#", u"Camera", u"1 volta",
                               u"nan", u"inf", u"-", u"0x1", u"True."})
@@ -139,7 +141,7 @@ TEST(Numeri, any_other_text_is_no_truth_value)
             << QString::fromUtf16(altro).toStdString();
 }
 
-TEST(Numeri, the_text_of_a_truth_value_reads_back)
+TEST(Numeri, TheTextOfATruthValueIsReadBackAsTheSameValue)
 {
     EXPECT_EQ(Numeri::TestoLogico(true), u"True"_s);
     EXPECT_EQ(Numeri::TestoLogico(false), u"False"_s);

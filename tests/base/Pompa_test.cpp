@@ -1,10 +1,12 @@
 #include "base/Pompa.h"
 
-#include "tests/support/Controlli.h"
 #include "controls/Temporizzatore.h"
+#include "tests/support/Controlli.h"
 
 #include <QElapsedTimer>
 #include <thread>
+
+using namespace Qt::StringLiterals;
 
 using namespace std::chrono_literals;
 
@@ -25,7 +27,7 @@ struct Contatore : QObject
     }
 };
 
-// What other tests have left behind.
+// Handles the events that earlier tests have left.
 void svuota()
 {
     for (int i = 0; i < 100; ++i)
@@ -34,7 +36,7 @@ void svuota()
 
 } // namespace
 
-TEST(Pompa, one_round_handles_all_events_that_are_waiting)
+TEST(Pompa, OneRoundHandlesAllEventsThatAreWaiting)
 {
     svuota();
     Contatore contatore;
@@ -44,7 +46,7 @@ TEST(Pompa, one_round_handles_all_events_that_are_waiting)
     EXPECT_EQ(contatore.eventi, 50);
 }
 
-TEST(Pompa, one_round_handles_the_events_that_events_bring_along)
+TEST(Pompa, OneRoundAlsoHandlesTheEventsThatEventsPost)
 {
     svuota();
     Contatore contatore;
@@ -54,7 +56,7 @@ TEST(Pompa, one_round_handles_the_events_that_events_bring_along)
     EXPECT_EQ(contatore.eventi, 6);
 }
 
-TEST(Pompa, one_round_ticks_every_timer_that_is_due)
+TEST(Pompa, OneRoundTicksEveryTimerThatIsDue)
 {
     Temporizzatore uno(u"tmrUno"_s, nullptr);
     Temporizzatore due(u"tmrDue"_s, nullptr);
@@ -75,7 +77,7 @@ TEST(Pompa, one_round_ticks_every_timer_that_is_due)
     EXPECT_GE(scattiDue, 1);
 }
 
-TEST(Pompa, one_round_handles_events_and_due_timers_alike)
+TEST(Pompa, OneRoundHandlesEventsAndDueTimersAlike)
 {
     Temporizzatore timer(u"tmrProva"_s, nullptr);
     int scatti = 0;
@@ -92,7 +94,7 @@ TEST(Pompa, one_round_handles_events_and_due_timers_alike)
     EXPECT_GE(scatti, 1);
 }
 
-TEST(Pompa, a_flood_of_events_does_not_hold_a_round_for_ever)
+TEST(Pompa, AFloodOfEventsDoesNotHoldARoundForEver)
 {
     Contatore contatore;
     contatore.seguito = 1000000000;
@@ -103,7 +105,7 @@ TEST(Pompa, a_flood_of_events_does_not_hold_a_round_for_ever)
     svuota();
 }
 
-TEST(Pompa, may_run_inside_an_event_that_it_handles)
+TEST(Pompa, MayRunInsideAnEventThatItHandles)
 {
     svuota();
     Contatore contatore;
@@ -118,10 +120,10 @@ TEST(Pompa, may_run_inside_an_event_that_it_handles)
     EXPECT_EQ(dentro, 1);
 }
 
-TEST(Pompa, a_timer_cannot_take_what_came_in_the_pause_before_the_counter_of_rounds_has_looked)
+TEST(Pompa, ACallerThatCountsRoundsSeesWhatCameInThePauseBeforeATimerDoes)
 {
-    // Something is put down during the pause at a round's end, while a timer is due that would take
-    // it away: whoever counts rounds must find it first.
+    // Another thread adds to arrivato, mostly during the pause at the end of a round. A timer that
+    // is due then would take it away, but the caller of the pump must see it first.
     std::atomic<int> arrivato = 0;
     int presoDalTimer = 0;
     int vistoDalGiro = 0;
@@ -142,7 +144,7 @@ TEST(Pompa, a_timer_cannot_take_what_came_in_the_pause_before_the_counter_of_rou
     }
     basta = true;
     mittente.join();
-    // What comes while events are handled may go to the timer. Were the pause before that, the
-    // counter would find next to nothing.
+    // What comes while events are handled may go to the timer. If the pause came before the events,
+    // the caller would see next to nothing.
     EXPECT_GT(vistoDalGiro * 5, presoDalTimer);
 }

@@ -1,9 +1,9 @@
-// One look on every desktop.
-#include "controls/look/Aspetto.h"
-#include "tests/support/Contrasto.h"
+// The program looks the same on every desktop.
 #include "art/Disegni.h"
 #include "controls/DisegniDeiFile.h"
+#include "controls/look/Aspetto.h"
 #include "controls/look/Stile.h"
+#include "tests/support/Contrasto.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// As a dark desktop hands it to every program, for all controls and for single kinds.
+// Sets palettes as a dark desktop does, for all controls and for single classes.
 void desktopScuro()
 {
     const QPalette scura(QColor(0x2A, 0x2E, 0x32));
@@ -34,7 +34,7 @@ const QPalette::ColorGroup gruppi[] = {QPalette::Active, QPalette::Inactive, QPa
 
 } // namespace
 
-TEST(Aspetto, a_dark_desktops_colours_do_not_come_in)
+TEST(Aspetto, TheColoursOfADarkDesktopAreNotUsed)
 {
     const QPalette nostra = QApplication::palette();
     desktopScuro();
@@ -48,7 +48,7 @@ TEST(Aspetto, a_dark_desktops_colours_do_not_come_in)
     EXPECT_EQ(stile->baseStyle()->name(), u"fusion"_s);
 }
 
-TEST(Aspetto, no_colour_is_left_to_the_desktop)
+TEST(Aspetto, NoColourComesFromTheDesktop)
 {
     const QPalette nostra = QApplication::palette();
     for (const QPalette::ColorGroup gruppo : gruppi) {
@@ -61,7 +61,7 @@ TEST(Aspetto, no_colour_is_left_to_the_desktop)
     }
 }
 
-TEST(Aspetto, the_pictures_of_boxes_and_dialogs_are_sharp_and_ours)
+TEST(Aspetto, ThePicturesOfMessageBoxesAndFileDialogsAreOurOwnAndSharp)
 {
     const QStyle &stile = *QApplication::style();
     const std::pair<QStyle::StandardPixmap, QString> casi[] = {
@@ -92,14 +92,14 @@ TEST(Aspetto, the_pictures_of_boxes_and_dialogs_are_sharp_and_ours)
     EXPECT_EQ(stile.styleHint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons), 0);
 }
 
-TEST(Aspetto, a_long_text_has_room_at_the_sides_of_its_button)
+TEST(Aspetto, ALongTextHasRoomAtTheSidesOfItsButton)
 {
     const QPushButton pulsante(u"Un testo assai lungo per un pulsante"_s);
     EXPECT_GE(pulsante.sizeHint().width(),
               pulsante.fontMetrics().horizontalAdvance(pulsante.text()) + 24);
 }
 
-TEST(Aspetto, every_text_stands_out_from_its_ground)
+TEST(Aspetto, EveryTextHasEnoughContrastWithItsGround)
 {
     const std::pair<QPalette::ColorRole, QPalette::ColorRole> coppie[] = {
         {QPalette::WindowText, QPalette::Window},
@@ -121,7 +121,7 @@ TEST(Aspetto, every_text_stands_out_from_its_ground)
     }
 }
 
-TEST(Aspetto, the_drawings_of_boxes_and_file_dialogs_are_made_once)
+TEST(Aspetto, TheDrawingsOfMessageBoxesAndFileDialogsAreMadeOnce)
 {
     const auto chiave = [](QStyle::StandardPixmap quale) {
         return QApplication::style()->standardIcon(quale).cacheKey();
@@ -140,7 +140,7 @@ TEST(Aspetto, the_drawings_of_boxes_and_file_dialogs_are_made_once)
     }
 }
 
-// A style between that sees under which number a panel is drawn.
+// A base style that records the palette numbers with which button panels are drawn.
 class Spia : public QProxyStyle
 {
 public:
@@ -155,7 +155,7 @@ public:
     mutable QSet<qint64> numeri;
 };
 
-TEST(Aspetto, a_button_made_anew_is_drawn_from_the_same_picture)
+TEST(Aspetto, ANewButtonIsDrawnFromTheSamePicture)
 {
     Stile stile;
     auto *spia = new Spia(u"Fusion"_s);
@@ -174,7 +174,7 @@ TEST(Aspetto, a_button_made_anew_is_drawn_from_the_same_picture)
     disegna(uno.palette());
     disegna(altro.palette());
     EXPECT_EQ(spia->numeri.size(), 1);
-    // With colours of its own it is another picture.
+    // With other colours it is another picture.
     QPalette rossa = uno.palette();
     rossa.setColor(QPalette::Button, Qt::red);
     disegna(rossa);

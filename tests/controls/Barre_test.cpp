@@ -2,6 +2,8 @@
 
 #include "tests/support/Controlli.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QIcon icona()
@@ -19,7 +21,7 @@ struct BarreTest : ::testing::Test
 
 } // namespace
 
-TEST_F(BarreTest, a_toolbar_button_is_found_by_its_name_with_its_properties)
+TEST_F(BarreTest, AToolbarButtonIsFoundByItsNameWithItsProperties)
 {
     BarraDiPulsanti barra(u"BarraPulsanti"_s, &finestra, &lista);
     barra.aggiungi(1, u"Connetti"_s);
@@ -32,7 +34,7 @@ TEST_F(BarreTest, a_toolbar_button_is_found_by_its_name_with_its_properties)
     EXPECT_EQ(barra.Buttons(2).Image(), 0);
 }
 
-TEST_F(BarreTest, the_toolbar_says_which_button_was_clicked)
+TEST_F(BarreTest, TheToolbarReportsWhichButtonWasClicked)
 {
     BarraDiPulsanti barra(u"BarraPulsanti"_s, &finestra, &lista);
     barra.aggiungi(1, u"uno"_s);
@@ -50,7 +52,7 @@ TEST_F(BarreTest, the_toolbar_says_which_button_was_clicked)
     EXPECT_EQ(visti, (QList<int>{3, 1}));
 }
 
-TEST_F(BarreTest, a_button_or_a_picture_that_is_not_there_is_error_380)
+TEST_F(BarreTest, AButtonOrAPictureThatDoesNotExistGivesError380)
 {
     BarraDiPulsanti barra(u"BarraPulsanti"_s, &finestra, &lista);
     barra.aggiungi(1, u"uno"_s);
@@ -61,7 +63,7 @@ TEST_F(BarreTest, a_button_or_a_picture_that_is_not_there_is_error_380)
     EXPECT_EQ(barra.Buttons(1).Image(), 1);
 }
 
-TEST_F(BarreTest, a_status_panel_is_found_by_its_name_with_its_text)
+TEST_F(BarreTest, AStatusPanelIsFoundByItsNameWithItsText)
 {
     BarraDiStato barra(u"BarraStato"_s, &finestra, {100, 50, 0});
     barra.setPanels(3, u"Tessaro sta andando avanti"_s);
@@ -72,7 +74,7 @@ TEST_F(BarreTest, a_status_panel_is_found_by_its_name_with_its_text)
     EXPECT_EQ(barra.Panels(1), QString());
 }
 
-TEST_F(BarreTest, a_panel_that_is_not_there_is_error_380)
+TEST_F(BarreTest, APanelThatDoesNotExistGivesError380)
 {
     BarraDiStato barra(u"BarraStato"_s, &finestra, {100, 50, 0});
     for (const int cattivo : {0, -1, 4}) {
@@ -81,7 +83,7 @@ TEST_F(BarreTest, a_panel_that_is_not_there_is_error_380)
     }
 }
 
-TEST_F(BarreTest, the_progress_bar_takes_values_within_its_limits)
+TEST_F(BarreTest, TheProgressBarAcceptsOnlyValuesWithinItsLimits)
 {
     BarraDiCaricamento barra(u"BarraCaricamento"_s, &finestra, 1, 100000);
     EXPECT_EQ(barra.Value(), 1);

@@ -1,13 +1,15 @@
 #include "controls/CasellaTesto.h"
 
-#include "tests/support/Controlli.h"
 #include "controls/Messaggi.h"
+#include "tests/support/Controlli.h"
 
 #include <QClipboard>
 #include <QDropEvent>
 #include <QMenu>
 #include <QMimeData>
 #include <memory>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -51,21 +53,21 @@ struct CasellaTestoTest : ::testing::Test
 
 } // namespace
 
-TEST_F(CasellaTestoTest, its_text_is_a_property)
+TEST_F(CasellaTestoTest, ItsTextIsAProperty)
 {
     EXPECT_EQ(testo.property("Text").toString(), u"1"_s);
     EXPECT_TRUE(testo.setProperty("Text", u"7"_s));
     EXPECT_EQ(testo.Text(), u"7"_s);
 }
 
-TEST_F(CasellaTestoTest, a_change_by_code_raises_change)
+TEST_F(CasellaTestoTest, AChangeByCodeRaisesChange)
 {
     testo.setText(u"22"_s);
     testo.setText(u"22"_s);
     EXPECT_EQ(modifiche, QStringList{u"22"_s});
 }
 
-TEST_F(CasellaTestoTest, a_text_that_code_puts_in_order_keeps_the_carets_place)
+TEST_F(CasellaTestoTest, ATextThatCodeCorrectsKeepsTheCaretInItsPlace)
 {
     pronta();
     testo.Change.collega([this] { testo.setText(QString::number(testo.Text().toInt())); });
@@ -76,7 +78,7 @@ TEST_F(CasellaTestoTest, a_text_that_code_puts_in_order_keeps_the_carets_place)
     EXPECT_EQ(testo.cursorPosition(), 2);
 }
 
-TEST_F(CasellaTestoTest, each_typed_character_raises_change)
+TEST_F(CasellaTestoTest, EachTypedCharacterRaisesChange)
 {
     pronta();
     testo.selectAll();
@@ -86,7 +88,7 @@ TEST_F(CasellaTestoTest, each_typed_character_raises_change)
     EXPECT_EQ(modifiche.last(), u"4"_s);
 }
 
-TEST_F(CasellaTestoTest, sees_each_typed_character_before_it_is_in_the_text)
+TEST_F(CasellaTestoTest, SeesEachTypedCharacterBeforeItIsInTheText)
 {
     pronta();
     QStringList visti;
@@ -98,7 +100,7 @@ TEST_F(CasellaTestoTest, sees_each_typed_character_before_it_is_in_the_text)
     EXPECT_EQ(testo.Text(), u"a"_s);
 }
 
-TEST_F(CasellaTestoTest, its_handler_may_change_a_character)
+TEST_F(CasellaTestoTest, ItsHandlerMayChangeACharacter)
 {
     pronta();
     testo.KeyPress.collega([](int &tasto) {
@@ -110,7 +112,7 @@ TEST_F(CasellaTestoTest, its_handler_may_change_a_character)
     EXPECT_EQ(testo.Text(), u"½b"_s);
 }
 
-TEST_F(CasellaTestoTest, its_handler_may_drop_a_character)
+TEST_F(CasellaTestoTest, ItsHandlerMayDropACharacter)
 {
     pronta();
     testo.KeyPress.collega(&soloCifre);
@@ -123,7 +125,7 @@ TEST_F(CasellaTestoTest, its_handler_may_drop_a_character)
     EXPECT_EQ(testo.Text(), u"123"_s);
 }
 
-TEST_F(CasellaTestoTest, a_dropped_backspace_deletes_nothing)
+TEST_F(CasellaTestoTest, ADroppedBackspaceDeletesNothing)
 {
     pronta();
     testo.setText(u"12"_s);
@@ -132,7 +134,7 @@ TEST_F(CasellaTestoTest, a_dropped_backspace_deletes_nothing)
     EXPECT_EQ(testo.Text(), u"12"_s);
 }
 
-TEST_F(CasellaTestoTest, a_dropped_character_leaves_the_selected_text)
+TEST_F(CasellaTestoTest, ADroppedCharacterLeavesTheSelectedText)
 {
     pronta();
     testo.setText(u"12"_s);
@@ -144,7 +146,7 @@ TEST_F(CasellaTestoTest, a_dropped_character_leaves_the_selected_text)
     EXPECT_EQ(testo.Text(), u"5"_s);
 }
 
-TEST_F(CasellaTestoTest, keys_that_type_nothing_do_not_come_to_the_handler)
+TEST_F(CasellaTestoTest, KeysThatTypeNoCharacterDoNotReachTheHandler)
 {
     pronta();
     int volte = 0;
@@ -155,7 +157,7 @@ TEST_F(CasellaTestoTest, keys_that_type_nothing_do_not_come_to_the_handler)
     EXPECT_EQ(volte, 0);
 }
 
-TEST_F(CasellaTestoTest, characters_typed_with_alt_gr_are_characters)
+TEST_F(CasellaTestoTest, CharactersTypedWithAltGrAreTypedCharacters)
 {
     pronta();
     testo.clear();
@@ -168,7 +170,7 @@ TEST_F(CasellaTestoTest, characters_typed_with_alt_gr_are_characters)
     EXPECT_EQ(testo.Text(), u"@"_s);
 }
 
-TEST_F(CasellaTestoTest, pasted_text_is_not_filtered)
+TEST_F(CasellaTestoTest, PastedTextIsNotFiltered)
 {
     pronta();
     int volte = 0;
@@ -185,7 +187,7 @@ TEST_F(CasellaTestoTest, pasted_text_is_not_filtered)
     EXPECT_EQ(modifiche, QStringList{u"abc"_s});
 }
 
-TEST_F(CasellaTestoTest, a_line_break_becomes_a_blank_however_it_comes)
+TEST_F(CasellaTestoTest, ALineBreakBecomesABlankHoweverItIsEntered)
 {
     pronta();
     const QString conRotture = u"a\r\nb\nc\rd\u2028e\u2029f\u0085g\vh\fi"_s;
@@ -231,11 +233,11 @@ TEST_F(CasellaTestoTest, a_line_break_becomes_a_blank_however_it_comes)
         strada();
         EXPECT_EQ(testo.Text(), senza);
         for (const QString &visto : modifiche)
-            EXPECT_FALSE(visto.contains(u'\n')) << "a handler has seen it";
+            EXPECT_FALSE(visto.contains(u'\n')) << "a handler has seen the line break";
     }
 }
 
-TEST_F(CasellaTestoTest, a_character_composed_by_an_input_method_is_filtered_too)
+TEST_F(CasellaTestoTest, ACharacterComposedByAnInputMethodIsFilteredToo)
 {
     pronta();
     testo.KeyPress.collega(&soloCifre);
@@ -246,7 +248,7 @@ TEST_F(CasellaTestoTest, a_character_composed_by_an_input_method_is_filtered_too
     EXPECT_EQ(testo.Text(), u"3"_s);
 }
 
-TEST_F(CasellaTestoTest, takes_no_characters_while_it_is_read_only)
+TEST_F(CasellaTestoTest, TakesNoCharactersWhileItIsReadOnly)
 {
     pronta();
     testo.setReadOnly(true);
@@ -254,7 +256,7 @@ TEST_F(CasellaTestoTest, takes_no_characters_while_it_is_read_only)
     EXPECT_EQ(testo.Text(), u"1"_s);
 }
 
-TEST_F(CasellaTestoTest, loses_the_focus_by_the_tab_key)
+TEST_F(CasellaTestoTest, LosesTheFocusByTheTabKey)
 {
     pronta();
     QTest::keyClick(&testo, Qt::Key_Tab);
@@ -262,21 +264,21 @@ TEST_F(CasellaTestoTest, loses_the_focus_by_the_tab_key)
     EXPECT_EQ(lasciata, 1);
 }
 
-TEST_F(CasellaTestoTest, loses_the_focus_by_a_click_on_another_control)
+TEST_F(CasellaTestoTest, LosesTheFocusByAClickOnAnotherControl)
 {
     pronta();
     QTest::mouseClick(&altro, Qt::LeftButton);
     EXPECT_EQ(lasciata, 1);
 }
 
-TEST_F(CasellaTestoTest, loses_the_focus_by_code)
+TEST_F(CasellaTestoTest, LosesTheFocusByCode)
 {
     pronta();
     altro.SetFocus();
     EXPECT_EQ(lasciata, 1);
 }
 
-TEST_F(CasellaTestoTest, loses_the_focus_to_another_window_of_the_program_exactly_once)
+TEST_F(CasellaTestoTest, LosesTheFocusToAnotherWindowOfTheProgramExactlyOnce)
 {
     pronta();
     FinestraDiProva altra(u"frmAltra"_s);
@@ -289,7 +291,7 @@ TEST_F(CasellaTestoTest, loses_the_focus_to_another_window_of_the_program_exactl
     EXPECT_EQ(lasciata, 1);
 }
 
-TEST_F(CasellaTestoTest, loses_the_focus_to_another_window_that_has_no_control_for_it)
+TEST_F(CasellaTestoTest, LosesTheFocusToAnotherWindowThatHasNoControlForIt)
 {
     pronta();
     FinestraDiProva altra(u"frmAltra"_s);
@@ -297,7 +299,7 @@ TEST_F(CasellaTestoTest, loses_the_focus_to_another_window_that_has_no_control_f
     EXPECT_EQ(lasciata, 1);
 }
 
-TEST_F(CasellaTestoTest, keeps_the_focus_when_a_message_box_comes_to_the_front)
+TEST_F(CasellaTestoTest, KeepsTheFocusWhenAMessageBoxComesToTheFront)
 {
     pronta();
     mostraMessaggio();
@@ -305,7 +307,7 @@ TEST_F(CasellaTestoTest, keeps_the_focus_when_a_message_box_comes_to_the_front)
     EXPECT_EQ(lasciata, 0);
 }
 
-TEST_F(CasellaTestoTest, keeps_the_focus_when_another_program_comes_to_the_front)
+TEST_F(CasellaTestoTest, KeepsTheFocusWhenAnotherProgramComesToTheFront)
 {
     pronta();
     const AltroProgramma programma;
@@ -317,7 +319,7 @@ TEST_F(CasellaTestoTest, keeps_the_focus_when_another_program_comes_to_the_front
     EXPECT_EQ(lasciata, 0);
 }
 
-TEST_F(CasellaTestoTest, loses_the_focus_when_the_user_comes_back_from_another_program_elsewhere)
+TEST_F(CasellaTestoTest, LosesTheFocusWhenTheUserReturnsFromAnotherProgramToAnotherWindow)
 {
     FinestraDiProva altra(u"frmAltra"_s);
     CasellaTesto suo(u"txtSuo"_s, &altra);
@@ -331,7 +333,7 @@ TEST_F(CasellaTestoTest, loses_the_focus_when_the_user_comes_back_from_another_p
     EXPECT_EQ(lasciata, 1);
 }
 
-TEST_F(CasellaTestoTest, loses_the_focus_behind_a_message_box_that_leads_elsewhere)
+TEST_F(CasellaTestoTest, LosesTheFocusWhenAnotherControlGetsItAfterAMessageBox)
 {
     pronta();
     mostraMessaggio();
@@ -339,7 +341,7 @@ TEST_F(CasellaTestoTest, loses_the_focus_behind_a_message_box_that_leads_elsewhe
     EXPECT_EQ(lasciata, 1);
 }
 
-TEST_F(CasellaTestoTest, its_menu_takes_no_focus_away)
+TEST_F(CasellaTestoTest, ItsMenuDoesNotTakeTheFocusAway)
 {
     pronta();
     std::unique_ptr<QMenu> menu(testo.createStandardContextMenu());
@@ -349,7 +351,7 @@ TEST_F(CasellaTestoTest, its_menu_takes_no_focus_away)
     EXPECT_EQ(lasciata, 0);
 }
 
-TEST_F(CasellaTestoTest, its_handler_may_show_a_message_and_take_the_focus_back)
+TEST_F(CasellaTestoTest, ItsHandlerMayShowAMessageAndTakeTheFocusBack)
 {
     pronta();
     int messaggi = 0;
@@ -369,7 +371,7 @@ TEST_F(CasellaTestoTest, its_handler_may_show_a_message_and_take_the_focus_back)
     EXPECT_TRUE(testo.Text().contains(u'5'));
 }
 
-TEST_F(CasellaTestoTest, a_click_on_a_button_whose_way_a_message_crosses_leaves_all_in_order)
+TEST_F(CasellaTestoTest, AClickOnAButtonIsCompletedEvenIfAMessageBoxComesBetween)
 {
     pronta();
     lasciando = [&] {
@@ -380,7 +382,7 @@ TEST_F(CasellaTestoTest, a_click_on_a_button_whose_way_a_message_crosses_leaves_
     int click = 0;
     pulsante.Click.collega([&] {
         ++click;
-        EXPECT_EQ(lasciata, 1) << "the focus moves before the click";
+        EXPECT_EQ(lasciata, 1) << "the focus must move before the click";
     });
     QTest::mouseClick(&pulsante, Qt::LeftButton);
     finestra.activateWindow();
@@ -391,7 +393,7 @@ TEST_F(CasellaTestoTest, a_click_on_a_button_whose_way_a_message_crosses_leaves_
     EXPECT_FALSE(pulsante.isDown());
 }
 
-TEST_F(CasellaTestoTest, enter_on_the_default_button_clicks_it_and_does_not_move_the_focus)
+TEST_F(CasellaTestoTest, EnterOnTheDefaultButtonClicksItAndDoesNotMoveTheFocus)
 {
     pronta();
     int click = 0;
@@ -404,7 +406,7 @@ TEST_F(CasellaTestoTest, enter_on_the_default_button_clicks_it_and_does_not_move
     EXPECT_TRUE(testo.hasFocus());
 }
 
-TEST_F(CasellaTestoTest, escape_clicks_the_cancel_button)
+TEST_F(CasellaTestoTest, EscapeClicksTheCancelButton)
 {
     pronta();
     int click = 0;
@@ -415,7 +417,7 @@ TEST_F(CasellaTestoTest, escape_clicks_the_cancel_button)
     EXPECT_EQ(lasciata, 0);
 }
 
-TEST_F(CasellaTestoTest, a_click_in_it_raises_click)
+TEST_F(CasellaTestoTest, AClickInItRaisesClick)
 {
     pronta();
     int click = 0;

@@ -1,10 +1,12 @@
 #include "controls/Combo.h"
 
-#include "tests/support/Controlli.h"
 #include "controls/Pulsanti.h"
+#include "tests/support/Controlli.h"
 
 #include <QAbstractItemView>
 #include <QLineEdit>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -22,13 +24,13 @@ struct ComboTest : ::testing::Test
         editabile.move(0, 50);
         pulsante.move(0, 100);
     }
-    // As the user does it: opens the list and clicks on the row.
+    // As a user does: opens the list and clicks on the row.
     static void scegli(Combo &combo, int riga)
     {
         combo.showPopup();
         ASSERT_TRUE(attendi([&] { return combo.view()->isVisible(); }));
         const QPoint punto = combo.view()->visualRect(combo.model()->index(riga, 0)).center();
-        // The list takes a release for a slip that comes within the double click's time.
+        // The list ignores a release within the double-click time after it has opened.
         QTest::mouseMove(combo.view()->viewport(), punto);
         QTest::qWait(QApplication::doubleClickInterval() + 20);
         QTest::mouseClick(combo.view()->viewport(), Qt::LeftButton, {}, punto);
@@ -51,7 +53,7 @@ struct ComboTest : ::testing::Test
 
 } // namespace
 
-TEST_F(ComboTest, nothing_is_selected_at_first)
+TEST_F(ComboTest, NothingIsSelectedAtFirst)
 {
     for (const Combo *combo : {&fisso, &editabile}) {
         EXPECT_EQ(combo->ListIndex(), -1);
@@ -62,7 +64,7 @@ TEST_F(ComboTest, nothing_is_selected_at_first)
     EXPECT_EQ(modifiche, 0);
 }
 
-TEST_F(ComboTest, its_state_is_found_in_properties_and_in_the_model)
+TEST_F(ComboTest, ItsStateIsFoundInPropertiesAndInTheModel)
 {
     EXPECT_TRUE(editabile.setProperty("ListIndex", 1));
     EXPECT_EQ(editabile.property("ListIndex").toInt(), 1);
@@ -71,7 +73,7 @@ TEST_F(ComboTest, its_state_is_found_in_properties_and_in_the_model)
     EXPECT_EQ(editabile.model()->index(2, 0).data().toString(), u"~"_s);
 }
 
-TEST_F(ComboTest, a_change_by_code_raises_click_at_once)
+TEST_F(ComboTest, AChangeByCodeRaisesClickAtOnce)
 {
     fisso.setListIndex(0);
     editabile.setListIndex(2);
@@ -79,14 +81,14 @@ TEST_F(ComboTest, a_change_by_code_raises_click_at_once)
     EXPECT_EQ(editabile.Text(), u"~"_s);
 }
 
-TEST_F(ComboTest, setting_the_row_that_is_selected_already_raises_nothing)
+TEST_F(ComboTest, SettingTheRowThatIsSelectedAlreadyRaisesNothing)
 {
     fisso.setListIndex(1);
     fisso.setListIndex(1);
     EXPECT_EQ(click, QList<int>{1});
 }
 
-TEST_F(ComboTest, setting_minus_1_clears_and_raises_nothing)
+TEST_F(ComboTest, SettingMinus1ClearsAndRaisesNothing)
 {
     for (Combo *combo : {&fisso, &editabile}) {
         combo->setListIndex(1);
@@ -98,7 +100,7 @@ TEST_F(ComboTest, setting_minus_1_clears_and_raises_nothing)
     }
 }
 
-TEST_F(ComboTest, a_row_that_is_not_there_is_error_380_and_changes_nothing)
+TEST_F(ComboTest, ARowThatDoesNotExistGivesError380AndChangesNothing)
 {
     for (Combo *combo : {&fisso, &editabile}) {
         combo->setListIndex(1);
@@ -112,7 +114,7 @@ TEST_F(ComboTest, a_row_that_is_not_there_is_error_380_and_changes_nothing)
     EXPECT_EQ(fisso.List(2), u"~"_s);
 }
 
-TEST_F(ComboTest, choosing_an_item_raises_click_once)
+TEST_F(ComboTest, ChoosingAnItemRaisesClickOnce)
 {
     finestra.mostraAttiva();
     scegli(fisso, 2);
@@ -120,7 +122,7 @@ TEST_F(ComboTest, choosing_an_item_raises_click_once)
     EXPECT_EQ(click, QList<int>{2});
 }
 
-TEST_F(ComboTest, choosing_the_same_item_again_raises_click_again)
+TEST_F(ComboTest, ChoosingTheSameItemAgainRaisesClickAgain)
 {
     finestra.mostraAttiva();
     fisso.setListIndex(2);
@@ -128,7 +130,7 @@ TEST_F(ComboTest, choosing_the_same_item_again_raises_click_again)
     EXPECT_EQ(click, (QList<int>{2, 2}));
 }
 
-TEST_F(ComboTest, the_arrow_keys_change_the_choice_and_raise_click)
+TEST_F(ComboTest, TheArrowKeysChangeTheChoiceAndRaiseClick)
 {
     finestra.mostraAttiva();
     fisso.setListIndex(0);
@@ -138,7 +140,7 @@ TEST_F(ComboTest, the_arrow_keys_change_the_choice_and_raise_click)
     EXPECT_EQ(fisso.ListIndex(), 1);
 }
 
-TEST_F(ComboTest, typed_text_is_no_selection)
+TEST_F(ComboTest, TypedTextSelectsNoRow)
 {
     finestra.mostraAttiva();
     editabile.setListIndex(2);
@@ -150,7 +152,7 @@ TEST_F(ComboTest, typed_text_is_no_selection)
     EXPECT_EQ(modifiche, 1);
 }
 
-TEST_F(ComboTest, typed_text_is_no_selection_also_when_it_equals_an_item)
+TEST_F(ComboTest, TypedTextSelectsNoRowEvenIfItEqualsAnItem)
 {
     finestra.mostraAttiva();
     batti(u"~"_s);
@@ -159,7 +161,7 @@ TEST_F(ComboTest, typed_text_is_no_selection_also_when_it_equals_an_item)
     EXPECT_TRUE(click.isEmpty());
 }
 
-TEST_F(ComboTest, enter_does_not_look_typed_text_up)
+TEST_F(ComboTest, EnterDoesNotSelectTheRowOfATypedText)
 {
     finestra.mostraAttiva();
     editabile.setListIndex(0);
@@ -169,10 +171,10 @@ TEST_F(ComboTest, enter_does_not_look_typed_text_up)
     QTest::keyClick(&editabile, Qt::Key_Enter);
     EXPECT_EQ(editabile.ListIndex(), -1);
     EXPECT_TRUE(click.isEmpty());
-    EXPECT_EQ(editabile.ListCount(), 3) << "it must not be added either";
+    EXPECT_EQ(editabile.ListCount(), 3) << "the text must not be added to the list";
 }
 
-TEST_F(ComboTest, leaving_the_box_does_not_look_typed_text_up)
+TEST_F(ComboTest, LeavingTheBoxDoesNotSelectTheRowOfATypedText)
 {
     finestra.mostraAttiva();
     editabile.setListIndex(0);
@@ -184,7 +186,7 @@ TEST_F(ComboTest, leaving_the_box_does_not_look_typed_text_up)
     EXPECT_TRUE(click.isEmpty());
 }
 
-TEST_F(ComboTest, choosing_the_item_that_was_selected_before_typing_restores_it)
+TEST_F(ComboTest, ChoosingTheItemThatWasSelectedBeforeTypingRestoresIt)
 {
     finestra.mostraAttiva();
     editabile.setListIndex(2);
@@ -196,7 +198,7 @@ TEST_F(ComboTest, choosing_the_item_that_was_selected_before_typing_restores_it)
     EXPECT_EQ(click, QList<int>{2});
 }
 
-TEST_F(ComboTest, setting_the_row_that_was_selected_before_typing_restores_it)
+TEST_F(ComboTest, SettingTheRowThatWasSelectedBeforeTypingRestoresIt)
 {
     finestra.mostraAttiva();
     editabile.setListIndex(2);
@@ -208,7 +210,7 @@ TEST_F(ComboTest, setting_the_row_that_was_selected_before_typing_restores_it)
     EXPECT_EQ(click, QList<int>{2});
 }
 
-TEST_F(ComboTest, setting_minus_1_clears_typed_text)
+TEST_F(ComboTest, SettingMinus1ClearsTypedText)
 {
     finestra.mostraAttiva();
     batti(u"5"_s);
@@ -216,7 +218,7 @@ TEST_F(ComboTest, setting_minus_1_clears_typed_text)
     EXPECT_EQ(editabile.Text(), QString());
 }
 
-TEST_F(ComboTest, typed_text_survives_rows_that_come_and_go)
+TEST_F(ComboTest, TypedTextSurvivesTheAddingAndRemovingOfRows)
 {
     finestra.mostraAttiva();
     editabile.setListIndex(0);
@@ -229,7 +231,7 @@ TEST_F(ComboTest, typed_text_survives_rows_that_come_and_go)
     EXPECT_TRUE(click.isEmpty());
 }
 
-TEST_F(ComboTest, after_removing_the_selected_row_nothing_is_selected)
+TEST_F(ComboTest, AfterRemovingTheSelectedRowNothingIsSelected)
 {
     for (Combo *combo : {&fisso, &editabile}) {
         combo->setListIndex(1);
@@ -241,7 +243,7 @@ TEST_F(ComboTest, after_removing_the_selected_row_nothing_is_selected)
     }
 }
 
-TEST_F(ComboTest, the_selection_stays_with_its_row_when_others_go)
+TEST_F(ComboTest, TheSelectionStaysWithItsRowWhenOthersAreRemoved)
 {
     fisso.setListIndex(2);
     click.clear();
@@ -251,14 +253,14 @@ TEST_F(ComboTest, the_selection_stays_with_its_row_when_others_go)
     EXPECT_TRUE(click.isEmpty());
 }
 
-TEST_F(ComboTest, removing_a_row_that_is_not_there_is_error_5)
+TEST_F(ComboTest, RemovingARowThatDoesNotExistGivesError5)
 {
     for (const int cattiva : {-1, 3})
         EXPECT_EQ(erroreDi([&] { fisso.RemoveItem(cattiva); }), 5) << cattiva;
     EXPECT_EQ(fisso.ListCount(), 3);
 }
 
-TEST_F(ComboTest, clearing_leaves_nothing_selected_and_raises_nothing)
+TEST_F(ComboTest, ClearingLeavesNothingSelectedAndRaisesNothing)
 {
     for (Combo *combo : {&fisso, &editabile}) {
         combo->setListIndex(1);
@@ -274,7 +276,7 @@ TEST_F(ComboTest, clearing_leaves_nothing_selected_and_raises_nothing)
     }
 }
 
-TEST_F(ComboTest, the_wheel_over_a_box_without_the_focus_changes_nothing)
+TEST_F(ComboTest, TheWheelOverABoxWithoutTheFocusChangesNothing)
 {
     pulsante.setGeometry(0, 100, 80, 25);
     finestra.mostraAttiva();
@@ -299,7 +301,7 @@ TEST_F(ComboTest, the_wheel_over_a_box_without_the_focus_changes_nothing)
     }
 }
 
-TEST_F(ComboTest, it_reports_that_its_list_has_gone_before_the_click_of_a_choice)
+TEST_F(ComboTest, ItReportsThatItsListHasClosedBeforeTheClickOfAChoice)
 {
     finestra.mostraAttiva();
     QStringList visti;

@@ -1,7 +1,9 @@
-// What all controls have in common, shown on an image.
-#include "tests/support/Controlli.h"
+// What all controls have in common, tested with an image.
 #include "controls/Grafica.h"
 #include "controls/Unita.h"
+#include "tests/support/Controlli.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,13 +20,13 @@ struct ControlloTest : ::testing::Test
 
 } // namespace
 
-TEST_F(ControlloTest, is_found_by_its_name)
+TEST_F(ControlloTest, IsFoundByItsName)
 {
     EXPECT_EQ(finestra.findChild<QWidget *>(u"imgFreccia(1)"_s), &controllo);
     EXPECT_EQ(finestra.objectName(), u"frmProva"_s);
 }
 
-TEST_F(ControlloTest, has_a_tag_and_its_state_as_properties)
+TEST_F(ControlloTest, HasATagAndItsStateAsProperties)
 {
     QWidget *trovato = &controllo;
     EXPECT_EQ(trovato->property("Tag").toString(), QString());
@@ -36,7 +38,7 @@ TEST_F(ControlloTest, has_a_tag_and_its_state_as_properties)
     EXPECT_FALSE(controllo.Visible());
 }
 
-TEST_F(ControlloTest, is_visible_as_set_though_its_window_is_hidden)
+TEST_F(ControlloTest, IsVisibleAsSetEvenIfItsWindowIsHidden)
 {
     finestra.Nascondi();
     EXPECT_TRUE(controllo.Visible());
@@ -44,7 +46,7 @@ TEST_F(ControlloTest, is_visible_as_set_though_its_window_is_hidden)
     EXPECT_FALSE(controllo.Visible());
 }
 
-TEST_F(ControlloTest, stands_in_layout_units_15_to_a_pixel)
+TEST_F(ControlloTest, HasItsGeometryInLayoutUnits15ToAPixel)
 {
     EXPECT_EQ(controllo.Left(), 150);
     EXPECT_EQ(controllo.Top(), 300);
@@ -55,7 +57,7 @@ TEST_F(ControlloTest, stands_in_layout_units_15_to_a_pixel)
     EXPECT_EQ(controllo.size(), QSize(40, 30));
 }
 
-TEST(Unita, are_rounded_to_the_next_pixel)
+TEST(Unita, AreRoundedToTheNearestPixel)
 {
     EXPECT_EQ(Unita::pixel(0), 0);
     EXPECT_EQ(Unita::pixel(15), 1);
@@ -65,7 +67,7 @@ TEST(Unita, are_rounded_to_the_next_pixel)
     EXPECT_EQ(Unita::unita(2), 30);
 }
 
-TEST_F(ControlloTest, tells_which_mouse_button_was_pressed_and_where)
+TEST_F(ControlloTest, ReportsWhichMouseButtonWasPressedAndWhere)
 {
     QList<double> visti;
     const auto annota = [&](int tasto, int maiuscole, double x, double y) {
@@ -86,7 +88,7 @@ TEST_F(ControlloTest, tells_which_mouse_button_was_pressed_and_where)
     }
 }
 
-TEST_F(ControlloTest, sees_the_mouse_move_without_a_button)
+TEST_F(ControlloTest, SeesTheMouseMoveWithoutAButton)
 {
     QList<double> visti;
     controllo.MouseMove.collega([&](int tasti, int, double x, double y) {
@@ -96,7 +98,7 @@ TEST_F(ControlloTest, sees_the_mouse_move_without_a_button)
     EXPECT_EQ(visti, (QList<double>{0, 45, 60}));
 }
 
-TEST_F(ControlloTest, a_click_comes_behind_the_release_of_the_left_button)
+TEST_F(ControlloTest, AClickComesAfterTheReleaseOfTheLeftButton)
 {
     QStringList ordine;
     controllo.MouseDown.collega([&](int, int, double, double) { ordine += u"giù"_s; });
@@ -106,7 +108,7 @@ TEST_F(ControlloTest, a_click_comes_behind_the_release_of_the_left_button)
     EXPECT_EQ(ordine, (QStringList{u"giù"_s, u"su"_s, u"click"_s}));
 }
 
-TEST_F(ControlloTest, no_click_comes_of_another_button_or_of_a_release_outside)
+TEST_F(ControlloTest, AnotherButtonOrAReleaseOutsideGivesNoClick)
 {
     int volte = 0;
     controllo.Click.collega([&] { ++volte; });
@@ -116,7 +118,7 @@ TEST_F(ControlloTest, no_click_comes_of_another_button_or_of_a_release_outside)
     EXPECT_EQ(volte, 0);
 }
 
-TEST_F(ControlloTest, the_second_press_of_a_double_click_is_a_press_but_no_click)
+TEST_F(ControlloTest, TheSecondPressOfADoubleClickIsAPressButNoClick)
 {
     int premuto = 0;
     int click = 0;
@@ -129,10 +131,10 @@ TEST_F(ControlloTest, the_second_press_of_a_double_click_is_a_press_but_no_click
     EXPECT_EQ(doppi, 1);
     EXPECT_EQ(click, 1);
     QTest::mouseClick(finestra.windowHandle(), Qt::LeftButton, {}, {30, 35});
-    EXPECT_EQ(click, 2) << "the press after it is a click again";
+    EXPECT_EQ(click, 2) << "a press after the double click must give a click again";
 }
 
-TEST_F(ControlloTest, a_double_click_is_a_further_click_where_that_was_asked_for)
+TEST_F(ControlloTest, ADoubleClickGivesASecondClickIfThatWasRequested)
 {
     int click = 0;
     controllo.Click.collega([&] { ++click; });
@@ -143,11 +145,11 @@ TEST_F(ControlloTest, a_double_click_is_a_further_click_where_that_was_asked_for
     EXPECT_EQ(click, 2);
 }
 
-TEST_F(ControlloTest, a_double_click_whose_first_press_was_elsewhere_is_a_click)
+TEST_F(ControlloTest, ADoubleClickWhoseFirstPressWasElsewhereIsAClick)
 {
     int click = 0;
     controllo.Click.collega([&] { ++click; });
-    // Up to 5 pixels apart Qt takes two presses for a double click.
+    // Qt takes two presses up to 5 pixels apart for a double click.
     QTest::mouseMove(finestra.windowHandle(), {9, 30});
     QTest::mousePress(finestra.windowHandle(), Qt::LeftButton, {}, {9, 30});
     QTest::mouseRelease(finestra.windowHandle(), Qt::LeftButton, {}, {9, 30});
@@ -159,7 +161,7 @@ TEST_F(ControlloTest, a_double_click_whose_first_press_was_elsewhere_is_a_click)
     EXPECT_EQ(click, 1);
 }
 
-TEST_F(ControlloTest, a_click_at_the_edge_of_what_its_press_moves_is_a_click)
+TEST_F(ControlloTest, AClickAtTheEdgeCountsEvenIfThePressMovesTheControl)
 {
     int click = 0;
     controllo.MouseDown.collega(
@@ -172,7 +174,7 @@ TEST_F(ControlloTest, a_click_at_the_edge_of_what_its_press_moves_is_a_click)
     EXPECT_EQ(click, 4);
 }
 
-TEST_F(ControlloTest, a_further_button_does_not_take_the_click_away)
+TEST_F(ControlloTest, AnotherButtonPressedMeanwhileDoesNotCancelTheClick)
 {
     int click = 0;
     controllo.Click.collega([&] { ++click; });
@@ -184,7 +186,7 @@ TEST_F(ControlloTest, a_further_button_does_not_take_the_click_away)
     EXPECT_EQ(click, 1);
 }
 
-TEST_F(ControlloTest, a_tag_that_shows_an_owner_is_read_from_it_and_written_to_it)
+TEST_F(ControlloTest, ATagThatShowsAnOwnerIsReadFromItAndWrittenToIt)
 {
     QString stato = u"primo"_s;
     controllo.mostraTag([&] { return stato; }, [&](const QString &testo) { stato = testo; });
@@ -197,7 +199,7 @@ TEST_F(ControlloTest, a_tag_that_shows_an_owner_is_read_from_it_and_written_to_i
     EXPECT_EQ(controllo.property("Tag").toString(), u"altro"_s);
 }
 
-TEST_F(ControlloTest, disabled_it_gets_no_mouse_events)
+TEST_F(ControlloTest, WhenDisabledItGetsNoMouseEvents)
 {
     int volte = 0;
     controllo.Click.collega([&] { ++volte; });
@@ -207,7 +209,7 @@ TEST_F(ControlloTest, disabled_it_gets_no_mouse_events)
     EXPECT_EQ(volte, 0);
 }
 
-TEST_F(ControlloTest, cannot_be_given_the_focus_while_it_is_hidden_or_disabled)
+TEST_F(ControlloTest, CannotBeGivenTheFocusWhileItIsHiddenOrDisabled)
 {
     controllo.setFocusPolicy(Qt::StrongFocus);
     controllo.setVisible(false);

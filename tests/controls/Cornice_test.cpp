@@ -1,11 +1,13 @@
 #include "controls/Cornice.h"
 
-#include "tests/support/Controlli.h"
 #include "controls/CasellaTesto.h"
+#include "tests/support/Controlli.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-// How much of a colour, or of something near it, a picture holds.
+// How many pixels of a picture have this colour or one close to it.
 int punti(const QImage &visto, const QColor &colore)
 {
     const auto vicino = [](int uno, int altro) { return std::abs(uno - altro) < 40; };
@@ -32,14 +34,14 @@ struct CorniceTest : ::testing::Test
 
 } // namespace
 
-TEST_F(CorniceTest, its_caption_is_a_property)
+TEST_F(CorniceTest, ItsCaptionIsAProperty)
 {
     EXPECT_EQ(cornice.Caption(), u"Sensori a ultrasuoni"_s);
     EXPECT_TRUE(cornice.setProperty("Caption", u"Orario"_s));
     EXPECT_EQ(cornice.Caption(), u"Orario"_s);
 }
 
-TEST_F(CorniceTest, the_colour_of_its_caption_can_be_set_and_seen)
+TEST_F(CorniceTest, TheColourOfItsCaptionCanBeSetAndSeen)
 {
     EXPECT_EQ(cornice.ForeColor(), cornice.palette().color(QPalette::WindowText));
     finestra.mostraAttiva();
@@ -50,7 +52,7 @@ TEST_F(CorniceTest, the_colour_of_its_caption_can_be_set_and_seen)
     EXPECT_GT(punti(cornice.grab().toImage(), rosso), 20);
 }
 
-TEST_F(CorniceTest, its_colour_is_not_handed_on_to_what_lies_in_it)
+TEST_F(CorniceTest, ItsColourIsNotInheritedByItsContents)
 {
     const Etichetta etichetta(u"lblOre"_s, &cornice, u"Ore"_s);
     const QPalette prima = etichetta.palette();
@@ -58,7 +60,7 @@ TEST_F(CorniceTest, its_colour_is_not_handed_on_to_what_lies_in_it)
     EXPECT_EQ(etichetta.palette(), prima);
 }
 
-TEST_F(CorniceTest, in_a_dark_theme_a_light_plate_carries_the_stated_colour)
+TEST_F(CorniceTest, OnADarkGroundAColouredCaptionGetsALightPlate)
 {
     QPalette scura;
     scura.setColor(QPalette::Base, QColor(0x2A, 0x2C, 0x30));
@@ -68,7 +70,7 @@ TEST_F(CorniceTest, in_a_dark_theme_a_light_plate_carries_the_stated_colour)
     EXPECT_GT(punti(cornice.grab().toImage(), QColor(0xEE, 0xF4, 0xF8)), 200);
 }
 
-TEST_F(CorniceTest, a_click_on_it_raises_click_and_one_on_what_lies_in_it_does_not)
+TEST_F(CorniceTest, AClickOnItRaisesClickAndAClickOnItsContentsDoesNot)
 {
     CasellaTesto testo(u"txtOre"_s, &cornice);
     testo.setGeometry(100, 30, 50, 30);
@@ -78,11 +80,11 @@ TEST_F(CorniceTest, a_click_on_it_raises_click_and_one_on_what_lies_in_it_does_n
         QTest::mouseClick(finestra.windowHandle(), pulsante, {}, cornice.mapTo(&finestra, punto));
     };
     clicca({40, 20});
-    EXPECT_EQ(volte, 1) << "the caption";
+    EXPECT_EQ(volte, 1) << "a click on the caption";
     clicca({40, 60});
     EXPECT_EQ(volte, 2);
     clicca({120, 45});
-    EXPECT_EQ(volte, 2) << "the text box";
+    EXPECT_EQ(volte, 2) << "a click on the text box must not count";
     clicca({40, 60}, Qt::RightButton);
     EXPECT_EQ(volte, 2);
 }

@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct ElencoFileTest : ::testing::Test
@@ -30,7 +32,7 @@ struct ElencoFileTest : ::testing::Test
 
 } // namespace
 
-TEST_F(ElencoFileTest, lists_the_files_of_the_pattern_sorted_without_regard_to_case)
+TEST_F(ElencoFileTest, ListsTheFilesOfThePatternSortedWithoutRegardToCase)
 {
     crea({u"beta.sqm"_s, u"Alfa.sqm"_s, u"gamma.SQM"_s, u"altro.txt"_s, u"sqm"_s, u"x.sqm.bak"_s});
     QDir(cartella.path()).mkdir(u"cartella.sqm"_s);
@@ -38,7 +40,7 @@ TEST_F(ElencoFileTest, lists_the_files_of_the_pattern_sorted_without_regard_to_c
     EXPECT_EQ(righe(lista), (QStringList{u"Alfa.sqm"_s, u"beta.sqm"_s, u"gamma.SQM"_s}));
 }
 
-TEST_F(ElencoFileTest, is_hidden_and_found_by_its_name)
+TEST_F(ElencoFileTest, IsHiddenAndFoundByItsName)
 {
     const ElencoFile lista(u"File"_s, &finestra, cartella.path(), u"*.sqm"_s);
     finestra.mostraAttiva();
@@ -46,7 +48,7 @@ TEST_F(ElencoFileTest, is_hidden_and_found_by_its_name)
     EXPECT_TRUE(finestra.findChild<ElencoFile *>(u"File"_s));
 }
 
-TEST_F(ElencoFileTest, shows_new_files_when_it_is_refreshed)
+TEST_F(ElencoFileTest, ShowsNewFilesWhenItIsRefreshed)
 {
     ElencoFile lista(u"File"_s, &finestra, cartella.path(), u"*.sqm"_s);
     int volte = 0;
@@ -64,7 +66,7 @@ TEST_F(ElencoFileTest, shows_new_files_when_it_is_refreshed)
     EXPECT_EQ(righe(lista), (QStringList{u"a.sqm"_s, u"b.sqm"_s}));
 }
 
-TEST_F(ElencoFileTest, takes_another_folder_and_other_patterns)
+TEST_F(ElencoFileTest, TakesAnotherFolderAndOtherPatterns)
 {
     crea({u"a.sqm"_s, u"b.vgp"_s, u"c.txt"_s});
     ElencoFile lista(u"File"_s, &finestra, u"/not-there"_s, u"*.sqm"_s);
@@ -75,7 +77,7 @@ TEST_F(ElencoFileTest, takes_another_folder_and_other_patterns)
     EXPECT_EQ(righe(lista), (QStringList{u"a.sqm"_s, u"b.vgp"_s}));
 }
 
-TEST_F(ElencoFileTest, a_row_that_is_not_there_is_an_error)
+TEST_F(ElencoFileTest, ARowThatDoesNotExistGivesAnError)
 {
     const ElencoFile lista(u"File"_s, &finestra, cartella.path(), u"*.sqm"_s);
     EXPECT_EQ(erroreDi([&] { lista.List(0); }), 380);

@@ -2,6 +2,8 @@
 
 #include "tests/support/Controlli.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct ElencoTest : ::testing::Test
@@ -23,7 +25,7 @@ struct ElencoTest : ::testing::Test
     {
         QTest::mouseClick(quale.viewport(), Qt::LeftButton, con, punto(quale, riga));
     }
-    // The second press alone, as the window system gives it.
+    // Only the second press of a double click, as the window system sends it.
     static void doppioClick(Elenco &quale, Qt::MouseButton pulsante, QPoint dove)
     {
         QWidget &sopra = *quale.viewport();
@@ -70,7 +72,7 @@ struct ElencoConSpunteTest : ElencoTest
 
 } // namespace
 
-TEST_F(ElencoTest, its_state_is_found_in_properties_and_in_the_model)
+TEST_F(ElencoTest, ItsStateIsFoundInPropertiesAndInTheModel)
 {
     lista.setListIndex(2);
     EXPECT_EQ(lista.property("ListIndex").toInt(), 2);
@@ -79,7 +81,7 @@ TEST_F(ElencoTest, its_state_is_found_in_properties_and_in_the_model)
     EXPECT_EQ(lista.model()->index(3, 0).data().toString(), u"tre"_s);
 }
 
-TEST_F(ElencoTest, nothing_is_selected_at_first)
+TEST_F(ElencoTest, NothingIsSelectedAtFirst)
 {
     EXPECT_EQ(lista.ListIndex(), -1);
     EXPECT_EQ(lista.Text(), QString());
@@ -87,7 +89,7 @@ TEST_F(ElencoTest, nothing_is_selected_at_first)
     EXPECT_EQ(lista.ListIndex(), -1);
 }
 
-TEST_F(ElencoTest, a_change_by_code_raises_click_at_once)
+TEST_F(ElencoTest, AChangeByCodeRaisesClickAtOnce)
 {
     lista.setListIndex(1);
     EXPECT_EQ(click, QList<int>{1});
@@ -95,14 +97,14 @@ TEST_F(ElencoTest, a_change_by_code_raises_click_at_once)
     EXPECT_EQ(click, (QList<int>{1, 3}));
 }
 
-TEST_F(ElencoTest, setting_the_row_that_is_selected_already_raises_nothing)
+TEST_F(ElencoTest, SettingTheRowThatIsSelectedAlreadyRaisesNothing)
 {
     lista.setListIndex(1);
     lista.setListIndex(1);
     EXPECT_EQ(click, QList<int>{1});
 }
 
-TEST_F(ElencoTest, setting_minus_1_clears_the_selection_and_raises_nothing)
+TEST_F(ElencoTest, SettingMinus1ClearsTheSelectionAndRaisesNothing)
 {
     lista.setListIndex(1);
     lista.setListIndex(-1);
@@ -114,7 +116,7 @@ TEST_F(ElencoTest, setting_minus_1_clears_the_selection_and_raises_nothing)
     EXPECT_EQ(click, (QList<int>{1, 1}));
 }
 
-TEST_F(ElencoTest, a_row_that_is_not_there_is_error_380_and_changes_nothing)
+TEST_F(ElencoTest, ARowThatDoesNotExistGivesError380AndChangesNothing)
 {
     lista.setListIndex(1);
     for (const int cattiva : {-2, 4, 100, std::numeric_limits<int>::min()})
@@ -126,14 +128,14 @@ TEST_F(ElencoTest, a_row_that_is_not_there_is_error_380_and_changes_nothing)
     EXPECT_EQ(erroreDi([&] { lista.setListIndex(-1); }), 0);
 }
 
-TEST_F(ElencoTest, a_mouse_click_selects_and_raises_click_once)
+TEST_F(ElencoTest, AMouseClickSelectsAndRaisesClickOnce)
 {
     finestra.mostraAttiva();
     premi(lista, 2);
     EXPECT_EQ(click, QList<int>{2});
 }
 
-TEST_F(ElencoTest, a_mouse_click_on_the_selected_row_raises_click_again)
+TEST_F(ElencoTest, AMouseClickOnTheSelectedRowRaisesClickAgain)
 {
     finestra.mostraAttiva();
     lista.setListIndex(2);
@@ -141,7 +143,7 @@ TEST_F(ElencoTest, a_mouse_click_on_the_selected_row_raises_click_again)
     EXPECT_EQ(click, (QList<int>{2, 2}));
 }
 
-TEST_F(ElencoTest, a_click_with_the_control_key_held_keeps_the_row_selected)
+TEST_F(ElencoTest, AClickWithTheControlKeyHeldKeepsTheRowSelected)
 {
     finestra.mostraAttiva();
     premi(lista, 2);
@@ -150,7 +152,7 @@ TEST_F(ElencoTest, a_click_with_the_control_key_held_keeps_the_row_selected)
     EXPECT_TRUE(lista.item(2)->isSelected());
 }
 
-TEST_F(ElencoTest, a_click_beside_the_rows_raises_nothing_and_leaves_the_row_selected)
+TEST_F(ElencoTest, AClickBelowTheRowsRaisesNothingAndLeavesTheRowSelected)
 {
     finestra.mostraAttiva();
     lista.setListIndex(2);
@@ -163,7 +165,7 @@ TEST_F(ElencoTest, a_click_beside_the_rows_raises_nothing_and_leaves_the_row_sel
     }
 }
 
-TEST_F(ElencoTest, the_arrow_keys_move_the_selection_and_raise_click)
+TEST_F(ElencoTest, TheArrowKeysMoveTheSelectionAndRaiseClick)
 {
     finestra.mostraAttiva();
     lista.setListIndex(1);
@@ -172,7 +174,7 @@ TEST_F(ElencoTest, the_arrow_keys_move_the_selection_and_raise_click)
     EXPECT_EQ(click, (QList<int>{1, 2, 1}));
 }
 
-TEST_F(ElencoTest, the_focus_coming_in_selects_nothing)
+TEST_F(ElencoTest, GettingTheFocusSelectsNothing)
 {
     finestra.mostraAttiva();
     finestra.setFocus();
@@ -183,7 +185,7 @@ TEST_F(ElencoTest, the_focus_coming_in_selects_nothing)
     EXPECT_TRUE(click.isEmpty());
 }
 
-TEST_F(ElencoTest, the_window_coming_back_to_the_front_selects_nothing)
+TEST_F(ElencoTest, ReturningToTheWindowSelectsNothing)
 {
     finestra.mostraAttiva();
     lista.SetFocus();
@@ -195,7 +197,7 @@ TEST_F(ElencoTest, the_window_coming_back_to_the_front_selects_nothing)
     EXPECT_TRUE(click.isEmpty());
 }
 
-TEST_F(ElencoTest, after_removing_the_selected_row_nothing_is_selected)
+TEST_F(ElencoTest, AfterRemovingTheSelectedRowNothingIsSelected)
 {
     for (const int quale : {0, 1, 0, 0}) {
         lista.setListIndex(quale);
@@ -208,7 +210,7 @@ TEST_F(ElencoTest, after_removing_the_selected_row_nothing_is_selected)
     EXPECT_EQ(lista.ListCount(), 0);
 }
 
-TEST_F(ElencoTest, the_selection_stays_with_its_row_when_others_come_and_go)
+TEST_F(ElencoTest, TheSelectionStaysWithItsRowWhenOthersAreAddedOrRemoved)
 {
     lista.setListIndex(2);
     click.clear();
@@ -223,7 +225,7 @@ TEST_F(ElencoTest, the_selection_stays_with_its_row_when_others_come_and_go)
     EXPECT_TRUE(click.isEmpty());
 }
 
-TEST_F(ElencoTest, removing_a_row_that_is_not_there_is_error_5)
+TEST_F(ElencoTest, RemovingARowThatDoesNotExistGivesError5)
 {
     for (const int cattiva : {-1, 4, 100})
         EXPECT_EQ(erroreDi([&] { lista.RemoveItem(cattiva); }), 5) << cattiva;
@@ -232,7 +234,7 @@ TEST_F(ElencoTest, removing_a_row_that_is_not_there_is_error_5)
     EXPECT_EQ(erroreDi([&] { lista.RemoveItem(0); }), 5);
 }
 
-TEST_F(ElencoTest, adds_at_the_end_or_before_a_row)
+TEST_F(ElencoTest, AddsAtTheEndOrBeforeARow)
 {
     lista.AddItem(u"ultima"_s);
     lista.AddItem(u"prima"_s, 0);
@@ -245,7 +247,7 @@ TEST_F(ElencoTest, adds_at_the_end_or_before_a_row)
     EXPECT_TRUE(click.isEmpty());
 }
 
-TEST_F(ElencoTest, adding_to_an_empty_list_with_the_focus_selects_nothing)
+TEST_F(ElencoTest, AddingToAnEmptyListWithTheFocusSelectsNothing)
 {
     lista.Clear();
     finestra.mostraAttiva();
@@ -256,7 +258,7 @@ TEST_F(ElencoTest, adding_to_an_empty_list_with_the_focus_selects_nothing)
     EXPECT_TRUE(click.isEmpty());
 }
 
-TEST_F(ElencoTest, a_rows_text_can_be_read_and_changed_without_a_click)
+TEST_F(ElencoTest, ARowsTextCanBeReadAndChangedWithoutAClick)
 {
     lista.setList(1, u"altro"_s);
     EXPECT_EQ(lista.List(1), u"altro"_s);
@@ -267,7 +269,7 @@ TEST_F(ElencoTest, a_rows_text_can_be_read_and_changed_without_a_click)
     }
 }
 
-TEST_F(ElencoTest, each_row_has_a_number_of_its_own_0_at_first)
+TEST_F(ElencoTest, EachRowHasItsOwnNumberWhichIs0AtFirst)
 {
     EXPECT_EQ(lista.ItemData(1), 0);
     lista.setItemData(1, -7);
@@ -278,7 +280,7 @@ TEST_F(ElencoTest, each_row_has_a_number_of_its_own_0_at_first)
     EXPECT_EQ(erroreDi([&] { lista.setItemData(-1, 1); }), 380);
 }
 
-TEST_F(ElencoTest, clearing_leaves_nothing_selected_and_raises_nothing)
+TEST_F(ElencoTest, ClearingLeavesNothingSelectedAndRaisesNothing)
 {
     lista.setListIndex(2);
     click.clear();
@@ -288,7 +290,7 @@ TEST_F(ElencoTest, clearing_leaves_nothing_selected_and_raises_nothing)
     EXPECT_TRUE(click.isEmpty());
 }
 
-TEST_F(ElencoTest, a_key_comes_to_its_handler_first_which_may_drop_it)
+TEST_F(ElencoTest, ItsHandlerSeesAKeyFirstAndMayDropIt)
 {
     finestra.mostraAttiva();
     lista.setListIndex(1);
@@ -308,7 +310,7 @@ TEST_F(ElencoTest, a_key_comes_to_its_handler_first_which_may_drop_it)
     EXPECT_EQ(tasti, (QList<int>{46, 40, 40}));
 }
 
-TEST_F(ElencoTest, sees_the_mouse_move_over_its_rows_in_layout_units)
+TEST_F(ElencoTest, SeesTheMouseMoveOverItsRowsInLayoutUnits)
 {
     finestra.mostraAttiva();
     double y = 0;
@@ -319,7 +321,7 @@ TEST_F(ElencoTest, sees_the_mouse_move_over_its_rows_in_layout_units)
     EXPECT_GT(lista.AltezzaRiga(), 0);
 }
 
-TEST_F(ElencoTest, a_handler_of_the_mouse_press_may_put_the_selection_back)
+TEST_F(ElencoTest, AHandlerOfTheMousePressMayRestoreTheSelection)
 {
     finestra.mostraAttiva();
     lista.setListIndex(0);
@@ -328,7 +330,7 @@ TEST_F(ElencoTest, a_handler_of_the_mouse_press_may_put_the_selection_back)
     EXPECT_EQ(lista.ListIndex(), 0);
 }
 
-TEST_F(ElencoTest, a_double_click_raises_its_event)
+TEST_F(ElencoTest, ADoubleClickRaisesItsEvent)
 {
     finestra.mostraAttiva();
     int doppi = 0;
@@ -338,7 +340,7 @@ TEST_F(ElencoTest, a_double_click_raises_its_event)
     EXPECT_EQ(doppi, 1);
 }
 
-TEST_F(ElencoTest, a_double_click_counts_with_the_left_button_and_on_a_row_only)
+TEST_F(ElencoTest, ADoubleClickCountsOnlyWithTheLeftButtonAndOnARow)
 {
     finestra.mostraAttiva();
     int doppi = 0;
@@ -355,13 +357,13 @@ TEST_F(ElencoTest, a_double_click_counts_with_the_left_button_and_on_a_row_only)
     EXPECT_EQ(doppio(Qt::MiddleButton, punto(lista, 1), punto(lista, 1)), 0);
     EXPECT_EQ(doppio(Qt::LeftButton, accanto, accanto), 0);
     EXPECT_EQ(doppio(Qt::RightButton, accanto, accanto), 0);
-    // Two quick clicks on neighbours.
+    // Two quick clicks on neighbouring rows.
     EXPECT_EQ(doppio(Qt::LeftButton, punto(lista, 1), punto(lista, 2)), 0);
     EXPECT_EQ(doppio(Qt::LeftButton, accanto, punto(lista, 2)), 0);
     EXPECT_EQ(doppio(Qt::LeftButton, punto(lista, 2), accanto), 0);
 }
 
-TEST_F(ElencoTest, a_row_that_went_between_the_presses_is_not_double_clicked)
+TEST_F(ElencoTest, ARowRemovedBetweenThePressesIsNotDoubleClicked)
 {
     finestra.mostraAttiva();
     int doppi = 0;
@@ -372,7 +374,7 @@ TEST_F(ElencoTest, a_row_that_went_between_the_presses_is_not_double_clicked)
     EXPECT_EQ(doppi, 0);
 }
 
-TEST_F(ElencoTest, the_second_press_of_a_double_click_is_a_press)
+TEST_F(ElencoTest, TheSecondPressOfADoubleClickIsAPress)
 {
     finestra.mostraAttiva();
     QStringList eventi;
@@ -382,24 +384,24 @@ TEST_F(ElencoTest, the_second_press_of_a_double_click_is_a_press)
     premi(lista, 1);
     doppioClick(lista, Qt::LeftButton, punto(lista, 1));
     EXPECT_EQ(eventi, (QStringList{u"giu 1"_s, u"giu 1"_s, u"doppio"_s}));
-    EXPECT_EQ(click, QList<int>{1}) << "the row is chosen by the first press";
+    EXPECT_EQ(click, QList<int>{1}) << "only the first press selects the row";
     eventi.clear();
     doppioClick(lista, Qt::RightButton, {100, 190});
     EXPECT_EQ(eventi, QStringList{u"giu 2"_s});
 }
 
-TEST_F(ElencoConSpunteTest, a_check_mark_set_by_code_raises_click_once)
+TEST_F(ElencoConSpunteTest, ACheckMarkSetByCodeRaisesClickOnce)
 {
     spunte.setSelected(1, true);
     EXPECT_TRUE(spunte.Selected(1));
     EXPECT_EQ(click.size(), 1);
     spunte.setSelected(1, true);
-    EXPECT_EQ(click.size(), 1) << "that was no change";
+    EXPECT_EQ(click.size(), 1) << "the mark has not changed";
     spunte.setSelected(1, false);
     EXPECT_EQ(click.size(), 2);
 }
 
-TEST_F(ElencoConSpunteTest, check_marks_are_in_the_model)
+TEST_F(ElencoConSpunteTest, CheckMarksAreInTheModel)
 {
     spunte.setSelected(1, true);
     EXPECT_EQ(spunte.model()->index(1, 0).data(Qt::CheckStateRole).toInt(), Qt::Checked);
@@ -410,7 +412,7 @@ TEST_F(ElencoConSpunteTest, check_marks_are_in_the_model)
     EXPECT_EQ(click.size(), 1);
 }
 
-TEST_F(ElencoConSpunteTest, a_mouse_click_on_the_mark_of_the_selected_row_raises_click_once)
+TEST_F(ElencoConSpunteTest, AMouseClickOnTheMarkOfTheSelectedRowRaisesClickOnce)
 {
     finestra.mostraAttiva();
     lista.hide();
@@ -424,7 +426,7 @@ TEST_F(ElencoConSpunteTest, a_mouse_click_on_the_mark_of_the_selected_row_raises
     EXPECT_EQ(click, (QList<int>{1, 1}));
 }
 
-TEST_F(ElencoConSpunteTest, a_mouse_click_on_the_mark_of_another_row_raises_click_once)
+TEST_F(ElencoConSpunteTest, AMouseClickOnTheMarkOfAnotherRowRaisesClickOnce)
 {
     finestra.mostraAttiva();
     lista.hide();
@@ -436,7 +438,7 @@ TEST_F(ElencoConSpunteTest, a_mouse_click_on_the_mark_of_another_row_raises_clic
     EXPECT_EQ(click, QList<int>{2});
 }
 
-TEST_F(ElencoConSpunteTest, a_press_on_a_mark_released_elsewhere_raises_click_for_the_row)
+TEST_F(ElencoConSpunteTest, APressOnAMarkReleasedElsewhereRaisesClickForTheRow)
 {
     finestra.mostraAttiva();
     lista.hide();
@@ -446,7 +448,7 @@ TEST_F(ElencoConSpunteTest, a_press_on_a_mark_released_elsewhere_raises_click_fo
     EXPECT_EQ(click, QList<int>{2});
 }
 
-TEST_F(ElencoConSpunteTest, a_click_on_a_rows_text_selects_it_and_leaves_the_mark)
+TEST_F(ElencoConSpunteTest, AClickOnARowsTextSelectsItAndLeavesTheMark)
 {
     finestra.mostraAttiva();
     lista.hide();
@@ -457,7 +459,7 @@ TEST_F(ElencoConSpunteTest, a_click_on_a_rows_text_selects_it_and_leaves_the_mar
     EXPECT_EQ(click, (QList<int>{2, 2}));
 }
 
-TEST_F(ElencoConSpunteTest, the_space_bar_changes_the_mark_and_raises_click_once)
+TEST_F(ElencoConSpunteTest, TheSpaceBarChangesTheMarkAndRaisesClickOnce)
 {
     finestra.mostraAttiva();
     spunte.setListIndex(1);
@@ -468,7 +470,7 @@ TEST_F(ElencoConSpunteTest, the_space_bar_changes_the_mark_and_raises_click_once
     EXPECT_EQ(click, QList<int>{1});
 }
 
-TEST_F(ElencoConSpunteTest, the_space_bar_held_down_changes_the_mark_once)
+TEST_F(ElencoConSpunteTest, AHeldSpaceBarChangesTheMarkOnce)
 {
     finestra.mostraAttiva();
     spunte.setListIndex(1);
@@ -482,7 +484,7 @@ TEST_F(ElencoConSpunteTest, the_space_bar_held_down_changes_the_mark_once)
     EXPECT_EQ(click, QList<int>{1});
 }
 
-TEST_F(ElencoConSpunteTest, rows_that_come_are_unmarked_and_raise_nothing)
+TEST_F(ElencoConSpunteTest, AddedRowsAreUnmarkedAndRaiseNothing)
 {
     spunte.AddItem(u"nuova"_s);
     EXPECT_FALSE(spunte.Selected(4));
@@ -490,7 +492,7 @@ TEST_F(ElencoConSpunteTest, rows_that_come_are_unmarked_and_raise_nothing)
     EXPECT_TRUE(click.isEmpty());
 }
 
-TEST_F(ElencoConSpunteTest, the_mark_of_a_row_that_is_not_there_is_an_error)
+TEST_F(ElencoConSpunteTest, TheMarkOfARowThatDoesNotExistGivesAnError)
 {
     for (const int cattiva : {-1, 4}) {
         EXPECT_EQ(erroreDi([&] { spunte.Selected(cattiva); }), 380) << cattiva;

@@ -1,11 +1,11 @@
-// A label that is too long for its place.
+// A label whose text is too long for it.
 #include "controls/EtichettaAbbreviata.h"
 
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
-TEST(EtichettaAbbreviata, shows_what_fits_and_three_dots)
+TEST(EtichettaAbbreviata, ShowsTheTextThatFitsAndAnEllipsis)
 {
     QWidget dentro;
     EtichettaAbbreviata nome(u"lblNomeFoto"_s, &dentro);

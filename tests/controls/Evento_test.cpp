@@ -1,6 +1,8 @@
-#include "tests/support/Controlli.h"
 #include "controls/Comandi.h"
 #include "controls/Temporizzatore.h"
+#include "tests/support/Controlli.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -12,7 +14,7 @@ struct Ricevente
     void conArgomenti(int a, int b) { somma = a + b; }
 };
 
-// Runs in a child process: answers the box that is to come, whose text goes to standard error.
+// For a child process: writes the text of the message box to standard error and presses OK.
 void conMessaggioLetto(const std::function<void()> &gesto)
 {
     const ManoSuiMessaggi mano([](QMessageBox &box) {
@@ -24,13 +26,13 @@ void conMessaggioLetto(const std::function<void()> &gesto)
 
 } // namespace
 
-TEST(Evento, without_a_handler_does_nothing)
+TEST(Evento, DoesNothingWithoutAHandler)
 {
     const Evento<int> evento;
     evento(3);
 }
 
-TEST(Evento, hands_its_arguments_to_the_handler)
+TEST(Evento, PassesItsArgumentsToTheHandler)
 {
     Ricevente ricevente;
     Evento<int, int> evento;
@@ -39,7 +41,7 @@ TEST(Evento, hands_its_arguments_to_the_handler)
     EXPECT_EQ(ricevente.somma, 7);
 }
 
-TEST(Evento, calls_a_handler_that_leaves_out_the_arguments)
+TEST(Evento, CallsAHandlerThatLeavesOutTheArguments)
 {
     Ricevente ricevente;
     Evento<int, int> evento;
@@ -48,7 +50,7 @@ TEST(Evento, calls_a_handler_that_leaves_out_the_arguments)
     EXPECT_EQ(ricevente.volte, 1);
 }
 
-TEST(Evento, lets_a_handler_change_a_reference)
+TEST(Evento, LetsAHandlerChangeAReference)
 {
     Evento<int &> evento;
     evento.collega([](int &tasto) { tasto = 0; });
@@ -57,7 +59,7 @@ TEST(Evento, lets_a_handler_change_a_reference)
     EXPECT_EQ(tasto, 0);
 }
 
-TEST(Evento, may_be_given_another_handler_by_its_handler)
+TEST(Evento, ItsHandlerMaySetAnotherHandler)
 {
     int prima = 0;
     int seconda = 0;
@@ -72,7 +74,7 @@ TEST(Evento, may_be_given_another_handler_by_its_handler)
     EXPECT_EQ(seconda, 1);
 }
 
-TEST(Evento, is_not_raised_while_events_are_held_back)
+TEST(Evento, IsNotRaisedWhileEventsAreSuspended)
 {
     int volte = 0;
     Evento<> evento;
@@ -86,7 +88,7 @@ TEST(Evento, is_not_raised_while_events_are_held_back)
     EXPECT_EQ(volte, 1);
 }
 
-TEST(Gestore, an_error_that_nobody_handles_shows_its_box_and_ends_the_program)
+TEST(Gestore, AnUnhandledErrorShowsItsMessageAndEndsTheProgram)
 {
     EXPECT_EXIT(conMessaggioLetto([] {
                     eseguiGestore([] { throw Errore(Errore::FileNonTrovato); });
@@ -95,7 +97,7 @@ TEST(Gestore, an_error_that_nobody_handles_shows_its_box_and_ends_the_program)
                 ::testing::ExitedWithCode(1), "Impossibile trovare il file \\(53\\)");
 }
 
-TEST(Gestore, a_foreign_exception_ends_the_program_the_same_way)
+TEST(Gestore, AnExceptionOfAnotherTypeEndsTheProgramInTheSameWay)
 {
     EXPECT_EXIT(conMessaggioLetto([] {
                     eseguiGestore([] { throw std::runtime_error("guasto"); });
@@ -104,11 +106,11 @@ TEST(Gestore, a_foreign_exception_ends_the_program_the_same_way)
                 ::testing::ExitedWithCode(1), "Errore imprevisto: guasto");
 }
 
-TEST(Gestore, while_the_box_of_an_error_is_open_no_timer_ticks_and_no_handler_runs)
+TEST(Gestore, WhileTheBoxOfAnErrorIsOpenNoTimerTicksAndNoHandlerRuns)
 {
     EXPECT_EXIT(
         {
-            // What meets the state that the error left behind fails in its turn.
+            // A timer and a handler that would fail as well.
             Temporizzatore timer(u"tmrProva"_s, nullptr);
             timer.Timer.collega([] { throw Errore(Errore::FileGiaAperto); });
             timer.setInterval(1);
@@ -127,7 +129,7 @@ TEST(Gestore, while_the_box_of_an_error_is_open_no_timer_ticks_and_no_handler_ru
         ::testing::ExitedWithCode(1), "Impossibile trovare il file \\(53\\)[^|]*\\|ticks 0\n$");
 }
 
-TEST(Gestore, the_last_act_of_the_program_comes_after_the_box)
+TEST(Gestore, TheLastActOfTheProgramComesAfterTheMessageBox)
 {
     EXPECT_EXIT(conMessaggioLetto([] {
                     impostaUltimoAtto([] { std::cerr << "last act" << std::endl; });
@@ -136,7 +138,7 @@ TEST(Gestore, the_last_act_of_the_program_comes_after_the_box)
                 ::testing::ExitedWithCode(1), "\\(53\\)[^|]*\nlast act\n$");
 }
 
-TEST(Gestore, a_last_act_that_fails_is_passed_over)
+TEST(Gestore, AnErrorInTheLastActIsIgnored)
 {
     EXPECT_EXIT(conMessaggioLetto([] {
                     impostaUltimoAtto([] { throw Errore(Errore::LineaPersa); });
@@ -145,7 +147,7 @@ TEST(Gestore, a_last_act_that_fails_is_passed_over)
                 ::testing::ExitedWithCode(1), "\\(53\\)");
 }
 
-TEST(Gestore, an_error_from_a_click_does_not_cross_the_event_dispatch)
+TEST(Gestore, AnErrorFromAClickDoesNotCrossTheEventDispatch)
 {
     EXPECT_EXIT(conMessaggioLetto([] {
                     FinestraDiProva finestra;

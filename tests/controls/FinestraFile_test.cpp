@@ -1,7 +1,7 @@
 #include "controls/FinestraFile.h"
 
-#include "tests/support/Controlli.h"
 #include "controls/Italiano.h"
+#include "tests/support/Controlli.h"
 
 #include <QDialogButtonBox>
 #include <QFile>
@@ -10,6 +10,8 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <memory>
+
+using namespace Qt::StringLiterals;
 
 using ManoSuiFile = Mano<QFileDialog>;
 
@@ -44,7 +46,7 @@ struct FinestraFileTest : ::testing::Test
 
 } // namespace
 
-TEST_F(FinestraFileTest, is_found_by_its_name_with_its_properties)
+TEST_F(FinestraFileTest, IsFoundByItsNameWithItsProperties)
 {
     auto *trovata = finestra.findChild<QObject *>(u"Finestre"_s);
     ASSERT_EQ(trovata, &finestre);
@@ -54,7 +56,7 @@ TEST_F(FinestraFileTest, is_found_by_its_name_with_its_properties)
     EXPECT_EQ(trovata->property("Filter").toString(), u"Mosse|*.sqm"_s);
 }
 
-TEST_F(FinestraFileTest, gives_the_full_path_of_the_file_that_was_opened)
+TEST_F(FinestraFileTest, GivesTheFullPathOfTheFileThatWasOpened)
 {
     const ManoSuiFile mano([&](QFileDialog &dialogo) {
         EXPECT_EQ(dialogo.acceptMode(), QFileDialog::AcceptOpen);
@@ -65,7 +67,7 @@ TEST_F(FinestraFileTest, gives_the_full_path_of_the_file_that_was_opened)
     EXPECT_EQ(finestre.FileName(), percorso(u"a.sqm"_s));
 }
 
-TEST_F(FinestraFileTest, cancelled_it_fails_with_32755_and_keeps_its_name)
+TEST_F(FinestraFileTest, WhenCancelledItFailsWith32755AndKeepsItsName)
 {
     finestre.setFileName(percorso(u"prima.sqm"_s));
     const ManoSuiFile mano([](QFileDialog &dialogo) { dialogo.reject(); });
@@ -76,7 +78,7 @@ TEST_F(FinestraFileTest, cancelled_it_fails_with_32755_and_keeps_its_name)
     EXPECT_EQ(mano.visti, 2);
 }
 
-TEST_F(FinestraFileTest, saves_under_the_name_as_it_was_typed)
+TEST_F(FinestraFileTest, SavesUnderTheNameAsItWasTyped)
 {
     const ManoSuiFile mano([&](QFileDialog &dialogo) {
         EXPECT_EQ(dialogo.acceptMode(), QFileDialog::AcceptSave);
@@ -86,7 +88,7 @@ TEST_F(FinestraFileTest, saves_under_the_name_as_it_was_typed)
     EXPECT_EQ(finestre.FileName(), percorso(u"senza estensione"_s));
 }
 
-TEST_F(FinestraFileTest, does_not_ask_before_overwriting)
+TEST_F(FinestraFileTest, DoesNotAskBeforeOverwriting)
 {
     int domande = 0;
     const ManoSuiMessaggi altra([&](QMessageBox &box) {
@@ -99,10 +101,10 @@ TEST_F(FinestraFileTest, does_not_ask_before_overwriting)
     EXPECT_EQ(domande, 0);
     QFile file(percorso(u"a.sqm"_s));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), "contents") << "the dialog itself writes nothing";
+    EXPECT_EQ(file.readAll(), "contents") << "the dialog itself must not write";
 }
 
-TEST_F(FinestraFileTest, shows_the_filters_by_their_texts)
+TEST_F(FinestraFileTest, ShowsTheFiltersByTheirTexts)
 {
     const struct
     {
@@ -122,7 +124,7 @@ TEST_F(FinestraFileTest, shows_the_filters_by_their_texts)
     }
 }
 
-TEST_F(FinestraFileTest, without_a_whole_filter_it_shows_all_files)
+TEST_F(FinestraFileTest, WithAnIncompleteFilterItShowsAllFiles)
 {
     for (const QString &filtro : {QString(), u"Mosse"_s}) {
         finestre.setFilter(filtro);
@@ -133,7 +135,7 @@ TEST_F(FinestraFileTest, without_a_whole_filter_it_shows_all_files)
     }
 }
 
-TEST_F(FinestraFileTest, starts_in_the_folder_of_the_file_that_it_has)
+TEST_F(FinestraFileTest, StartsInTheFolderOfTheFileThatItHas)
 {
     finestre.setFileName(percorso(u"a.sqm"_s));
     QString dove;
@@ -145,7 +147,7 @@ TEST_F(FinestraFileTest, starts_in_the_folder_of_the_file_that_it_has)
     EXPECT_EQ(dove, cartella.path());
 }
 
-TEST_F(FinestraFileTest, does_not_open_a_file_that_is_not_there)
+TEST_F(FinestraFileTest, DoesNotOpenAFileThatDoesNotExist)
 {
     int avvisi = 0;
     const ManoSuiMessaggi avviso([&](QMessageBox &box) {
@@ -164,7 +166,7 @@ TEST_F(FinestraFileTest, does_not_open_a_file_that_is_not_there)
     EXPECT_EQ(finestre.FileName(), QString());
 }
 
-TEST_F(FinestraFileTest, its_window_is_not_activated_behind_it)
+TEST_F(FinestraFileTest, ItsWindowIsNotActivatedAgainAfterIt)
 {
     finestra.mostraAttiva();
     finestra.diario.clear();
@@ -175,7 +177,7 @@ TEST_F(FinestraFileTest, its_window_is_not_activated_behind_it)
     EXPECT_TRUE(finestra.diario.isEmpty());
 }
 
-TEST_F(FinestraFileTest, speaks_italian_whatever_the_systems_language_is)
+TEST_F(FinestraFileTest, IsInItalianWhateverTheLanguageOfTheSystem)
 {
     EXPECT_EXIT(
         {
@@ -200,7 +202,7 @@ TEST_F(FinestraFileTest, speaks_italian_whatever_the_systems_language_is)
         ::testing::ExitedWithCode(0), "Apri\\|Apri\\|Annulla\\|Salva con nome\\|Salva\\|Annulla$");
 }
 
-TEST_F(FinestraFileTest, stands_over_a_window_of_the_program)
+TEST_F(FinestraFileTest, IsShownOverAWindowOfTheProgram)
 {
     FinestraDiProva altra(u"frmAltra"_s);
     finestra.mostraAttiva();
@@ -216,7 +218,7 @@ TEST_F(FinestraFileTest, stands_over_a_window_of_the_program)
     EXPECT_EQ(sopra, &finestra);
 }
 
-TEST_F(FinestraFileTest, a_window_that_goes_beneath_it_cancels_it)
+TEST_F(FinestraFileTest, DestroyingTheWindowBelowCancelsIt)
 {
     auto sotto = std::make_unique<FinestraDiProva>(u"frmAltra"_s);
     sotto->mostraAttiva();

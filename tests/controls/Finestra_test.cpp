@@ -1,13 +1,15 @@
 #include "controls/Finestra.h"
 
-#include "tests/support/Controlli.h"
+#include "base/Pompa.h"
 #include "controls/CasellaTesto.h"
 #include "controls/Elenco.h"
 #include "controls/Messaggi.h"
-#include "base/Pompa.h"
 #include "controls/Temporizzatore.h"
+#include "tests/support/Controlli.h"
 
 #include <optional>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -42,7 +44,7 @@ void attiva(Finestra &quale)
 
 } // namespace
 
-TEST_F(FinestraTest, is_found_by_its_name_with_its_properties)
+TEST_F(FinestraTest, IsFoundByItsNameWithItsProperties)
 {
     EXPECT_EQ(finestra.objectName(), u"frmProva"_s);
     EXPECT_EQ(finestra.property("Caption").toString(), u"Prova"_s);
@@ -52,7 +54,7 @@ TEST_F(FinestraTest, is_found_by_its_name_with_its_properties)
     EXPECT_EQ(finestra.Tag(), u"AVVIATO"_s);
 }
 
-TEST_F(FinestraTest, is_loaded_at_its_first_showing)
+TEST_F(FinestraTest, IsLoadedAtItsFirstShowing)
 {
     EXPECT_FALSE(finestra.Caricata());
     EXPECT_TRUE(finestra.diario.isEmpty());
@@ -62,14 +64,14 @@ TEST_F(FinestraTest, is_loaded_at_its_first_showing)
     EXPECT_EQ(finestra.diario, dopoMostra());
 }
 
-TEST_F(FinestraTest, showing_it_again_does_nothing)
+TEST_F(FinestraTest, ShowingItAgainDoesNothing)
 {
     finestra.Mostra();
     finestra.Mostra();
     EXPECT_EQ(finestra.diario, dopoMostra());
 }
 
-TEST_F(FinestraTest, shown_again_while_it_is_open_it_is_raised_and_nothing_else)
+TEST_F(FinestraTest, ShownAgainWhileItIsOpenItIsOnlyRaised)
 {
     finestra.mostraAttiva();
     finestra.diario.clear();
@@ -79,7 +81,7 @@ TEST_F(FinestraTest, shown_again_while_it_is_open_it_is_raised_and_nothing_else)
     EXPECT_TRUE(finestra.diario.isEmpty());
 }
 
-TEST_F(FinestraTest, shown_again_while_it_is_minimised_it_comes_back_as_it_was)
+TEST_F(FinestraTest, ShownAgainWhileItIsMinimisedItIsRestored)
 {
     finestra.mostraAttiva();
     for (const bool ingrandita : {false, true}) {
@@ -96,7 +98,7 @@ TEST_F(FinestraTest, shown_again_while_it_is_minimised_it_comes_back_as_it_was)
     }
 }
 
-TEST_F(FinestraTest, can_be_maximised_only_if_it_can_be_resized)
+TEST_F(FinestraTest, CanBeMaximisedOnlyIfItCanBeResized)
 {
     FinestraDiProva fissa(u"frmPrincipale"_s);
     fissa.setFixedSize(300, 200);
@@ -110,7 +112,7 @@ TEST_F(FinestraTest, can_be_maximised_only_if_it_can_be_resized)
     }
 }
 
-TEST_F(FinestraTest, as_a_dialog_it_has_neither_minimise_nor_maximise)
+TEST_F(FinestraTest, AsADialogItHasNoButtonsToMinimiseAndMaximise)
 {
     Qt::WindowFlags pulsanti;
     QTimer::singleShot(20, &finestra, [&] {
@@ -122,11 +124,11 @@ TEST_F(FinestraTest, as_a_dialog_it_has_neither_minimise_nor_maximise)
     EXPECT_FALSE(pulsanti.testFlag(Qt::WindowMinimizeButtonHint));
     EXPECT_FALSE(pulsanti.testFlag(Qt::WindowMaximizeButtonHint));
     EXPECT_TRUE(pulsanti.testFlag(Qt::WindowCloseButtonHint));
-    // Without this the window system adds what it likes.
+    // Without this flag the window system chooses the buttons.
     EXPECT_TRUE(pulsanti.testFlag(Qt::CustomizeWindowHint));
 }
 
-TEST_F(FinestraTest, a_dialog_belongs_to_the_window_beneath_though_another_program_is_in_front)
+TEST_F(FinestraTest, ADialogBelongsToTheWindowBelowEvenIfAnotherProgramIsInFront)
 {
     FinestraDiProva altra(u"frmAltra"_s);
     finestra.mostraAttiva();
@@ -143,7 +145,7 @@ TEST_F(FinestraTest, a_dialog_belongs_to_the_window_beneath_though_another_progr
     EXPECT_EQ(sopra, finestra.windowHandle());
 }
 
-TEST_F(FinestraTest, hidden_it_keeps_its_state_and_is_not_loaded_anew)
+TEST_F(FinestraTest, WhenHiddenItKeepsItsStateAndIsNotLoadedAgain)
 {
     CasellaTesto testo(u"txt"_s, &finestra, u"1"_s);
     finestra.Mostra();
@@ -156,7 +158,7 @@ TEST_F(FinestraTest, hidden_it_keeps_its_state_and_is_not_loaded_anew)
     EXPECT_EQ(finestra.diario, dopoMostra() << u"Activate"_s);
 }
 
-TEST_F(FinestraTest, unloaded_by_code_it_asks_and_gets_its_design_values_back)
+TEST_F(FinestraTest, UnloadedByCodeItAsksAndGetsItsDesignValuesAgain)
 {
     finestra.Mostra();
     finestra.diario.clear();
@@ -166,7 +168,7 @@ TEST_F(FinestraTest, unloaded_by_code_it_asks_and_gets_its_design_values_back)
     EXPECT_EQ(finestra.diario, (QStringList{u"QueryUnload 1"_s, u"Unload"_s, u"Disegno"_s}));
 }
 
-TEST_F(FinestraTest, closed_by_the_user_it_asks_in_the_users_mode)
+TEST_F(FinestraTest, ClosedByTheUserItAsksWithTheModeOfTheUser)
 {
     finestra.Mostra();
     finestra.diario.clear();
@@ -175,7 +177,7 @@ TEST_F(FinestraTest, closed_by_the_user_it_asks_in_the_users_mode)
     EXPECT_EQ(finestra.diario, (QStringList{u"QueryUnload 0"_s, u"Unload"_s, u"Disegno"_s}));
 }
 
-TEST_F(FinestraTest, unloaded_it_is_loaded_anew_by_the_next_showing)
+TEST_F(FinestraTest, AfterUnloadingTheNextShowingLoadsItAgain)
 {
     finestra.Mostra();
     finestra.Scarica();
@@ -184,14 +186,14 @@ TEST_F(FinestraTest, unloaded_it_is_loaded_anew_by_the_next_showing)
     EXPECT_EQ(finestra.diario, (QStringList{u"Load"_s, u"Activate"_s}));
 }
 
-TEST_F(FinestraTest, unloading_what_is_not_loaded_does_nothing)
+TEST_F(FinestraTest, UnloadingAWindowThatIsNotLoadedDoesNothing)
 {
     finestra.Scarica();
     finestra.close();
     EXPECT_TRUE(finestra.diario.isEmpty());
 }
 
-TEST_F(FinestraTest, query_unload_may_refuse)
+TEST_F(FinestraTest, QueryUnloadMayRefuse)
 {
     finestra.Mostra();
     finestra.rifiutaQuery = true;
@@ -204,7 +206,7 @@ TEST_F(FinestraTest, query_unload_may_refuse)
     EXPECT_TRUE(finestra.Visible());
 }
 
-TEST_F(FinestraTest, unload_may_refuse)
+TEST_F(FinestraTest, UnloadMayRefuse)
 {
     finestra.Mostra();
     finestra.rifiutaUnload = true;
@@ -215,7 +217,7 @@ TEST_F(FinestraTest, unload_may_refuse)
     EXPECT_EQ(finestra.diario, (QStringList{u"QueryUnload 1"_s, u"Unload"_s}));
 }
 
-TEST_F(FinestraTest, a_hidden_window_can_be_unloaded)
+TEST_F(FinestraTest, AHiddenWindowCanBeUnloaded)
 {
     finestra.Mostra();
     finestra.Nascondi();
@@ -223,7 +225,7 @@ TEST_F(FinestraTest, a_hidden_window_can_be_unloaded)
     EXPECT_FALSE(finestra.Caricata());
 }
 
-TEST_F(FinestraTest, its_tag_outlives_unloading)
+TEST_F(FinestraTest, ItsTagSurvivesUnloading)
 {
     finestra.Mostra();
     finestra.setTag(u"Aperto"_s);
@@ -232,7 +234,7 @@ TEST_F(FinestraTest, its_tag_outlives_unloading)
     EXPECT_EQ(finestra.Tag(), u"Aperto"_s);
 }
 
-TEST_F(FinestraTest, its_caption_size_and_state_are_the_designs_again_after_unloading)
+TEST_F(FinestraTest, UnloadingResetsItsCaptionSizeAndState)
 {
     finestra.Mostra();
     finestra.setCaption(u"Prova file.sqm"_s);
@@ -244,7 +246,7 @@ TEST_F(FinestraTest, its_caption_size_and_state_are_the_designs_again_after_unlo
     EXPECT_EQ(finestra.size(), QSize(400, 300));
 }
 
-TEST_F(FinestraTest, putting_the_design_values_back_raises_no_events)
+TEST_F(FinestraTest, ResettingTheDesignValuesRaisesNoEvents)
 {
     struct ConTesto : FinestraDiProva
     {
@@ -270,7 +272,7 @@ TEST_F(FinestraTest, putting_the_design_values_back_raises_no_events)
     EXPECT_EQ(volte, 2);
 }
 
-TEST_F(FinestraTest, unloaded_inside_its_load_it_is_not_shown)
+TEST_F(FinestraTest, UnloadedInsideItsLoadItIsNotShown)
 {
     finestra.inLoad = [&] { finestra.Scarica(); };
     finestra.Mostra();
@@ -284,7 +286,7 @@ TEST_F(FinestraTest, unloaded_inside_its_load_it_is_not_shown)
     EXPECT_TRUE(finestra.Visible());
 }
 
-TEST_F(FinestraTest, may_show_another_window_inside_its_load)
+TEST_F(FinestraTest, MayShowAnotherWindowInsideItsLoad)
 {
     FinestraDiProva altra(u"frmAltra"_s);
     finestra.inLoad = [&] { altra.Mostra(); };
@@ -293,7 +295,7 @@ TEST_F(FinestraTest, may_show_another_window_inside_its_load)
     EXPECT_TRUE(finestra.Visible());
 }
 
-TEST_F(FinestraTest, is_activated_at_each_showing_exactly_once)
+TEST_F(FinestraTest, IsActivatedAtEachShowingExactlyOnce)
 {
     finestra.mostraAttiva();
     EXPECT_EQ(finestra.volte(u"Activate"_s), 1);
@@ -302,7 +304,7 @@ TEST_F(FinestraTest, is_activated_at_each_showing_exactly_once)
     EXPECT_EQ(finestra.volte(u"Activate"_s), 2);
 }
 
-TEST_F(FinestraTest, is_activated_on_a_change_between_windows_of_the_program)
+TEST_F(FinestraTest, IsActivatedOnAChangeBetweenWindowsOfTheProgram)
 {
     FinestraDiProva altra(u"frmAltra"_s);
     finestra.mostraAttiva();
@@ -315,7 +317,7 @@ TEST_F(FinestraTest, is_activated_on_a_change_between_windows_of_the_program)
     EXPECT_EQ(altra.volte(u"Activate"_s), 2);
 }
 
-TEST_F(FinestraTest, is_activated_when_the_window_before_it_goes)
+TEST_F(FinestraTest, IsActivatedWhenTheWindowInFrontIsHiddenOrUnloaded)
 {
     for (const bool scaricata : {false, true}) {
         FinestraDiProva altra(u"frmAltra"_s);
@@ -331,7 +333,7 @@ TEST_F(FinestraTest, is_activated_when_the_window_before_it_goes)
     }
 }
 
-TEST_F(FinestraTest, is_not_activated_on_return_from_a_message_box)
+TEST_F(FinestraTest, IsNotActivatedOnReturnFromAMessageBox)
 {
     finestra.mostraAttiva();
     finestra.diario.clear();
@@ -341,7 +343,7 @@ TEST_F(FinestraTest, is_not_activated_on_return_from_a_message_box)
     EXPECT_TRUE(finestra.diario.isEmpty());
 }
 
-TEST_F(FinestraTest, is_not_activated_on_return_from_another_program)
+TEST_F(FinestraTest, IsNotActivatedOnReturnFromAnotherProgram)
 {
     finestra.mostraAttiva();
     finestra.diario.clear();
@@ -353,7 +355,7 @@ TEST_F(FinestraTest, is_not_activated_on_return_from_another_program)
     EXPECT_TRUE(finestra.diario.isEmpty());
 }
 
-TEST_F(FinestraTest, shown_as_a_dialog_it_ends_the_call_when_it_is_hidden)
+TEST_F(FinestraTest, ShownAsADialogItEndsTheCallWhenItIsHidden)
 {
     QTimer::singleShot(20, &finestra, [&] {
         EXPECT_TRUE(finestra.isModal());
@@ -364,14 +366,14 @@ TEST_F(FinestraTest, shown_as_a_dialog_it_ends_the_call_when_it_is_hidden)
     EXPECT_TRUE(finestra.Caricata());
 }
 
-TEST_F(FinestraTest, shown_as_a_dialog_it_ends_the_call_when_the_user_closes_it)
+TEST_F(FinestraTest, ShownAsADialogItEndsTheCallWhenTheUserClosesIt)
 {
     QTimer::singleShot(20, &finestra, [&] { finestra.close(); });
     finestra.MostraModale();
     EXPECT_FALSE(finestra.Caricata());
 }
 
-TEST_F(FinestraTest, shown_as_a_dialog_it_goes_on_when_it_refuses_to_close)
+TEST_F(FinestraTest, ShownAsADialogItStaysOpenWhenItRefusesToClose)
 {
     finestra.rifiutaQuery = true;
     int tentativi = 0;
@@ -385,7 +387,7 @@ TEST_F(FinestraTest, shown_as_a_dialog_it_goes_on_when_it_refuses_to_close)
     EXPECT_EQ(tentativi, 1);
 }
 
-TEST_F(FinestraTest, is_blocked_by_a_dialog)
+TEST_F(FinestraTest, IsBlockedByADialog)
 {
     Pulsante pulsante(u"pul"_s, &finestra, u"OK"_s);
     int click = 0;
@@ -403,7 +405,7 @@ TEST_F(FinestraTest, is_blocked_by_a_dialog)
     EXPECT_EQ(click, 1);
 }
 
-TEST_F(FinestraTest, dialogs_can_be_stacked)
+TEST_F(FinestraTest, DialogsCanBeStacked)
 {
     finestra.mostraAttiva();
     FinestraDiProva primo(u"frmPrimo"_s);
@@ -420,7 +422,7 @@ TEST_F(FinestraTest, dialogs_can_be_stacked)
     EXPECT_EQ(ordine, (QStringList{u"secondo"_s, u"primo"_s}));
 }
 
-TEST_F(FinestraTest, a_window_that_was_a_dialog_can_be_shown_as_a_window_again)
+TEST_F(FinestraTest, AWindowThatWasADialogCanBeShownAsAWindowAgain)
 {
     QTimer::singleShot(20, &finestra, [&] { finestra.Nascondi(); });
     finestra.MostraModale();
@@ -428,7 +430,7 @@ TEST_F(FinestraTest, a_window_that_was_a_dialog_can_be_shown_as_a_window_again)
     EXPECT_FALSE(finestra.isModal());
 }
 
-TEST_F(FinestraTest, timers_run_during_a_dialog_and_during_a_message_box)
+TEST_F(FinestraTest, TimersRunDuringADialogAndDuringAMessageBox)
 {
     Temporizzatore timer(u"tmr"_s, nullptr);
     int scatti = 0;
@@ -449,7 +451,7 @@ TEST_F(FinestraTest, timers_run_during_a_dialog_and_during_a_message_box)
     EXPECT_GT(scatti, 105);
 }
 
-TEST_F(FinestraTest, tells_and_takes_its_window_state)
+TEST_F(FinestraTest, ItsWindowStateCanBeReadAndSet)
 {
     finestra.Mostra();
     for (const int stato : {1, 2, 0}) {
@@ -458,7 +460,7 @@ TEST_F(FinestraTest, tells_and_takes_its_window_state)
     }
 }
 
-TEST_F(FinestraTest, stands_on_the_screen_in_layout_units)
+TEST_F(FinestraTest, HasItsPlaceOnTheScreenInLayoutUnits)
 {
     finestra.Mostra();
     finestra.Move(1500, 750);
@@ -467,7 +469,7 @@ TEST_F(FinestraTest, stands_on_the_screen_in_layout_units)
     EXPECT_EQ(finestra.Width(), finestra.frameGeometry().width() * 15);
 }
 
-TEST_F(TastiDellaFinestra, the_window_sees_a_key_before_the_control_that_has_the_focus)
+TEST_F(TastiDellaFinestra, TheWindowSeesAKeyBeforeTheControlThatHasTheFocus)
 {
     testo.SetFocus();
     QString alTasto = u"?"_s;
@@ -478,7 +480,7 @@ TEST_F(TastiDellaFinestra, the_window_sees_a_key_before_the_control_that_has_the
     EXPECT_EQ(finestra.diario, (QStringList{u"KeyDown 65 0"_s, u"KeyUp 65 0"_s}));
 }
 
-TEST_F(TastiDellaFinestra, keys_have_the_codes_of_the_design)
+TEST_F(TastiDellaFinestra, KeysHaveTheCodesOfTheDesign)
 {
     const struct
     {
@@ -495,7 +497,7 @@ TEST_F(TastiDellaFinestra, keys_have_the_codes_of_the_design)
     }
 }
 
-TEST_F(TastiDellaFinestra, a_key_tells_the_keys_that_are_held_with_it)
+TEST_F(TastiDellaFinestra, AKeyReportsTheModifierKeysThatAreHeld)
 {
     testo.SetFocus();
     for (const auto &[tasti, numero] : {std::pair(Qt::KeyboardModifiers(Qt::ShiftModifier), 1),
@@ -507,15 +509,15 @@ TEST_F(TastiDellaFinestra, a_key_tells_the_keys_that_are_held_with_it)
     }
 }
 
-TEST_F(TastiDellaFinestra, a_key_that_nobody_takes_counts_once)
+TEST_F(TastiDellaFinestra, AKeyThatNoControlTakesCountsOnce)
 {
-    // A button takes no letters: the key travels up to the window.
+    // A button ignores letters, so Qt sends the key to the window as well.
     pulsante.SetFocus();
     QTest::keyClick(&pulsante, Qt::Key_A);
     EXPECT_EQ(finestra.diario, (QStringList{u"KeyDown 65 0"_s, u"KeyUp 65 0"_s}));
 }
 
-TEST_F(TastiDellaFinestra, a_key_counts_once_though_its_handler_moves_the_focus_to_a_parent)
+TEST_F(TastiDellaFinestra, AKeyCountsOnceEvenIfItsHandlerMovesTheFocusToAParent)
 {
     pulsante.SetFocus();
     finestra.inKeyDown = [&] { finestra.setFocus(); };
@@ -523,7 +525,7 @@ TEST_F(TastiDellaFinestra, a_key_counts_once_though_its_handler_moves_the_focus_
     EXPECT_EQ(finestra.diario, QStringList{u"KeyDown 65 0"_s});
 }
 
-TEST_F(TastiDellaFinestra, a_key_counts_once_though_other_keys_come_while_it_is_handled)
+TEST_F(TastiDellaFinestra, AKeyCountsOnceEvenIfOtherKeysComeWhileItIsHandled)
 {
     pulsante.SetFocus();
     finestra.inKeyDown = [&] {
@@ -535,7 +537,7 @@ TEST_F(TastiDellaFinestra, a_key_counts_once_though_other_keys_come_while_it_is_
               (QStringList{u"KeyDown 65 0"_s, u"KeyDown 66 0"_s, u"KeyUp 66 0"_s}));
 }
 
-TEST_F(TastiDellaFinestra, without_a_focus_the_window_sees_its_keys_as_well)
+TEST_F(TastiDellaFinestra, WithoutAFocusedControlTheWindowSeesItsKeysAsWell)
 {
     testo.SetFocus();
     testo.clearFocus();
@@ -543,7 +545,7 @@ TEST_F(TastiDellaFinestra, without_a_focus_the_window_sees_its_keys_as_well)
     EXPECT_EQ(finestra.diario, (QStringList{u"KeyDown 37 0"_s, u"KeyUp 37 0"_s}));
 }
 
-TEST_F(TastiDellaFinestra, keys_of_the_window_system_count_once)
+TEST_F(TastiDellaFinestra, KeysOfTheWindowSystemCountOnce)
 {
     for (QWidget *controllo : std::initializer_list<QWidget *>{&testo, &pulsante}) {
         controllo->setFocus();
@@ -553,9 +555,10 @@ TEST_F(TastiDellaFinestra, keys_of_the_window_system_count_once)
     }
 }
 
-TEST_F(TastiDellaFinestra, a_key_is_not_taken_for_the_one_before_it_that_lay_in_the_same_place)
+TEST_F(TastiDellaFinestra, AKeyEventAtTheAddressOfAnEarlierOneCountsAsAnotherKey)
 {
-    // The button takes an arrow key, so that the first one never comes to the window.
+    // Both events have the same address. The second one, to the window, is another key, not the
+    // first one that Qt sends on to a parent.
     std::optional<QKeyEvent> evento;
     evento.emplace(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier);
     QApplication::sendEvent(&pulsante, &*evento);
@@ -564,7 +567,7 @@ TEST_F(TastiDellaFinestra, a_key_is_not_taken_for_the_one_before_it_that_lay_in_
     EXPECT_EQ(finestra.volte(u"KeyDown 38 0"_s), 2);
 }
 
-TEST_F(TastiDellaFinestra, the_same_key_pressed_again_counts_again)
+TEST_F(TastiDellaFinestra, TheSameKeyPressedAgainCountsAgain)
 {
     pulsante.SetFocus();
     for (int i = 0; i < 3; ++i)
@@ -573,7 +576,7 @@ TEST_F(TastiDellaFinestra, the_same_key_pressed_again_counts_again)
     EXPECT_EQ(finestra.volte(u"KeyUp 65 0"_s), 3);
 }
 
-TEST_F(TastiDellaFinestra, a_held_key_repeats_key_down_and_gives_one_key_up)
+TEST_F(TastiDellaFinestra, AHeldKeyRepeatsKeyDownAndGivesOneKeyUp)
 {
     for (QWidget *controllo : std::initializer_list<QWidget *>{&testo, &pulsante, &finestra}) {
         controllo->setFocus();
@@ -595,7 +598,7 @@ TEST_F(TastiDellaFinestra, a_held_key_repeats_key_down_and_gives_one_key_up)
     }
 }
 
-TEST_F(TastiDellaFinestra, keys_of_another_window_do_not_come_here)
+TEST_F(TastiDellaFinestra, KeysOfAnotherWindowDoNotReachThisOne)
 {
     FinestraDiProva altra(u"frmAltra"_s);
     altra.setKeyPreview();
@@ -608,7 +611,7 @@ TEST_F(TastiDellaFinestra, keys_of_another_window_do_not_come_here)
     EXPECT_EQ(altra.diario, (QStringList{u"KeyDown 65 0"_s, u"KeyUp 65 0"_s}));
 }
 
-TEST_F(TastiDellaFinestra, enter_on_a_button_with_the_focus_clicks_that_one_only)
+TEST_F(TastiDellaFinestra, EnterOnAButtonWithTheFocusClicksThatOneOnly)
 {
     Pulsante predefinito(u"pulPredefinito"_s, &finestra, u"Predefinito"_s);
     predefinito.show();
@@ -623,7 +626,7 @@ TEST_F(TastiDellaFinestra, enter_on_a_button_with_the_focus_clicks_that_one_only
     EXPECT_EQ(click, (QStringList{u"suo"_s, u"predefinito"_s}));
 }
 
-TEST_F(TastiDellaFinestra, enter_on_a_disabled_default_button_does_nothing)
+TEST_F(TastiDellaFinestra, EnterOnADisabledDefaultButtonDoesNothing)
 {
     int click = 0;
     pulsante.Click.collega([&] { ++click; });
@@ -634,7 +637,7 @@ TEST_F(TastiDellaFinestra, enter_on_a_disabled_default_button_does_nothing)
     EXPECT_EQ(click, 0);
 }
 
-TEST_F(TastiDellaFinestra, enter_and_esc_held_down_click_once)
+TEST_F(TastiDellaFinestra, HeldEnterAndEscClickOnce)
 {
     Pulsante annulla(u"pulAnnulla"_s, &finestra, u"Annulla"_s);
     annulla.show();

@@ -5,6 +5,8 @@
 #include <QAccessible>
 #include <QPainter>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QIcon tinta(const QColor &colore)
@@ -28,7 +30,7 @@ struct GraficaTest : ::testing::Test
 
 } // namespace
 
-TEST_F(GraficaTest, an_image_list_counts_from_1)
+TEST_F(GraficaTest, AnImageListCountsFrom1)
 {
     EXPECT_EQ(lista.ListCount(), 2);
     EXPECT_EQ(erroreDi([&] { lista.immagine(1); }), 0);
@@ -37,7 +39,7 @@ TEST_F(GraficaTest, an_image_list_counts_from_1)
         EXPECT_EQ(erroreDi([&] { lista.immagine(cattivo); }), 380) << cattivo;
 }
 
-TEST_F(GraficaTest, an_image_shows_the_picture_of_its_number)
+TEST_F(GraficaTest, AnImageShowsThePictureOfItsNumber)
 {
     Immagine immagine(u"imgVigilio"_s, &finestra, &lista, 1);
     immagine.resize(16, 16);
@@ -47,7 +49,7 @@ TEST_F(GraficaTest, an_image_shows_the_picture_of_its_number)
     EXPECT_EQ(aMezzo(immagine), QColor(Qt::green));
 }
 
-TEST_F(GraficaTest, a_picture_number_that_is_not_there_is_error_380_and_changes_nothing)
+TEST_F(GraficaTest, APictureNumberThatDoesNotExistGivesError380AndChangesNothing)
 {
     Immagine immagine(u"imgVigilio"_s, &finestra, &lista, 1);
     for (const int cattivo : {-1, 3, 100})
@@ -59,7 +61,7 @@ TEST_F(GraficaTest, a_picture_number_that_is_not_there_is_error_380_and_changes_
     EXPECT_EQ(erroreDi([&] { senzaLista.setPicture(1); }), 380);
 }
 
-TEST_F(GraficaTest, picture_0_is_no_picture)
+TEST_F(GraficaTest, Picture0ShowsNoPicture)
 {
     Immagine immagine(u"imgVigilio"_s, &finestra, &lista, 1);
     immagine.setPicture(0);
@@ -68,7 +70,7 @@ TEST_F(GraficaTest, picture_0_is_no_picture)
     EXPECT_NE(aMezzo(immagine), QColor(Qt::red));
 }
 
-TEST_F(GraficaTest, a_border_is_there_or_not)
+TEST_F(GraficaTest, ABorderCanBeShownOrNot)
 {
     Immagine immagine(u"img"_s, &finestra);
     EXPECT_EQ(immagine.BorderStyle(), 0);
@@ -78,7 +80,7 @@ TEST_F(GraficaTest, a_border_is_there_or_not)
     EXPECT_EQ(immagine.BorderStyle(), 1);
 }
 
-TEST_F(GraficaTest, an_image_for_the_keyboard_is_clicked_with_the_space_bar)
+TEST_F(GraficaTest, AnImageWithKeyboardSupportIsClickedWithTheSpaceBar)
 {
     Immagine immagine(u"imgCasella"_s, &finestra, &lista, 1);
     immagine.resize(20, 20);
@@ -89,14 +91,14 @@ TEST_F(GraficaTest, an_image_for_the_keyboard_is_clicked_with_the_space_bar)
     immagine.setFocus();
     ASSERT_TRUE(immagine.hasFocus());
     QTest::keyClick(&immagine, Qt::Key_Space);
-    EXPECT_EQ(volte, 0) << "the focus alone does not make it one";
+    EXPECT_EQ(volte, 0) << "the focus alone must not make it a button";
     immagine.clearFocus();
     immagine.move(20, 20);
     const QImage senza = finestra.grab().toImage();
     immagine.conTastiera();
     QTest::keyClick(&finestra, Qt::Key_Tab);
     ASSERT_TRUE(immagine.hasFocus());
-    EXPECT_NE(finestra.grab().toImage(), senza) << "the focus can be seen";
+    EXPECT_NE(finestra.grab().toImage(), senza) << "the focus must be visible";
     immagine.clearFocus();
     EXPECT_EQ(finestra.grab().toImage(), senza);
     immagine.setFocus();
@@ -106,12 +108,12 @@ TEST_F(GraficaTest, an_image_for_the_keyboard_is_clicked_with_the_space_bar)
     EXPECT_EQ(volte, 1);
     QKeyEvent ripetuto(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, u" "_s, true);
     QApplication::sendEvent(&immagine, &ripetuto);
-    EXPECT_EQ(volte, 1) << "a held key is one click";
+    EXPECT_EQ(volte, 1) << "a held key must click once";
     QTest::keyClick(&immagine, Qt::Key_Return);
     EXPECT_EQ(volte, 2);
 }
 
-TEST_F(GraficaTest, on_a_picture_with_a_mark_enter_is_the_windows)
+TEST_F(GraficaTest, OnAPictureWithACheckMarkEnterGoesToTheWindow)
 {
     Pulsante predefinito(u"pulOK"_s, &finestra, u"OK"_s);
     finestra.setPredefinito(&predefinito);
@@ -131,7 +133,7 @@ TEST_F(GraficaTest, on_a_picture_with_a_mark_enter_is_the_windows)
     EXPECT_EQ(volte, 1);
 }
 
-TEST_F(GraficaTest, a_picture_is_a_button_to_a_screen_reader_once_it_takes_a_click)
+TEST_F(GraficaTest, APictureIsAButtonToAScreenReaderOnceItTakesAClick)
 {
     Immagine immagine(u"img"_s, &finestra, &lista, 1);
     Etichetta etichetta(u"lbl"_s, &finestra, u"STOP"_s);
@@ -156,7 +158,7 @@ TEST_F(GraficaTest, a_picture_is_a_button_to_a_screen_reader_once_it_takes_a_cli
     EXPECT_EQ(visti.size(), 3);
 }
 
-TEST_F(GraficaTest, a_mark_is_told_by_the_picture)
+TEST_F(GraficaTest, TheCheckMarkIsReadFromThePicture)
 {
     Immagine immagine(u"imgCasella"_s, &finestra, &lista, 1);
     immagine.Click.collega([&] { immagine.setPicture(3 - immagine.Picture()); });
@@ -169,7 +171,7 @@ TEST_F(GraficaTest, a_mark_is_told_by_the_picture)
     EXPECT_TRUE(casella->state().checked);
 }
 
-TEST_F(GraficaTest, a_label_raises_change_only_when_its_text_changes)
+TEST_F(GraficaTest, ALabelRaisesChangeOnlyWhenItsTextChanges)
 {
     Etichetta etichetta(u"lblFile"_s, &finestra, u"uno"_s);
     int volte = 0;
@@ -182,7 +184,7 @@ TEST_F(GraficaTest, a_label_raises_change_only_when_its_text_changes)
     EXPECT_EQ(volte, 2);
 }
 
-TEST_F(GraficaTest, a_shape_lets_the_mouse_through)
+TEST_F(GraficaTest, AShapeLetsTheMouseThrough)
 {
     Immagine sotto(u"img"_s, &finestra);
     sotto.setGeometry(0, 0, 50, 50);
@@ -195,7 +197,7 @@ TEST_F(GraficaTest, a_shape_lets_the_mouse_through)
     EXPECT_EQ(volte, 1);
 }
 
-TEST_F(GraficaTest, what_code_draws_stays_until_it_is_cleared)
+TEST_F(GraficaTest, ADrawingStaysUntilItIsCleared)
 {
     Superficie superficie(u"imgCam"_s, &finestra);
     superficie.resize(40, 30);
@@ -212,7 +214,7 @@ TEST_F(GraficaTest, what_code_draws_stays_until_it_is_cleared)
     EXPECT_NE(aMezzo(superficie), QColor(Qt::blue));
 }
 
-TEST_F(GraficaTest, what_is_drawn_before_the_first_showing_is_there_after_it)
+TEST_F(GraficaTest, ADrawingMadeBeforeTheFirstShowingIsKept)
 {
     Superficie superficie(u"imgCam"_s, &finestra);
     superficie.resize(40, 30);
@@ -221,7 +223,7 @@ TEST_F(GraficaTest, what_is_drawn_before_the_first_showing_is_there_after_it)
     EXPECT_EQ(aMezzo(superficie), QColor(Qt::blue));
 }
 
-TEST_F(GraficaTest, a_box_reaches_as_far_as_it_was_given_and_not_outside)
+TEST_F(GraficaTest, AFilledRectangleCoversExactlyItsArea)
 {
     Superficie superficie(u"imgCam"_s, &finestra);
     superficie.resize(40, 30);
@@ -237,7 +239,7 @@ TEST_F(GraficaTest, a_box_reaches_as_far_as_it_was_given_and_not_outside)
     EXPECT_EQ(disegno.pixelColor(39, 2).alpha(), 0);
 }
 
-TEST_F(GraficaTest, printed_text_leaves_its_marks)
+TEST_F(GraficaTest, PrintedTextIsDrawn)
 {
     Superficie superficie(u"imgCam"_s, &finestra);
     superficie.resize(200, 50);
@@ -247,7 +249,7 @@ TEST_F(GraficaTest, printed_text_leaves_its_marks)
     EXPECT_NE(superficie.disegno(), vuota);
 }
 
-TEST_F(GraficaTest, a_surface_in_pixels_tells_the_mouse_in_pixels)
+TEST_F(GraficaTest, ASurfaceInPixelsReportsTheMouseInPixels)
 {
     Superficie superficie(u"imgCam"_s, &finestra, Superficie::Scala::Pixel);
     superficie.setGeometry(0, 0, 100, 100);
@@ -258,7 +260,7 @@ TEST_F(GraficaTest, a_surface_in_pixels_tells_the_mouse_in_pixels)
     EXPECT_EQ(visti, (QList<double>{7, 9}));
 }
 
-// On a screen with two pixels for each one of the design.
+// A widget on a screen with two physical pixels to a logical one.
 template <class Base>
 class Fine : public Base
 {
@@ -276,7 +278,7 @@ protected:
     }
 };
 
-TEST_F(GraficaTest, pictures_keep_sharp_edges_on_a_screen_with_more_pixels)
+TEST_F(GraficaTest, PicturesKeepSharpEdgesOnAScreenWithMorePixels)
 {
     Fine<Superficie> superficie(u"imgCam"_s, &finestra);
     superficie.resize(40, 30);
@@ -290,7 +292,7 @@ TEST_F(GraficaTest, pictures_keep_sharp_edges_on_a_screen_with_more_pixels)
         EXPECT_EQ(visto.pixelColor(x, 30), QColor(x < 40 ? Qt::red : Qt::blue)) << x;
 }
 
-TEST_F(GraficaTest, text_is_as_fine_as_the_screen)
+TEST_F(GraficaTest, TextIsDrawnInTheResolutionOfTheScreen)
 {
     Fine<Superficie> superficie(u"imgCam"_s, &finestra);
     superficie.resize(200, 50);
@@ -304,13 +306,13 @@ TEST_F(GraficaTest, text_is_as_fine_as_the_screen)
     pittore.setFont(superficie.font());
     pittore.drawText(QRect(4, 4, 200, 50), Qt::AlignLeft | Qt::AlignTop, u"Fallito"_s);
     pittore.end();
-    // Blending twice rounds twice.
+    // The text was blended twice, so rounding errors add up.
     for (int y = 0; y < 100; ++y)
         for (int x = 0; x < 400; ++x)
             ASSERT_NEAR(qGreen(visto.pixel(x, y)), qGreen(atteso.pixel(x, y)), 3) << x << ',' << y;
 }
 
-TEST_F(GraficaTest, what_is_drawn_moves_along_to_a_screen_with_more_pixels)
+TEST_F(GraficaTest, ADrawingIsKeptOnAScreenWithMorePixels)
 {
     struct Mobile : Superficie
     {
@@ -338,7 +340,7 @@ TEST_F(GraficaTest, what_is_drawn_moves_along_to_a_screen_with_more_pixels)
     EXPECT_EQ(visto.pixelColor(69, 29), QColor(Qt::red));
 }
 
-TEST_F(GraficaTest, the_corners_of_a_shape_are_whole)
+TEST_F(GraficaTest, TheCornersOfAShapeAreComplete)
 {
     Fine<Forma> forma(u"shp"_s, &finestra);
     forma.setColori(Qt::transparent, Qt::blue, 0, 2);

@@ -1,10 +1,12 @@
 #include "controls/Messaggi.h"
 
-#include "tests/support/Controlli.h"
 #include "controls/Italiano.h"
+#include "tests/support/Controlli.h"
 
 #include <QPointer>
 #include <memory>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -13,7 +15,7 @@ QString nudo(const QString &testo)
     return QString(testo).remove(u'&');
 }
 
-// Shows the box, does the gesture once it is there, and gives the answer.
+// Shows a box, calls gesto when it is open, and returns the answer.
 Risposta risposta(Pulsanti pulsanti, const std::function<void(QMessageBox &)> &gesto)
 {
     const ManoSuiMessaggi mano([&](QMessageBox &box) { gesto(box); });
@@ -25,7 +27,7 @@ void premi(QMessageBox &box, QMessageBox::StandardButton quale)
     QTest::mouseClick(box.button(quale), Qt::LeftButton);
 }
 
-// What the box stands over.
+// Shows a box and returns its parent.
 QWidget *genitore()
 {
     QWidget *sopra = nullptr;
@@ -37,7 +39,7 @@ QWidget *genitore()
     return sopra;
 }
 
-// A dialog that is shown and gone again.
+// Shows a dialog, hides it and unloads it.
 void passa(Finestra &dialogo)
 {
     QTimer::singleShot(0, &dialogo, [&] { dialogo.Nascondi(); });
@@ -47,7 +49,7 @@ void passa(Finestra &dialogo)
 
 } // namespace
 
-TEST(Messaggi, shows_its_text_title_and_icon)
+TEST(Messaggi, ShowsItsTextTitleAndIcon)
 {
     const struct
     {
@@ -69,7 +71,7 @@ TEST(Messaggi, shows_its_text_title_and_icon)
     }
 }
 
-TEST(Messaggi, without_a_title_it_bears_the_programs_name)
+TEST(Messaggi, WithoutATitleItShowsTheProgramsName)
 {
     QString titolo;
     const ManoSuiMessaggi mano([&](QMessageBox &box) {
@@ -80,7 +82,7 @@ TEST(Messaggi, without_a_title_it_bears_the_programs_name)
     EXPECT_EQ(titolo, u"Lumbra"_s);
 }
 
-TEST(Messaggi, gives_the_button_that_was_pressed)
+TEST(Messaggi, ReturnsTheButtonThatWasPressed)
 {
     EXPECT_EQ(risposta(Pulsanti::OK, premiOK), Risposta::OK);
     for (const Pulsanti quali : {Pulsanti::SiNo, Pulsanti::SiNoAnnulla}) {
@@ -91,7 +93,7 @@ TEST(Messaggi, gives_the_button_that_was_pressed)
               Risposta::Annulla);
 }
 
-TEST(Messaggi, closing_the_box_counts_as_ok_or_as_annulla)
+TEST(Messaggi, ClosingTheBoxCountsAsOkOrAsAnnulla)
 {
     const auto chiudi = [](QMessageBox &box) { box.close(); };
     const auto esc = [](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Escape); };
@@ -101,7 +103,7 @@ TEST(Messaggi, closing_the_box_counts_as_ok_or_as_annulla)
     EXPECT_EQ(risposta(Pulsanti::SiNoAnnulla, esc), Risposta::Annulla);
 }
 
-TEST(Messaggi, a_question_between_yes_and_no_cannot_be_closed)
+TEST(Messaggi, AQuestionBetweenYesAndNoCannotBeClosed)
 {
     int tentativi = 0;
     EXPECT_EQ(risposta(Pulsanti::SiNo,
@@ -117,16 +119,16 @@ TEST(Messaggi, a_question_between_yes_and_no_cannot_be_closed)
     EXPECT_EQ(tentativi, 2);
 }
 
-TEST(Messaggi, enter_presses_the_first_button)
+TEST(Messaggi, EnterPressesTheFirstButton)
 {
     const auto invio = [](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Return); };
     EXPECT_EQ(risposta(Pulsanti::OK, invio), Risposta::OK);
     EXPECT_EQ(risposta(Pulsanti::SiNo, invio), Risposta::Si);
 }
 
-TEST(Messaggi, a_key_that_was_held_before_the_box_came_does_not_answer_it)
+TEST(Messaggi, AKeyHeldBeforeTheBoxAppearedDoesNotAnswerIt)
 {
-    // Some window of the program is always there before a box.
+    // A message box needs a window of the program.
     const FinestraDiProva finestra;
     for (const Qt::Key tasto : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
         int volte = 0;
@@ -146,7 +148,7 @@ TEST(Messaggi, a_key_that_was_held_before_the_box_came_does_not_answer_it)
     }
 }
 
-TEST(Messaggi, the_standard_buttons_speak_italian_whatever_the_systems_language_is)
+TEST(Messaggi, TheStandardButtonsAreInItalianWhateverTheLanguageOfTheSystem)
 {
     EXPECT_EXIT(
         {
@@ -170,7 +172,7 @@ TEST(Messaggi, the_standard_buttons_speak_italian_whatever_the_systems_language_
         ::testing::ExitedWithCode(0), "Sì\\|No\\|Annulla\\|OK$");
 }
 
-TEST(Messaggi, stands_over_the_active_window)
+TEST(Messaggi, IsShownOverTheActiveWindow)
 {
     FinestraDiProva console(u"frmPrincipale"_s);
     FinestraDiProva altra(u"frmEditor"_s);
@@ -179,7 +181,7 @@ TEST(Messaggi, stands_over_the_active_window)
     EXPECT_EQ(genitore(), &console);
 }
 
-TEST(Messaggi, with_another_program_in_front_stands_over_the_window_that_was_active_last)
+TEST(Messaggi, WithAnotherProgramInFrontIsShownOverTheWindowThatWasActiveLast)
 {
     FinestraDiProva console(u"frmPrincipale"_s);
     FinestraDiProva editor(u"frmEditor"_s);
@@ -188,14 +190,14 @@ TEST(Messaggi, with_another_program_in_front_stands_over_the_window_that_was_act
         finestra->mostraAttiva();
     const AltroProgramma altro;
     EXPECT_EQ(genitore(), &camera);
-    // One after the other goes, without another one coming to the front.
+    // The windows close one by one, and none becomes active.
     camera.Scarica();
     EXPECT_EQ(genitore(), &editor);
     editor.Nascondi();
     EXPECT_EQ(genitore(), &console);
 }
 
-TEST(Messaggi, after_a_dialog_it_stands_over_the_window_beneath)
+TEST(Messaggi, AfterADialogIsShownOverTheWindowBelow)
 {
     FinestraDiProva vigilio(u"frmProcessor"_s);
     FinestraDiProva dialogo(u"frmImpCondizioni"_s);
@@ -205,7 +207,7 @@ TEST(Messaggi, after_a_dialog_it_stands_over_the_window_beneath)
     EXPECT_EQ(genitore(), &vigilio);
 }
 
-TEST(Messaggi, stands_over_a_window_that_is_not_minimised_if_there_is_one)
+TEST(Messaggi, IsShownOverAWindowThatIsNotMinimisedIfThereIsOne)
 {
     FinestraDiProva editor(u"frmEditor"_s);
     FinestraDiProva console(u"frmPrincipale"_s);
@@ -218,7 +220,7 @@ TEST(Messaggi, stands_over_a_window_that_is_not_minimised_if_there_is_one)
     EXPECT_NE(genitore(), nullptr);
 }
 
-TEST(Messaggi, has_a_parent_though_no_window_is_on_the_screen)
+TEST(Messaggi, HasAParentEvenIfNoWindowIsOnTheScreen)
 {
     FinestraDiProva console(u"frmPrincipale"_s);
     FinestraDiProva splash(u"frmSchermataIniziale"_s);
@@ -228,7 +230,7 @@ TEST(Messaggi, has_a_parent_though_no_window_is_on_the_screen)
     EXPECT_NE(genitore(), nullptr);
 }
 
-TEST(Messaggi, stands_over_a_dialog_that_is_open)
+TEST(Messaggi, IsShownOverADialogThatIsOpen)
 {
     FinestraDiProva console(u"frmPrincipale"_s);
     FinestraDiProva dialogo(u"frmOpzioni"_s);
@@ -243,7 +245,7 @@ TEST(Messaggi, stands_over_a_dialog_that_is_open)
     EXPECT_EQ(sopra, &dialogo);
 }
 
-TEST(Messaggi, a_second_box_stands_over_the_first_and_each_gives_its_own_answer)
+TEST(Messaggi, ASecondBoxIsShownOverTheFirstAndEachReturnsItsOwnAnswer)
 {
     FinestraDiProva console(u"frmPrincipale"_s);
     console.mostraAttiva();
@@ -255,7 +257,7 @@ TEST(Messaggi, a_second_box_stands_over_the_first_and_each_gives_its_own_answer)
         seconda = messaggio(u"seconda"_s, Icona::Domanda, Pulsanti::SiNo);
         premi(box, QMessageBox::Cancel);
     });
-    // The hand on the first box is busy until the second is answered.
+    // A second helper, because the first one waits inside until the second box is answered.
     const ManoSuiMessaggi altra([&](QMessageBox &box) {
         if (!prima || &box == prima)
             return;
@@ -267,7 +269,7 @@ TEST(Messaggi, a_second_box_stands_over_the_first_and_each_gives_its_own_answer)
     EXPECT_TRUE(sopraLaPrima);
 }
 
-TEST(Messaggi, a_first_box_that_is_closed_beneath_the_second_leaves_the_second)
+TEST(Messaggi, ClosingTheFirstBoxBelowTheSecondLeavesTheSecondOpen)
 {
     FinestraDiProva console(u"frmPrincipale"_s);
     console.mostraAttiva();
@@ -290,7 +292,7 @@ TEST(Messaggi, a_first_box_that_is_closed_beneath_the_second_leaves_the_second)
     EXPECT_EQ(seconda, Risposta::Si);
 }
 
-TEST(Messaggi, a_window_that_goes_while_its_box_stands_takes_it_along_as_cancelled)
+TEST(Messaggi, DestroyingTheWindowOfABoxCancelsTheBox)
 {
     FinestraDiProva console(u"frmPrincipale"_s);
     const std::pair<Pulsanti, Risposta> casi[] = {{Pulsanti::OK, Risposta::OK},
@@ -303,7 +305,7 @@ TEST(Messaggi, a_window_that_goes_while_its_box_stands_takes_it_along_as_cancell
     }
 }
 
-TEST(Messaggi, can_be_answered_over_a_window_that_is_disabled)
+TEST(Messaggi, CanBeAnsweredOverADisabledWindow)
 {
     FinestraDiProva esplora(u"frmEsploraFile"_s);
     esplora.mostraAttiva();
@@ -311,9 +313,9 @@ TEST(Messaggi, can_be_answered_over_a_window_that_is_disabled)
     EXPECT_EQ(genitore(), &esplora);
 }
 
-TEST(Messaggi, closing_a_box_ends_the_program_in_no_state_of_its_windows)
+TEST(Messaggi, ClosingABoxNeverEndsTheProgramWhateverTheStateOfItsWindows)
 {
-    // In a process of its own: what would end is the program.
+    // In a separate process, because a failure would end the test program.
     EXPECT_EXIT(
         {
             FinestraDiProva console(u"frmPrincipale"_s);

@@ -1,10 +1,12 @@
 #include "controls/Pulsanti.h"
 
-#include "tests/support/Controlli.h"
 #include "controls/CasellaTesto.h"
 #include "tests/support/Contrasto.h"
+#include "tests/support/Controlli.h"
 
 #include <QToolButton>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -17,7 +19,7 @@ struct PulsantiTest : ::testing::Test
 
 } // namespace
 
-TEST_F(PulsantiTest, a_button_raises_click_by_mouse_by_space_and_by_code)
+TEST_F(PulsantiTest, AButtonRaisesClickByMouseBySpaceAndByCode)
 {
     Pulsante pulsante(u"pulEsegui"_s, &finestra, u"ESEGUI"_s);
     pulsante.Click.collega(conta);
@@ -30,7 +32,7 @@ TEST_F(PulsantiTest, a_button_raises_click_by_mouse_by_space_and_by_code)
     EXPECT_EQ(volte, 3);
 }
 
-TEST_F(PulsantiTest, a_disabled_button_raises_none)
+TEST_F(PulsantiTest, ADisabledButtonRaisesNoClick)
 {
     Pulsante pulsante(u"pulEsegui"_s, &finestra, u"ESEGUI"_s);
     pulsante.Click.collega(conta);
@@ -41,14 +43,14 @@ TEST_F(PulsantiTest, a_disabled_button_raises_none)
     EXPECT_EQ(volte, 0);
 }
 
-TEST_F(PulsantiTest, a_buttons_caption_is_a_property)
+TEST_F(PulsantiTest, TheCaptionOfAButtonIsAProperty)
 {
     Pulsante pulsante(u"pulEsegui"_s, &finestra, u"ESEGUI"_s);
     EXPECT_TRUE(pulsante.setProperty("Caption", u"STOP"_s));
     EXPECT_EQ(pulsante.Caption(), u"STOP"_s);
 }
 
-TEST_F(PulsantiTest, a_mouse_click_moves_the_focus_to_the_button_before_its_click)
+TEST_F(PulsantiTest, AMouseClickMovesTheFocusToTheButtonBeforeItsClick)
 {
     CasellaTesto testo(u"txt"_s, &finestra);
     Pulsante pulsante(u"pul"_s, &finestra, u"OK"_s);
@@ -62,7 +64,7 @@ TEST_F(PulsantiTest, a_mouse_click_moves_the_focus_to_the_button_before_its_clic
     EXPECT_EQ(ordine, (QStringList{u"LostFocus"_s, u"Click"_s}));
 }
 
-TEST_F(PulsantiTest, a_button_whose_release_went_to_a_box_in_between_does_not_stay_down)
+TEST_F(PulsantiTest, AButtonWhoseReleaseWentToAMessageBoxDoesNotStayDown)
 {
     CasellaTesto testo(u"txt"_s, &finestra);
     Pulsante pulsante(u"pul"_s, &finestra, u"OK"_s);
@@ -80,7 +82,7 @@ TEST_F(PulsantiTest, a_button_whose_release_went_to_a_box_in_between_does_not_st
     EXPECT_EQ(volte, 0);
 }
 
-TEST_F(PulsantiTest, a_button_is_down_between_press_and_release)
+TEST_F(PulsantiTest, AButtonIsDownBetweenPressAndRelease)
 {
     Pulsante pulsante(u"pul"_s, &finestra, u"OK"_s);
     finestra.mostraAttiva();
@@ -90,7 +92,7 @@ TEST_F(PulsantiTest, a_button_is_down_between_press_and_release)
     EXPECT_FALSE(pulsante.isDown());
 }
 
-TEST_F(PulsantiTest, the_keys_up_and_down_leave_the_focus_on_a_button)
+TEST_F(PulsantiTest, TheKeysUpAndDownLeaveTheFocusOnAButton)
 {
     Pulsante prima(u"pulPrima"_s, &finestra, u"Prima"_s);
     Pulsante pulsante(u"pul"_s, &finestra, u"OK"_s);
@@ -103,7 +105,7 @@ TEST_F(PulsantiTest, the_keys_up_and_down_leave_the_focus_on_a_button)
     }
 }
 
-TEST_F(PulsantiTest, a_check_box_raises_click_at_every_change_of_its_value)
+TEST_F(PulsantiTest, ACheckBoxRaisesClickAtEveryChangeOfItsValue)
 {
     CasellaSpunta spunta(u"opzInsComandi"_s, &finestra, u"Inserisci"_s);
     spunta.Click.collega(conta);
@@ -115,13 +117,13 @@ TEST_F(PulsantiTest, a_check_box_raises_click_at_every_change_of_its_value)
     spunta.setValue(0);
     EXPECT_EQ(volte, 2);
     spunta.setValue(0);
-    EXPECT_EQ(volte, 2) << "that was no change";
+    EXPECT_EQ(volte, 2) << "the value has not changed";
     EXPECT_TRUE(spunta.setProperty("Value", 1));
     EXPECT_EQ(volte, 3);
     EXPECT_EQ(spunta.Value(), 1);
 }
 
-TEST_F(PulsantiTest, a_check_boxs_value_is_0_or_1)
+TEST_F(PulsantiTest, TheValueOfACheckBoxIs0Or1)
 {
     CasellaSpunta spunta(u"opz"_s, &finestra, u"x"_s);
     spunta.setValue(1);
@@ -132,7 +134,7 @@ TEST_F(PulsantiTest, a_check_boxs_value_is_0_or_1)
     EXPECT_EQ(volte, 0);
 }
 
-TEST_F(PulsantiTest, an_option_box_raises_click_when_it_becomes_the_chosen_one)
+TEST_F(PulsantiTest, AnOptionBoxRaisesClickWhenItBecomesTheChosenOne)
 {
     CasellaOpzione base(u"opzBase"_s, &finestra, u"Base"_s);
     CasellaOpzione testa(u"opzTesta"_s, &finestra, u"Testa"_s);
@@ -150,7 +152,7 @@ TEST_F(PulsantiTest, an_option_box_raises_click_when_it_becomes_the_chosen_one)
     EXPECT_EQ(ordine, (QStringList{u"base"_s, u"testa"_s, u"base"_s}));
 }
 
-TEST_F(PulsantiTest, the_chosen_option_box_can_be_cleared_by_code_without_a_click)
+TEST_F(PulsantiTest, TheChosenOptionBoxCanBeClearedByCodeWithoutAClick)
 {
     CasellaOpzione base(u"opzBase"_s, &finestra, u"Base"_s);
     CasellaOpzione testa(u"opzTesta"_s, &finestra, u"Testa"_s);
@@ -163,18 +165,18 @@ TEST_F(PulsantiTest, the_chosen_option_box_can_be_cleared_by_code_without_a_clic
     EXPECT_EQ(volte, 0);
     testa.setValue(true);
     base.setValue(true);
-    EXPECT_FALSE(testa.Value()) << "they still shut each other out";
+    EXPECT_FALSE(testa.Value()) << "they must still exclude each other";
     EXPECT_EQ(volte, 2);
 }
 
-TEST_F(PulsantiTest, an_option_boxs_colour_can_be_read_back)
+TEST_F(PulsantiTest, TheColourOfAnOptionBoxCanBeReadBack)
 {
     CasellaOpzione base(u"opzBase"_s, &finestra, u"Base"_s);
     base.setBackColor(QColor(0xC0, 0xFF, 0xC0));
     EXPECT_EQ(base.BackColor(), QColor(0xC0, 0xFF, 0xC0));
 }
 
-TEST_F(PulsantiTest, a_spin_bar_raises_change_by_code_and_by_its_arrows)
+TEST_F(PulsantiTest, ASpinBarRaisesChangeByCodeAndByItsArrows)
 {
     SuGiu barra(u"SuGiu"_s, &finestra, 1, 99, 1);
     barra.resize(20, 40);
@@ -192,10 +194,10 @@ TEST_F(PulsantiTest, a_spin_bar_raises_change_by_code_and_by_its_arrows)
     EXPECT_TRUE(barra.setProperty("Value", 50));
     EXPECT_EQ(volte, 3);
     barra.setValue(50);
-    EXPECT_EQ(volte, 3) << "that was no change";
+    EXPECT_EQ(volte, 3) << "the value has not changed";
 }
 
-TEST_F(PulsantiTest, keys_leave_a_clicked_spin_bar_and_the_focus_alone)
+TEST_F(PulsantiTest, KeysChangeNeitherAClickedSpinBarNorTheFocus)
 {
     SuGiu barra(u"SuGiu"_s, &finestra, 1, 99, 1);
     barra.resize(20, 40);
@@ -212,14 +214,14 @@ TEST_F(PulsantiTest, keys_leave_a_clicked_spin_bar_and_the_focus_alone)
     }
 }
 
-TEST_F(PulsantiTest, a_screen_reader_tells_a_spin_bars_arrows_apart)
+TEST_F(PulsantiTest, TheArrowsOfASpinBarHaveDifferentNamesForAScreenReader)
 {
     const SuGiu barra(u"SuGiu"_s, &finestra, 1, 99, 1);
     EXPECT_EQ(barra.findChild<QToolButton *>(u"SuGiu.Su"_s)->accessibleName(), u"Aumenta"_s);
     EXPECT_EQ(barra.findChild<QToolButton *>(u"SuGiu.Giu"_s)->accessibleName(), u"Diminuisci"_s);
 }
 
-TEST_F(PulsantiTest, a_held_arrow_goes_on_when_its_handler_gives_the_focus_away)
+TEST_F(PulsantiTest, AHeldArrowRepeatsEvenIfItsHandlerMovesTheFocus)
 {
     SuGiu barra(u"SuGiu"_s, &finestra, 1, 99, 1);
     barra.resize(20, 40);
@@ -235,7 +237,7 @@ TEST_F(PulsantiTest, a_held_arrow_goes_on_when_its_handler_gives_the_focus_away)
     EXPECT_FALSE(su->isDown());
 }
 
-TEST_F(PulsantiTest, a_held_arrow_stops_when_another_window_comes_to_the_front)
+TEST_F(PulsantiTest, AHeldArrowStopsWhenAnotherWindowComesToTheFront)
 {
     SuGiu barra(u"SuGiu"_s, &finestra, 1, 99, 1);
     barra.resize(20, 40);
@@ -247,7 +249,7 @@ TEST_F(PulsantiTest, a_held_arrow_stops_when_another_window_comes_to_the_front)
     EXPECT_TRUE(attendi([&] { return !su->isDown(); }));
 }
 
-TEST_F(PulsantiTest, a_spin_bar_stops_at_its_limits)
+TEST_F(PulsantiTest, ASpinBarStopsAtItsLimits)
 {
     SuGiu barra(u"SuGiu"_s, &finestra, -1, 24, 24);
     finestra.mostraAttiva();
@@ -264,7 +266,7 @@ TEST_F(PulsantiTest, a_spin_bar_stops_at_its_limits)
     EXPECT_EQ(volte, 1);
 }
 
-TEST_F(PulsantiTest, the_arrow_keys_spin_from_the_box_beside)
+TEST_F(PulsantiTest, TheArrowKeysInItsTextBoxTurnTheSpinBar)
 {
     CasellaTesto testo(u"txtOre"_s, &finestra, u"5"_s);
     SuGiu barra(u"SuGiuOre"_s, &finestra, 0, 23, 0);
@@ -277,7 +279,7 @@ TEST_F(PulsantiTest, the_arrow_keys_spin_from_the_box_beside)
     finestra.mostraAttiva();
     testo.setFocus();
     QTest::keyClick(&testo, Qt::Key_Up);
-    EXPECT_EQ(testo.Text(), u"6"_s) << "from the number that was typed";
+    EXPECT_EQ(testo.Text(), u"6"_s) << "must start from the typed number";
     QTest::keyClick(&testo, Qt::Key_Down);
     QTest::keyClick(&testo, Qt::Key_Down);
     EXPECT_EQ(barra.Value(), 4);
@@ -285,10 +287,10 @@ TEST_F(PulsantiTest, the_arrow_keys_spin_from_the_box_beside)
     EXPECT_TRUE(testo.hasFocus());
     testo.clear();
     QTest::keyClick(&testo, Qt::Key_Up);
-    EXPECT_EQ(testo.Text(), QString()) << "a box that stays empty has no number to start from";
+    EXPECT_EQ(testo.Text(), QString()) << "an empty box has no number to start from";
 }
 
-TEST_F(PulsantiTest, the_mark_of_a_check_box_stands_out_from_the_ground_that_it_was_given)
+TEST_F(PulsantiTest, TheMarkOfACheckBoxHasEnoughContrastWithItsGround)
 {
     CasellaSpunta casella(u"opz"_s, &finestra, u"Attivato"_s);
     const QColor fondo(0x1B, 0x2A, 0x20);
@@ -296,7 +298,7 @@ TEST_F(PulsantiTest, the_mark_of_a_check_box_stands_out_from_the_ground_that_it_
     finestra.show();
     casella.show();
     casella.resize(casella.sizeHint());
-    // Of all that is painted left of the text.
+    // The highest contrast of the pixels left of the text.
     const auto massimo = [&] {
         const QImage immagine = casella.grab(QRect(4, 4, 20, casella.height() - 8)).toImage();
         double trovato = 1;

@@ -1,7 +1,9 @@
 // Double clicks whose first press opens something under the pointer.
-#include "tests/support/Controlli.h"
 #include "controls/Elenco.h"
 #include "controls/Grafica.h"
+#include "tests/support/Controlli.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,7 +31,7 @@ struct SecondaPressioneTest : ::testing::Test
 
 } // namespace
 
-TEST_F(SecondaPressioneTest, does_not_reach_what_the_first_has_opened)
+TEST_F(SecondaPressioneTest, DoesNotReachWhatTheFirstPressHasOpened)
 {
     sotto.MouseDown.collega([this](int, int, double, double) {
         sopra.show();
@@ -40,10 +42,10 @@ TEST_F(SecondaPressioneTest, does_not_reach_what_the_first_has_opened)
     EXPECT_TRUE(sopra.isVisible());
     EXPECT_EQ(scelte, 0);
     QTest::mouseClick(finestra.windowHandle(), Qt::LeftButton, {}, dove);
-    EXPECT_EQ(scelte, 1) << "the next press does";
+    EXPECT_EQ(scelte, 1) << "the next press must reach it";
 }
 
-TEST_F(SecondaPressioneTest, does_not_answer_the_box_that_the_first_has_opened)
+TEST_F(SecondaPressioneTest, DoesNotAnswerTheBoxThatTheFirstPressHasOpened)
 {
     int chiuse = 0;
     sotto.MouseDown.collega([&](int, int, double, double) {
@@ -66,7 +68,7 @@ TEST_F(SecondaPressioneTest, does_not_answer_the_box_that_the_first_has_opened)
     EXPECT_EQ(chiuse, 1);
 }
 
-TEST_F(SecondaPressioneTest, reaches_what_was_there_before)
+TEST_F(SecondaPressioneTest, ReachesWhatWasOpenBefore)
 {
     int premute = 0;
     sotto.MouseDown.collega([&](int, int, double, double) { ++premute; });

@@ -1,17 +1,19 @@
-// Message boxes and file dialogs have room for their texts with every desktop's font.
-#include "tests/support/Controlli.h"
+// Message boxes and file dialogs have room for their texts with the usual fonts of desktops.
 #include "controls/FinestraFile.h"
 #include "controls/Italiano.h"
 #include "controls/Messaggi.h"
+#include "tests/support/Controlli.h"
 #include "tests/support/Modali.h"
 #include "tests/support/Ritaglio.h"
 
 #include <QFileDialog>
 #include <gmock/gmock.h>
 
+using namespace Qt::StringLiterals;
+
 using testing::IsEmpty;
 
-TEST(Spazio, MessageBoxesHaveItWithEveryIcon)
+TEST(Spazio, MessageBoxesHaveRoomForTheirTextsWithEveryIcon)
 {
     installaItaliano(*qApp);
     const struct
@@ -44,7 +46,7 @@ TEST(Spazio, MessageBoxesHaveItWithEveryIcon)
     }
 }
 
-TEST(Spazio, FileDialogsHaveIt)
+TEST(Spazio, FileDialogsHaveRoomForTheirTexts)
 {
     installaItaliano(*qApp);
     for (const double punti : caratteriUsuali) {

@@ -4,7 +4,7 @@
 
 #include <QKeyEvent>
 
-TEST(Tasti, have_the_codes_of_the_design)
+TEST(Tasti, HaveTheCodesOfTheDesign)
 {
     const struct
     {
@@ -23,7 +23,7 @@ TEST(Tasti, have_the_codes_of_the_design)
     }
 }
 
-TEST(Tasti, no_other_key_has_the_code_of_one_that_is_tested)
+TEST(Tasti, NoOtherKeyHasACodeThatTheProgramCompares)
 {
     for (const int tasto : {int(Qt::Key_Percent), int(Qt::Key_Ampersand), int(Qt::Key_Apostrophe),
                             int(Qt::Key_ParenLeft), int(Qt::Key_Period), int(Qt::Key_CapsLock),

@@ -1,10 +1,12 @@
 #include "controls/Temporizzatore.h"
 
-#include "tests/support/Controlli.h"
 #include "base/Pompa.h"
+#include "tests/support/Controlli.h"
 
 #include <QElapsedTimer>
 #include <memory>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -24,7 +26,7 @@ struct Provato : ::testing::Test
     std::function<void()> nelloScatto;
 };
 
-// Pumps until another timer of that many milliseconds has come due.
+// Runs the pump until another timer with this interval has ticked.
 void pompaPer(int millisecondi)
 {
     bool passati = false;
@@ -37,7 +39,7 @@ void pompaPer(int millisecondi)
 
 using TemporizzatoreTest = Provato;
 
-TEST_F(TemporizzatoreTest, is_found_by_its_name_and_has_its_properties)
+TEST_F(TemporizzatoreTest, IsFoundByItsNameAndHasItsProperties)
 {
     QObject finestra;
     Temporizzatore suo(u"tmrElabInput"_s, &finestra);
@@ -51,13 +53,13 @@ TEST_F(TemporizzatoreTest, is_found_by_its_name_and_has_its_properties)
     EXPECT_EQ(suo.Tag(), u"abc"_s);
 }
 
-TEST_F(TemporizzatoreTest, starts_disabled_without_an_interval)
+TEST_F(TemporizzatoreTest, StartsDisabledWithoutAnInterval)
 {
     EXPECT_EQ(timer.Interval(), 0);
     EXPECT_FALSE(timer.Enabled());
 }
 
-TEST_F(TemporizzatoreTest, takes_intervals_from_0_to_65535)
+TEST_F(TemporizzatoreTest, TakesIntervalsFrom0To65535)
 {
     for (const int buono : {0, 1, 300, 65534, 65535}) {
         timer.setInterval(buono);
@@ -65,7 +67,7 @@ TEST_F(TemporizzatoreTest, takes_intervals_from_0_to_65535)
     }
 }
 
-TEST_F(TemporizzatoreTest, refuses_another_interval_and_keeps_the_old_one)
+TEST_F(TemporizzatoreTest, RefusesAnyOtherIntervalAndKeepsTheOldOne)
 {
     timer.setInterval(300);
     for (const int cattivo :
@@ -75,7 +77,7 @@ TEST_F(TemporizzatoreTest, refuses_another_interval_and_keeps_the_old_one)
     }
 }
 
-TEST_F(TemporizzatoreTest, a_refused_interval_lets_it_tick_on)
+TEST_F(TemporizzatoreTest, ARefusedIntervalDoesNotStopIt)
 {
     timer.setInterval(5);
     timer.setEnabled(true);
@@ -83,14 +85,14 @@ TEST_F(TemporizzatoreTest, a_refused_interval_lets_it_tick_on)
     EXPECT_TRUE(attendi([&] { return scatti >= 2; }));
 }
 
-TEST_F(TemporizzatoreTest, ticks_again_and_again_while_it_is_enabled)
+TEST_F(TemporizzatoreTest, TicksRepeatedlyWhileItIsEnabled)
 {
     timer.setInterval(1);
     timer.setEnabled(true);
     EXPECT_TRUE(attendi([&] { return scatti >= 3; }));
 }
 
-TEST_F(TemporizzatoreTest, does_not_tick_while_it_is_disabled)
+TEST_F(TemporizzatoreTest, DoesNotTickWhileItIsDisabled)
 {
     timer.setInterval(1);
     pompaPer(20);
@@ -101,7 +103,7 @@ TEST_F(TemporizzatoreTest, does_not_tick_while_it_is_disabled)
     EXPECT_EQ(scatti, 0);
 }
 
-TEST_F(TemporizzatoreTest, interval_0_stops_the_ticks_and_leaves_it_enabled)
+TEST_F(TemporizzatoreTest, Interval0StopsTheTicksAndLeavesItEnabled)
 {
     timer.setInterval(1);
     timer.setEnabled(true);
@@ -115,14 +117,14 @@ TEST_F(TemporizzatoreTest, interval_0_stops_the_ticks_and_leaves_it_enabled)
     EXPECT_TRUE(attendi([&] { return scatti > prima; }));
 }
 
-TEST_F(TemporizzatoreTest, enabling_it_with_interval_0_gives_no_tick)
+TEST_F(TemporizzatoreTest, EnablingItWithInterval0GivesNoTick)
 {
     timer.setEnabled(true);
     pompaPer(20);
     EXPECT_EQ(scatti, 0);
 }
 
-TEST_F(TemporizzatoreTest, setting_the_interval_starts_the_period_anew)
+TEST_F(TemporizzatoreTest, SettingTheIntervalStartsANewPeriod)
 {
     timer.setInterval(200);
     timer.setEnabled(true);
@@ -134,12 +136,12 @@ TEST_F(TemporizzatoreTest, setting_the_interval_starts_the_period_anew)
         if (scatti > 0)
             break;
     }
-    ASSERT_EQ(scatti, 0) << "300 ms have gone by, but never 200 since the last setting";
+    ASSERT_EQ(scatti, 0) << "300 ms have passed, but never 200 ms since the last setting";
     ASSERT_TRUE(attendi([&] { return scatti > 0; }));
     EXPECT_GE(daUltima.elapsed(), 199);
 }
 
-TEST_F(TemporizzatoreTest, setting_enabled_starts_the_period_anew_also_when_it_is_enabled)
+TEST_F(TemporizzatoreTest, SettingEnabledStartsANewPeriodEvenIfItIsEnabled)
 {
     timer.setInterval(200);
     timer.setEnabled(true);
@@ -156,7 +158,7 @@ TEST_F(TemporizzatoreTest, setting_enabled_starts_the_period_anew_also_when_it_i
     EXPECT_GE(daUltima.elapsed(), 199);
 }
 
-TEST_F(TemporizzatoreTest, never_ticks_inside_its_own_tick)
+TEST_F(TemporizzatoreTest, NeverTicksInsideItsOwnTick)
 {
     int dentro = 0;
     int massimo = 0;
@@ -171,7 +173,7 @@ TEST_F(TemporizzatoreTest, never_ticks_inside_its_own_tick)
     EXPECT_EQ(massimo, 1);
 }
 
-TEST_F(TemporizzatoreTest, never_ticks_inside_its_own_tick_even_when_it_is_set_anew_there)
+TEST_F(TemporizzatoreTest, NeverTicksInsideItsOwnTickEvenIfItIsSetAgainThere)
 {
     int dentro = 0;
     int massimo = 0;
@@ -188,7 +190,7 @@ TEST_F(TemporizzatoreTest, never_ticks_inside_its_own_tick_even_when_it_is_set_a
     EXPECT_EQ(massimo, 1);
 }
 
-TEST_F(TemporizzatoreTest, other_timers_tick_inside_its_tick)
+TEST_F(TemporizzatoreTest, OtherTimersTickInsideItsTick)
 {
     Temporizzatore altro(u"tmrAltro"_s, nullptr);
     int scattiAltro = 0;
@@ -208,7 +210,7 @@ TEST_F(TemporizzatoreTest, other_timers_tick_inside_its_tick)
     EXPECT_TRUE(attendi([&] { return visto; }));
 }
 
-TEST_F(TemporizzatoreTest, disabled_in_its_own_tick_it_stays_silent)
+TEST_F(TemporizzatoreTest, DisabledInItsOwnTickItTicksNoMore)
 {
     nelloScatto = [&] { timer.setEnabled(false); };
     timer.setInterval(1);
@@ -218,7 +220,7 @@ TEST_F(TemporizzatoreTest, disabled_in_its_own_tick_it_stays_silent)
     EXPECT_EQ(scatti, 1);
 }
 
-TEST_F(TemporizzatoreTest, a_suspended_tick_keeps_it_from_ticking_until_it_is_taken_up_again)
+TEST_F(TemporizzatoreTest, DoesNotTickWhileATickIsSuspended)
 {
     std::unique_ptr<Temporizzatore::ScattoAperto> sospeso;
     nelloScatto = [&] {
@@ -234,7 +236,7 @@ TEST_F(TemporizzatoreTest, a_suspended_tick_keeps_it_from_ticking_until_it_is_ta
     EXPECT_TRUE(attendi([&] { return scatti >= 3; }));
 }
 
-TEST_F(TemporizzatoreTest, setting_it_anew_does_not_break_a_suspended_tick_open)
+TEST_F(TemporizzatoreTest, SettingItAgainDoesNotMakeItTickDuringASuspendedTick)
 {
     std::unique_ptr<Temporizzatore::ScattoAperto> sospeso;
     nelloScatto = [&] {
@@ -253,7 +255,7 @@ TEST_F(TemporizzatoreTest, setting_it_anew_does_not_break_a_suspended_tick_open)
     EXPECT_TRUE(attendi([&] { return scatti >= 2; }));
 }
 
-TEST_F(TemporizzatoreTest, disabled_during_a_suspended_tick_it_stays_silent_behind_it)
+TEST_F(TemporizzatoreTest, DisabledDuringASuspendedTickItTicksNoMoreAfterIt)
 {
     auto sospeso = std::make_unique<Temporizzatore::ScattoAperto>(timer);
     timer.setInterval(1);
@@ -265,7 +267,7 @@ TEST_F(TemporizzatoreTest, disabled_during_a_suspended_tick_it_stays_silent_behi
     EXPECT_EQ(scatti, 0);
 }
 
-TEST_F(TemporizzatoreTest, all_of_them_can_be_stopped_at_once)
+TEST_F(TemporizzatoreTest, AllTimersCanBeStoppedAtOnce)
 {
     auto andato = std::make_unique<Temporizzatore>(u"tmrAndato"_s, nullptr);
     andato.reset();

@@ -4,6 +4,8 @@
 
 #include <QMenu>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct VoceMenuTest : ::testing::Test
@@ -18,7 +20,7 @@ struct VoceMenuTest : ::testing::Test
 
 } // namespace
 
-TEST_F(VoceMenuTest, entries_and_menus_are_actions_found_by_their_names)
+TEST_F(VoceMenuTest, EntriesAndMenusAreActionsFoundByTheirNames)
 {
     auto *voce = finestra.findChild<QAction *>(u"mnuFileNuovo"_s);
     ASSERT_EQ(voce, &nuovo);
@@ -30,7 +32,7 @@ TEST_F(VoceMenuTest, entries_and_menus_are_actions_found_by_their_names)
     EXPECT_EQ(menu->menu(), menuFile);
 }
 
-TEST_F(VoceMenuTest, a_menu_keeps_the_order_of_its_entries)
+TEST_F(VoceMenuTest, AMenuKeepsTheOrderOfItsEntries)
 {
     BarraMenu::aggiungiSeparatore(menuFile, u"t1"_s);
     const VoceMenu esci(u"mnuFileEsci"_s, menuFile, u"Esci"_s);
@@ -44,7 +46,7 @@ TEST_F(VoceMenuTest, a_menu_keeps_the_order_of_its_entries)
     EXPECT_EQ(finestra.findChild<QAction *>(u"mnuInsTDx"_s), &destra);
 }
 
-TEST_F(VoceMenuTest, choosing_an_entry_raises_click)
+TEST_F(VoceMenuTest, ChoosingAnEntryRaisesClick)
 {
     nuovo.Click.collega(conta);
     finestra.mostraAttiva();
@@ -56,7 +58,7 @@ TEST_F(VoceMenuTest, choosing_an_entry_raises_click)
     EXPECT_EQ(volte, 2);
 }
 
-TEST_F(VoceMenuTest, a_disabled_entry_raises_none)
+TEST_F(VoceMenuTest, ADisabledEntryRaisesNoClick)
 {
     nuovo.Click.collega(conta);
     EXPECT_TRUE(nuovo.setProperty("Enabled", false));
@@ -65,14 +67,14 @@ TEST_F(VoceMenuTest, a_disabled_entry_raises_none)
     EXPECT_EQ(volte, 0);
 }
 
-TEST_F(VoceMenuTest, has_a_tag)
+TEST_F(VoceMenuTest, HasATag)
 {
     EXPECT_EQ(nuovo.Tag(), QString());
     EXPECT_TRUE(nuovo.setProperty("Tag", u"-1"_s));
     EXPECT_EQ(nuovo.Tag(), u"-1"_s);
 }
 
-TEST_F(VoceMenuTest, its_check_mark_changes_by_code_only)
+TEST_F(VoceMenuTest, ItsCheckMarkIsChangedOnlyByCode)
 {
     EXPECT_FALSE(nuovo.Checked());
     nuovo.trigger();
@@ -84,7 +86,7 @@ TEST_F(VoceMenuTest, its_check_mark_changes_by_code_only)
     EXPECT_TRUE(nuovo.isChecked());
 }
 
-TEST_F(VoceMenuTest, a_handler_that_toggles_it_toggles_it)
+TEST_F(VoceMenuTest, AHandlerCanToggleItsCheckMark)
 {
     nuovo.Click.collega([&] { nuovo.setChecked(!nuovo.Checked()); });
     nuovo.trigger();

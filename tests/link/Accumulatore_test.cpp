@@ -64,7 +64,7 @@ TEST(Accumulatore, KeepsTheSameBytesThroughManyCuts)
     }
 }
 
-TEST(Accumulatore, TellsOfAddedBytesAndOfNothingElse)
+TEST(Accumulatore, ReportsAddedBytesAndNothingElse)
 {
     Accumulatore accumulatore;
     int volte = 0;
@@ -77,7 +77,7 @@ TEST(Accumulatore, TellsOfAddedBytesAndOfNothingElse)
     EXPECT_EQ(volte, 1);
 }
 
-TEST(TemporizzatoreIngresso, ItsTagIsTheAccumulatorOneCharacterAByte)
+TEST(TemporizzatoreIngresso, ItsTagShowsTheAccumulatorWithOneCharacterForEachByte)
 {
     TemporizzatoreIngresso timer(u"tmrElabInput"_s, nullptr);
     EXPECT_EQ(timer.Tag(), QString());

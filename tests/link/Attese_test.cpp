@@ -1,4 +1,4 @@
-// The waits that count rounds: the keep-alive and MostraInvio, on a line without a system.
+// The waits that count rounds of the pump, on a line in memory: the keep-alive and MostraInvio.
 #include "tests/link/BancoSessioneFinta.h"
 
 #include <gtest/gtest.h>
@@ -11,7 +11,7 @@ constexpr int fineBarra = 100000;
 
 } // namespace
 
-TEST(MantieniVivo, AsksForBothStates)
+TEST(MantieniVivo, SendsBothStateRequests)
 {
     BancoSessioneFinta p;
     p.collega();
@@ -24,7 +24,7 @@ TEST(MantieniVivo, AnswerBytesGoIntoTheAccumulatorInTheOrderOfArrival)
 {
     BancoSessioneFinta p;
     p.collega();
-    // The engine waits inside a telegram while the keep-alive finds the rest.
+    // The engine waits for the rest of a telegram, and the keep-alive reads it.
     p.porta.arriva(b({32, 100}));
     ASSERT_TRUE(aspetta([&] { return p.banco.tmrElabInput.accumulatore.lunghezza() == 2; }));
     p.porta.scritto = [&](const QByteArray &) { p.porta.arriva(b({200, 31, 7})); };
@@ -47,7 +47,7 @@ TEST(MantieniVivo, AnAnswerShowsConnessoAndEmptiesTheBar)
     EXPECT_EQ(p.banco.BarraCaricamento.Value(), 1);
 }
 
-TEST(MantieniVivo, SearchesOnceTheRobotIsSilentForLong)
+TEST(MantieniVivo, ShowsTheSearchWhenTheRobotIsSilentForLong)
 {
     BancoSessioneFinta p;
     p.collega();
@@ -65,7 +65,7 @@ TEST(MantieniVivo, SearchesOnceTheRobotIsSilentForLong)
     EXPECT_EQ(p.banco.BarraCaricamento.Value(), 1);
 }
 
-TEST(MantieniVivo, TheFirstMissOnlyMarksAndTheSecondDisconnects)
+TEST(MantieniVivo, DisconnectsOnlyAfterTwoTicksWithoutAnAnswer)
 {
     BancoSessioneFinta p;
     p.collega();
@@ -93,7 +93,7 @@ TEST(MantieniVivo, TheFirstMissOnlyMarksAndTheSecondDisconnects)
     EXPECT_TRUE(p.messaggi.visti().isEmpty());
 }
 
-TEST(MantieniVivo, AnAnswerBetweenTwoMissesForgivesTheFirst)
+TEST(MantieniVivo, AnAnswerBetweenTwoTicksWithoutOneKeepsTheConnection)
 {
     BancoSessioneFinta p;
     p.collega();
@@ -106,7 +106,7 @@ TEST(MantieniVivo, AnAnswerBetweenTwoMissesForgivesTheFirst)
     EXPECT_EQ(p.pannello(1), u"Ricerca..."_s);
 }
 
-TEST(MantieniVivo, EndsQuietlyWhereTheUserDisconnectsMeanwhile)
+TEST(MantieniVivo, EndsSilentlyIfTheUserDisconnectsMeanwhile)
 {
     BancoSessioneFinta p;
     p.collega();
@@ -125,7 +125,7 @@ TEST(MantieniVivo, EndsQuietlyWhereTheUserDisconnectsMeanwhile)
     EXPECT_FALSE(p.finestre.registro.contains(u"ButtonClick"_s));
 }
 
-TEST(MantieniVivo, ALineThatIsLostEndsTheSessionAfterTwoMisses)
+TEST(MantieniVivo, ALostLineEndsTheSessionAfterTwoTicksWithoutAnAnswer)
 {
     BancoSessioneFinta p;
     p.collega();
@@ -166,7 +166,7 @@ TEST(MostraInvio, ShowsItsTextAsSoonAsTheRobotReacts)
     EXPECT_EQ(p.banco.BarraCaricamento.Value(), 1);
 }
 
-TEST(MostraInvio, WithoutAReactionSaysSoAndLeavesTheBarAtItsEnd)
+TEST(MostraInvio, WithoutAReactionShowsNoAnswerAndLeavesTheBarAtItsEnd)
 {
     BancoSessioneFinta p;
     p.collega();
@@ -176,21 +176,21 @@ TEST(MostraInvio, WithoutAReactionSaysSoAndLeavesTheBarAtItsEnd)
     EXPECT_TRUE(p.collegato());
 }
 
-TEST(MostraInvio, TakesADropOfTheCountForAReaction)
+TEST(MostraInvio, ASmallerCountIsAReactionToo)
 {
     BancoSessioneFinta p;
     p.collega();
     p.porta.arriva(b({31, 21}));
     p.sessione.MostraInvio(u"uno"_s);
     ASSERT_EQ(p.pannello(3), u"uno"_s);
-    // The engine has taken the two bytes since.
+    // Meanwhile the engine has taken the two bytes.
     ASSERT_TRUE(aspetta([&] { return p.banco.lblTemperatura.Caption() == u"21°"_s; }));
     p.sessione.MostraInvio(u"due"_s);
     EXPECT_EQ(p.pannello(3), u"due"_s);
     EXPECT_EQ(p.banco.BarraCaricamento.Value(), 1);
 }
 
-TEST(MostraInvio, DoesNotLoseWhatItCounts)
+TEST(MostraInvio, DoesNotLoseTheBytesThatItCounts)
 {
     BancoSessioneFinta p;
     p.collega();
@@ -201,7 +201,7 @@ TEST(MostraInvio, DoesNotLoseWhatItCounts)
     }
 }
 
-TEST(MostraInvio, EndsQuietlyWhereTheUserDisconnectsMeanwhile)
+TEST(MostraInvio, EndsSilentlyIfTheUserDisconnectsMeanwhile)
 {
     BancoSessioneFinta p;
     p.collega();

@@ -1,12 +1,12 @@
-// The console's controls that the link works on, without the console.
+// The console's controls that link/ works with, without the console.
 #pragma once
 
 #include "controls/Barre.h"
-#include "serial/ControlloSeriale.h"
 #include "link/MotoreRicezione.h"
 #include "link/Sessione.h"
+#include "serial/ControlloSeriale.h"
 
-// Bars, telemetry and timers as the main window has them, around a line that is handed in.
+// Bars, telemetry and timers as in the console, and a serial control over the given line.
 struct Banco
 {
     Banco(std::unique_ptr<Porta> porta, const QString &cartella);
@@ -34,7 +34,7 @@ struct Banco
     Forma shpUltrasuoniSx;
 };
 
-// The windows above, which write down what they are told.
+// The listeners of the engine; they record what they receive.
 struct VideoFinto : AscoltatoreVideo
 {
     bool aperta = false;
@@ -48,7 +48,7 @@ struct VideoFinto : AscoltatoreVideo
 struct FileFinto : AscoltatoreFile
 {
     bool inVista = true;
-    // All calls but the looks at a block that is coming.
+    // All calls except bloccoInArrivo, which sguardi counts.
     QStringList registro;
     int sguardi = 0;
     QList<QByteArray> corpi;

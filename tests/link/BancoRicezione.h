@@ -1,25 +1,25 @@
-// The receive engine on a line without a system, in a folder of its own.
+// The receive engine on a line in memory, in a temporary folder.
 #pragma once
 
-#include "tests/support/Attesa.h"
 #include "tests/link/BancoLink.h"
+#include "tests/support/Attesa.h"
 #include "tests/support/CartellaDiProva.h"
 #include "tests/support/PortaFinta.h"
 #include "tests/support/Scritte.h"
 
-// Connected from the start: the port is open, the receive timer runs.
+// The port is open and the receive timer runs from the start.
 class BancoRicezione
 {
 public:
     BancoRicezione() : BancoRicezione(std::make_unique<PortaFinta>()) {}
 
-    // Lets the bytes come and the engine work until it has taken them all.
+    // Sends the bytes and waits until the engine has read them all from the port.
     [[nodiscard]] bool arriva(const QByteArray &byte)
     {
         porta.arriva(byte);
         return presi();
     }
-    // The same one byte after the other, each one met by a waiting engine.
+    // The same, one byte at a time; the engine waits for each.
     [[nodiscard]] bool arrivaUnoAlla(const QByteArray &byte)
     {
         for (const char uno : byte) {
@@ -34,7 +34,7 @@ public:
         gira(3);
         return tutti;
     }
-    // Until all telegrams are cut off and nothing is left.
+    // Waits until all telegrams are handled and the accumulator is empty.
     [[nodiscard]] bool digeriti()
     {
         return aspetta(

@@ -1,15 +1,15 @@
 // A session with its windows, without the console.
 #pragma once
 
-#include "tests/support/Attesa.h"
 #include "tests/link/BancoLink.h"
+#include "tests/support/Attesa.h"
 #include "tests/support/CartellaDiProva.h"
 #include "tests/support/Modali.h"
 #include "tests/support/Scritte.h"
 
 #include <QTimer>
 
-// The windows that live from the connection, which write down what they are told.
+// The windows that need the connection; they record the calls.
 struct FinestreFinte : FinestreSessione
 {
     QStringList registro;
@@ -29,7 +29,8 @@ struct FinestreFinte : FinestreSessione
     }
 };
 
-// Runs a function about every millisecond while it lives: what happens during a call that waits.
+// While an object of this class exists, calls a function about every millisecond: what happens
+// during a call that waits.
 class Durante
 {
 public:
@@ -43,8 +44,8 @@ private:
     QTimer m_timer;
 };
 
-// Over the line that is handed in. "Porta COM" says 1. The toolbar's button connects and
-// disconnects as in the console.
+// A session over the given line. The file "Porta COM" contains 1. The button of the toolbar
+// connects and disconnects as in the console.
 class BancoSessione
 {
 public:

@@ -1,10 +1,10 @@
-// A session on a line without a system.
+// A session on a line in memory.
 #pragma once
 
 #include "tests/link/BancoSessione.h"
 #include "tests/support/PortaFinta.h"
 
-// Built before the session that takes the line over.
+// A base class, so that the line exists before the session that takes it.
 struct ConPortaFinta
 {
     std::unique_ptr<PortaFinta> nuova = std::make_unique<PortaFinta>();
@@ -18,7 +18,7 @@ public:
 
     using ConPortaFinta::porta;
 
-    // A robot that answers the opening with two bytes of a telegram, and nothing else.
+    // From now on the robot answers only the opening of a session, with a telegram of two bytes.
     void rispondiAllApertura()
     {
         porta.scritto = [this](const QByteArray &) {
@@ -26,8 +26,8 @@ public:
                 porta.arriva(b({31, 20}));
         };
     }
-    // Connected, with an idle engine and nothing written yet; the timers that poll tick only where
-    // a test asks for it.
+    // Connects, and then clears all records. The timers of telemetry and keep-alive do not tick; a
+    // test starts them if it needs them.
     void collega()
     {
         rispondiAllApertura();

@@ -1,4 +1,4 @@
-// The connection attempt, step by step, on a line without a system.
+// The connection attempt, step by step, on a line in memory.
 #include "tests/link/BancoSessioneFinta.h"
 
 #include <QDir>
@@ -66,7 +66,7 @@ TEST(Collega, ShowsEachStepBeforeItIsTaken)
                            u"Attendere prego...|1|6|1"_s}));
 }
 
-TEST(Collega, TellsTheSplashWhatIsGoingOn)
+TEST(Collega, ShowsItsProgressInTheSplash)
 {
     BancoSessioneFinta p;
     p.splash.Mostra();
@@ -83,7 +83,7 @@ TEST(Collega, TellsTheSplashWhatIsGoingOn)
     EXPECT_TRUE(p.splash.tmrAnimazione.Enabled());
 }
 
-TEST(Collega, LeavesAHiddenSplashAlone)
+TEST(Collega, DoesNotChangeAHiddenSplash)
 {
     BancoSessioneFinta p;
     p.rispondiAllApertura();
@@ -92,7 +92,7 @@ TEST(Collega, LeavesAHiddenSplashAlone)
     EXPECT_FALSE(p.splash.tmrAnimazione.Enabled());
 }
 
-TEST(Collega, ReadsTheFileOnlyWhereThePortIsClosed)
+TEST(Collega, ReadsTheFileOnlyIfThePortIsClosed)
 {
     BancoSessioneFinta p;
     p.banco.COM.setPortOpen(true);
@@ -103,7 +103,7 @@ TEST(Collega, ReadsTheFileOnlyWhereThePortIsClosed)
     EXPECT_EQ(p.porta.aperture, 1);
 }
 
-TEST(Collega, ASingleByteIsNoAnswer)
+TEST(Collega, ASingleByteDoesNotCountAsAnAnswer)
 {
     BancoSessioneFinta p;
     p.porta.arriva(b({31}));
@@ -113,7 +113,7 @@ TEST(Collega, ASingleByteIsNoAnswer)
     EXPECT_EQ(p.pannello(1), u"Non connesso"_s);
 }
 
-TEST(Collega, WithoutAnAnswerNudgesOnceGivesUpAndSaysSo)
+TEST(Collega, WithoutAnAnswerNudgesOnceThenGivesUpWithAMessage)
 {
     BancoSessioneFinta p;
     p.banco.tmrChiusuraAutomatica.setInterval(1);
@@ -152,7 +152,7 @@ TEST(Collega, TheFirstTickOnlyLengthensTheInterval)
     EXPECT_EQ(p.banco.tmrChiusuraAutomatica.Tag(), u"0"_s);
 }
 
-TEST(Collega, TheIntervalNeverGoesBack)
+TEST(Collega, TheIntervalIsNeverShortenedAgain)
 {
     BancoSessioneFinta p;
     p.banco.tmrChiusuraAutomatica.setInterval(5000);
@@ -188,7 +188,7 @@ TEST(Collega, AnAnswerBetweenNudgeAndGiveUpMakesTheNextAttemptShorter)
     Temporizzatore &timer = p.banco.tmrChiusuraAutomatica;
     timer.setInterval(1);
     p.porta.scritto = [&](const QByteArray &) {
-        // The nudge is the fourth write; the give-up is put off, and the answer comes.
+        // The nudge is the fourth write. The answer comes after it, before the time limit.
         if (p.porta.scritture.size() == 4) {
             timer.setInterval(60000);
             p.porta.arriva(b({31, 20}));
@@ -203,7 +203,7 @@ TEST(Collega, AnAnswerBetweenNudgeAndGiveUpMakesTheNextAttemptShorter)
     p.sessione.Collega();
     EXPECT_EQ(p.porta.scritti(), b({3, 1, 1}));
     EXPECT_EQ(p.messaggi.testi(), QStringList{u"Collegamento non riuscito!"_s});
-    // The flag is clear again.
+    // The flag has been cleared.
     p.porta.scritture.clear();
     p.sessione.Collega();
     EXPECT_EQ(p.porta.scritti(), b({3, 1, 1, 1}));
@@ -264,7 +264,7 @@ TEST(Collega, ThePortDialogClosedByItsCloseBoxMeansPort1)
     EXPECT_EQ(p.banco.COM.CommPort(), 1);
 }
 
-TEST(Collega, AFailedOpeningAfterThePortDialogIsNotTold)
+TEST(Collega, AFailedOpeningAfterThePortDialogIsNotReported)
 {
     BancoSessioneFinta p;
     QFile::remove(p.cartella.percorso(u"Porta COM"_s));
@@ -279,7 +279,7 @@ TEST(Collega, AFailedOpeningAfterThePortDialogIsNotTold)
 
 namespace {
 
-// What was told of the port, in order.
+// The messages about the port, in order.
 QStringList dettoDellaPorta(const BancoSessioneFinta &p)
 {
     QStringList testi;
@@ -291,7 +291,7 @@ QStringList dettoDellaPorta(const BancoSessioneFinta &p)
 
 } // namespace
 
-TEST(Collega, AUserWithoutRightsIsToldWhatToDoEvenAfterThePortDialog)
+TEST(Collega, AUserWithoutRightsLearnsWhatToDoEvenAfterThePortDialog)
 {
     BancoSessioneFinta p;
     QFile::remove(p.cartella.percorso(u"Porta COM"_s));
@@ -301,13 +301,13 @@ TEST(Collega, AUserWithoutRightsIsToldWhatToDoEvenAfterThePortDialog)
     p.banco.tmrSensori.setInterval(0);
     p.sessione.Collega();
     EXPECT_EQ(dettoDellaPorta(p), QStringList{u"Entra nel gruppo (75)"_s});
-    // The attempt goes on as after any other failure.
+    // The attempt goes on as after any other error.
     EXPECT_EQ(p.cartella.leggi(u"Porta COM"_s), "1\r\n");
     EXPECT_EQ(p.pannello(1), u"Connesso"_s);
     EXPECT_FALSE(p.banco.COM.PortOpen());
 }
 
-TEST(Collega, AUserWithoutRightsIsToldOnceAnAttempt)
+TEST(Collega, MissingRightsAreReportedOnceForEachAttempt)
 {
     BancoSessioneFinta p;
     p.porta.apertura = Errore::AccessoNegato;
@@ -337,7 +337,7 @@ class PortaSbagliata : public ::testing::TestWithParam<CasoPorta>
 
 } // namespace
 
-TEST_P(PortaSbagliata, IsToldWithItsNumberAndTheAttemptGoesOnToTheEnd)
+TEST_P(PortaSbagliata, IsReportedWithItsNumberAndTheAttemptGoesOnToTheEnd)
 {
     BancoSessioneFinta p;
     p.cartella.scrivi(u"Porta COM"_s, GetParam().contenuto);
@@ -351,7 +351,7 @@ TEST_P(PortaSbagliata, IsToldWithItsNumberAndTheAttemptGoesOnToTheEnd)
               Errore(GetParam().errore).descrizione() + u" (%1)"_s.arg(GetParam().errore));
     EXPECT_EQ(primo.icona, QMessageBox::Critical);
     EXPECT_EQ(primo.pulsanti, QMessageBox::Ok);
-    // As if the bytes had come: the keep-alive undoes it.
+    // The attempt ends as if the bytes had come; the keep-alive ends the connection later.
     EXPECT_EQ(p.pannello(1), u"Connesso"_s);
     EXPECT_EQ(p.pulsante().Image(), 6);
     EXPECT_TRUE(p.collegato());
@@ -373,7 +373,7 @@ INSTANTIATE_TEST_SUITE_P(
         CasoPorta{"Inesistente", "3\r\n", Errore::PortaInesistente, Errore::PortaInesistente}),
     [](const auto &caso) { return caso.param.nome; });
 
-TEST(Collega, ADirectoryInPlaceOfThePortFileIsTold)
+TEST(Collega, AFolderInsteadOfThePortFileIsReported)
 {
     BancoSessioneFinta p;
     QFile::remove(p.cartella.percorso(u"Porta COM"_s));
@@ -385,7 +385,7 @@ TEST(Collega, ADirectoryInPlaceOfThePortFileIsTold)
               Errore(Errore::AccessoNegato).descrizione() + u" (75)"_s);
 }
 
-TEST(Collega, AnAttemptWithoutAPortIsUndoneByTheKeepAlive)
+TEST(Collega, TheKeepAliveEndsAConnectionWithoutAPort)
 {
     BancoSessioneFinta p;
     p.porta.apertura = Errore::PortaInUso;
@@ -398,7 +398,7 @@ TEST(Collega, AnAttemptWithoutAPortIsUndoneByTheKeepAlive)
     EXPECT_TRUE(p.fermo());
 }
 
-TEST(Collega, AnAttemptUndoneWhileItsBoxIsOpenDoesNotShowConnesso)
+TEST(Collega, AConnectionEndedWhileItsBoxIsOpenDoesNotShowConnesso)
 {
     BancoSessioneFinta p;
     p.porta.apertura = Errore::PortaInUso;
@@ -416,12 +416,12 @@ TEST(Collega, AnAttemptUndoneWhileItsBoxIsOpenDoesNotShowConnesso)
     EXPECT_FALSE(p.banco.imgLivBattLogica.Visible());
 }
 
-TEST(Collega, ATickOfTheEngineThatWaitsDoesNotTakeTheAnswer)
+TEST(Collega, AWaitingTickOfTheEngineDoesNotTakeTheAnswer)
 {
     BancoSessioneFinta p;
     p.collega();
     p.sessione.Scollega();
-    // The tick of the old session still waits for a byte; it must not eat the new greeting.
+    // The tick of the old session still waits for a byte. It must not take the robot's new answer.
     p.rispondiAllApertura();
     p.banco.tmrChiusuraAutomatica.setInterval(60000);
     p.sessione.Collega();

@@ -1,11 +1,11 @@
-// Every command over a real pseudo-terminal, as the robot reads it.
-#include "tests/support/Attesa.h"
-#include "tests/support/CartellaDiProva.h"
+// Every command over a pseudo-terminal, as the simulated robot reads it.
 #include "serial/ControlloSeriale.h"
 #include "serial/PortaAsio.h"
-#include "tests/support/Scritte.h"
 #include "simulator/Simulatore.h"
 #include "tests/link/TavolaComandi.h"
+#include "tests/support/Attesa.h"
+#include "tests/support/CartellaDiProva.h"
+#include "tests/support/Scritte.h"
 
 #include <gtest/gtest.h>
 

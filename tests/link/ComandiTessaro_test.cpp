@@ -1,11 +1,11 @@
-// Every command, byte for byte and write for write.
+// Every command, with its bytes and its writes.
 #include "link/ComandiTessaro.h"
 
+#include "tests/link/TavolaComandi.h"
 #include "tests/support/Attesa.h"
 #include "tests/support/Modali.h"
 #include "tests/support/PortaFinta.h"
 #include "tests/support/Scritte.h"
-#include "tests/link/TavolaComandi.h"
 
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -18,7 +18,7 @@ class ComandoDellaTavola : public ::testing::TestWithParam<RigaComando>
 {
 };
 
-// What the long command tells of its course.
+// Records what AvviaVideo reports.
 struct EsitoFinto : EsitoVideo
 {
     QStringList registro;
@@ -44,7 +44,7 @@ TEST_P(ComandoDellaTavola, WritesItsPiecesInOrder)
     EXPECT_EQ(seriale.porta.scritture, riga.scritture);
 }
 
-TEST_P(ComandoDellaTavola, WithThePortClosedSendsNothingAndSaysSoAtMostOnce)
+TEST_P(ComandoDellaTavola, WithThePortClosedSendsNothingAndReportsItAtMostOnce)
 {
     const RigaComando &riga = GetParam();
     SerialeFinto seriale;
@@ -59,7 +59,7 @@ TEST_P(ComandoDellaTavola, WithThePortClosedSendsNothingAndSaysSoAtMostOnce)
     }
 }
 
-TEST_P(ComandoDellaTavola, AFailingPieceEndsItWithoutAWordUnlessItIgnoresErrors)
+TEST_P(ComandoDellaTavola, AFailingPieceEndsItSilentlyUnlessItIgnoresErrors)
 {
     const RigaComando &riga = GetParam();
     for (int k = 1; k <= riga.scritture.size(); ++k) {
@@ -95,7 +95,7 @@ TEST(MascheraLed, HasOneBitForEachNameAndNoneForOthers)
     EXPECT_EQ(ComandiTessaro::MascheraLed({}), 0);
 }
 
-TEST(AvviaVideo, TellsEachStepBeforeAndAfterItsBytes)
+TEST(AvviaVideo, ReportsEachStepBeforeAndAfterItsBytes)
 {
     SerialeFinto seriale;
     seriale.apri();
@@ -121,7 +121,7 @@ TEST(AvviaVideo, WithThePortClosedIsFalseAfterTheFirstStep)
     EXPECT_EQ(messaggi.testi(), QStringList{u"Non sono collegato al robot"_s});
 }
 
-TEST(AvviaVideo, IsFalseWhereTheUserDisconnectsBetweenItsSteps)
+TEST(AvviaVideo, IsFalseIfTheUserDisconnectsBetweenItsSteps)
 {
     SerialeFinto seriale;
     seriale.apri();
@@ -134,7 +134,7 @@ TEST(AvviaVideo, IsFalseWhereTheUserDisconnectsBetweenItsSteps)
     EXPECT_EQ(messaggi.visti().size(), 1);
 }
 
-TEST(AvviaVideo, GivenUpInAWaitItSendsAndTellsNothingMore)
+TEST(AvviaVideo, GivenUpInAWaitItSendsAndReportsNothingMore)
 {
     for (const int attesa : {1, 2}) {
         SerialeFinto seriale;
@@ -164,7 +164,7 @@ TEST(AvviaVideo, AFailingPieceEndsItWithFalse)
     }
 }
 
-TEST(SegnalaNonCollegato, SaysNothingForAnyOtherNumber)
+TEST(SegnalaNonCollegato, ShowsNothingForAnyOtherNumber)
 {
     const RispondiMessaggi messaggi;
     for (const int numero : {53, 75, 8002, 8005, 8020, 32755})
@@ -191,7 +191,7 @@ TEST(SegnalaNonCollegato, OpensNoSecondBoxWhileOneIsOpen)
     EXPECT_EQ(messaggi.visti().size(), 1);
 }
 
-TEST(SegnalaNonCollegato, SpeaksAgainOnceTheBoxIsClosed)
+TEST(SegnalaNonCollegato, ShowsABoxAgainAfterTheFirstIsClosed)
 {
     SerialeFinto seriale;
     const RispondiMessaggi messaggi;

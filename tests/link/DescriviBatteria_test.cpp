@@ -6,7 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
-TEST(DescriviBatteria, ChangesItsLevelRightBehindEachLimit)
+TEST(DescriviBatteria, ChangesItsLevelRightAfterEachLimit)
 {
     EXPECT_EQ(LivelloBatteria(0), 0);
     EXPECT_EQ(LivelloBatteria(50), 0);

@@ -1,4 +1,4 @@
-// The receive engine: how what the robot's storage sends is cut (types 42, 45, 47).
+// The receive engine: the telegrams of the robot's storage (types 42, 45, 47).
 #include "tests/link/BancoRicezione.h"
 
 #include <gtest/gtest.h>
@@ -60,7 +60,7 @@ TEST(StatoMemoria, WithTheWindowClosedDoesNotWaitForItsThirdByte)
     BancoRicezione p;
     p.file.inVista = false;
     ASSERT_TRUE(p.digerisci(b({42, 6})));
-    // What comes now is a telegram of its own.
+    // The next byte counts as a new telegram.
     ASSERT_TRUE(p.digerisci(b({9})));
     EXPECT_EQ(p.pannello(2), u"<9>"_s);
 }
@@ -80,7 +80,7 @@ TEST(BloccoElenco, WithExactlyNPlus4BytesIsAcceptedAndLeavesNothing)
     ASSERT_TRUE(p.digerisci(elenco(4, 16, "FOTO")));
     EXPECT_EQ(p.file.corpi, QList<QByteArray>{"FOTO"});
     EXPECT_EQ(p.pannello(2), u"<47>"_s);
-    // The byte that follows is a telegram of its own.
+    // The next byte begins a new telegram.
     ASSERT_TRUE(p.digerisci(b({99})));
     EXPECT_EQ(p.pannello(2), u"<99>"_s);
 }
@@ -130,7 +130,7 @@ TEST(BloccoFile, GoesToTheWindowByteForByte)
     for (int i = 0; i < 256; ++i)
         tutti.append(static_cast<char>(i));
     BancoRicezione p;
-    // The 31 begins the next telegram, whose tick waits.
+    // The 31 begins the next telegram; its tick waits for the second byte.
     ASSERT_TRUE(p.arriva(blocco(5, tutti) + b({0, 31})));
     ASSERT_TRUE(aspetta([&] { return p.accumulatore().lunghezza() == 1; }));
     EXPECT_EQ(p.file.registro, QStringList{u"blocco 5 256"_s});
@@ -140,7 +140,7 @@ TEST(BloccoFile, GoesToTheWindowByteForByte)
     EXPECT_TRUE(p.porta.scritture.isEmpty());
 }
 
-TEST(BloccoFile, GoesThereWithTheWindowClosedToo)
+TEST(BloccoFile, GoesToTheWindowEvenIfItIsClosed)
 {
     BancoRicezione p;
     p.file.inVista = false;
@@ -157,11 +157,11 @@ TEST(BloccoFile, WithExactlyNPlus5BytesWaitsForOneMore)
     EXPECT_EQ(p.accumulatore().lunghezza(), 8);
     ASSERT_TRUE(p.digerisci(b({31, 8})));
     EXPECT_EQ(p.file.corpi, QList<QByteArray>{"abc"});
-    // The fifth byte beyond the body was consumed with it, the next one begins a telegram.
+    // Byte n + 5 is consumed with the block; the next one begins a new telegram.
     EXPECT_EQ(p.banco.lblTemperatura.Caption(), u"8°"_s);
 }
 
-TEST(BloccoFile, IsAnnouncedAtEveryLook)
+TEST(BloccoFile, IsAnnouncedAtEveryTick)
 {
     BancoRicezione p;
     ASSERT_TRUE(p.arriva(b({45, 5, 3})));
@@ -211,7 +211,7 @@ TEST(BloccoFile, MayBeEmpty)
     EXPECT_EQ(p.file.registro, QStringList{u"blocco 1 0"_s});
 }
 
-TEST(ByteGettati, AreToldToTheWindow)
+TEST(ByteGettati, AreReportedToTheWindow)
 {
     BancoRicezione p;
     ASSERT_TRUE(p.arriva(blocco(5, "abc").first(5)));
@@ -225,7 +225,7 @@ TEST(ByteGettati, AreToldToTheWindow)
     EXPECT_EQ(p.file.registro, QStringList{u"byteGettati"_s});
 }
 
-TEST(ByteGettati, AreNoneWhereTheEngineOnlyCuts)
+TEST(ByteGettati, AreNotReportedWhenTheEngineCutsTelegrams)
 {
     BancoRicezione p;
     ASSERT_TRUE(p.digerisci(b({31, 8, 32, 1, 2, 42, 1, 0})));

@@ -1,6 +1,6 @@
 // The receive engine: a tick that waits for a byte.
-#include "tests/link/BancoRicezione.h"
 #include "link/ComandiTessaro.h"
+#include "tests/link/BancoRicezione.h"
 #include "tests/support/Modali.h"
 
 #include <gtest/gtest.h>
@@ -19,13 +19,13 @@ TEST(ScattoSospeso, ASingle31WaitsForItsTemperature)
     EXPECT_EQ(p.telemetria.testi.size(), 1);
 }
 
-TEST(ScattoSospeso, FieldsThatWereReadStayRead)
+TEST(ScattoSospeso, FieldsAlreadyReadAreNotReadAgain)
 {
     BancoRicezione p;
     ASSERT_TRUE(p.arriva(b({33, 1})));
-    // The first shape is set as soon as its byte is there.
+    // The first shape is set as soon as its byte has arrived.
     EXPECT_TRUE(p.banco.shpUltrasuoniDx.Visible());
-    // Whoever changes it meanwhile is not overruled: the byte is not read again.
+    // A change made meanwhile stays, because the byte is not read again.
     p.banco.shpUltrasuoniDx.setVisible(false);
     ASSERT_TRUE(p.digerisci(b({1, 1})));
     EXPECT_FALSE(p.banco.shpUltrasuoniDx.Visible());
@@ -37,7 +37,7 @@ TEST(ScattoSospeso, DoesNotTickAgain)
     BancoRicezione p;
     ASSERT_TRUE(p.arriva(b({33, 1})));
     p.banco.shpUltrasuoniDx.setVisible(false);
-    // A second tick would read the telegram from its first byte.
+    // A second tick would read the telegram again from its first byte.
     int altri = 0;
     Temporizzatore orologio(u"orologio"_s, nullptr);
     orologio.Timer.collega([&] { ++altri; });
@@ -63,13 +63,13 @@ TEST(ScattoSospeso, WatchesTheLineOnlyWhileItWaits)
     BancoRicezione p;
     EXPECT_FALSE(p.porta.sorvegliata());
     ASSERT_TRUE(aspetta([&] { return p.porta.sorvegliata(); }));
-    // A row that is not whole ends the tick: the next look is the timer's.
+    // An incomplete row ends the tick; the next tick of the timer looks again.
     p.banco.tmrElabInput.setEnabled(false);
     ASSERT_TRUE(p.arriva(b({13})));
     EXPECT_FALSE(p.porta.sorvegliata());
 }
 
-TEST(ScattoSospeso, IsTakenUpByBytesThatSomebodyElseAppends)
+TEST(ScattoSospeso, IsResumedByBytesThatOtherCodeAppends)
 {
     BancoRicezione p;
     ASSERT_TRUE(p.arriva(b({31})));
@@ -78,7 +78,7 @@ TEST(ScattoSospeso, IsTakenUpByBytesThatSomebodyElseAppends)
     EXPECT_EQ(p.banco.lblTemperatura.Caption(), u"19°"_s);
 }
 
-TEST(ScattoSospeso, IsTakenUpByATextSetAsTag)
+TEST(ScattoSospeso, IsResumedByATextSetAsTag)
 {
     BancoRicezione p;
     gira(3);
@@ -87,17 +87,17 @@ TEST(ScattoSospeso, IsTakenUpByATextSetAsTag)
     EXPECT_EQ(p.banco.lblTemperatura.Caption(), u"18°"_s);
 }
 
-TEST(ScattoSospeso, ReadsTheAccumulatorAfreshWhereItWasEmptiedMeanwhile)
+TEST(ScattoSospeso, ReadsTheNewBytesIfTheAccumulatorWasEmptiedMeanwhile)
 {
     BancoRicezione p;
     ASSERT_TRUE(p.arriva(b({31})));
     p.tmrElabInput().setTag({});
-    // The type was read already: the second byte of what comes is its temperature.
+    // The type has been read already: of the new bytes, the second one is the temperature.
     ASSERT_TRUE(p.digerisci(b({99, 12})));
     EXPECT_EQ(p.banco.lblTemperatura.Caption(), u"12°"_s);
 }
 
-TEST(ScattoSospeso, OutlivesDisconnectionAndReadsWhenTheLineIsBack)
+TEST(ScattoSospeso, SurvivesADisconnectionAndGoesOnWhenTheLineIsBack)
 {
     BancoRicezione p;
     ASSERT_TRUE(p.arriva(b({32, 10})));
@@ -128,7 +128,7 @@ TEST(ScattoSospeso, GoesOnAfterReconnectionWithTheTimersOfTheNewSession)
     }
 }
 
-TEST(ScattoSospeso, IsNotTakenUpWhileSomebodyBeneathCountsTheBytes)
+TEST(ScattoSospeso, IsNotResumedWhileAnotherRoutineCountsTheBytes)
 {
     BancoRicezione p;
     ASSERT_TRUE(p.arriva(b({31})));
@@ -140,12 +140,12 @@ TEST(ScattoSospeso, IsNotTakenUpWhileSomebodyBeneathCountsTheBytes)
         EXPECT_EQ(p.banco.COM.InBufferCount(), 1);
         EXPECT_EQ(p.banco.lblTemperatura.Caption(), QString());
     }
-    // What the control holds already comes with no new notice from the line.
+    // The byte is in the control already, so the line does not report it again.
     EXPECT_TRUE(aspetta([&] { return p.accumulatore().vuoto(); }));
     EXPECT_EQ(p.banco.lblTemperatura.Caption(), u"21°"_s);
 }
 
-TEST(ScattoSospeso, ATickThatBeginsMeanwhileLeavesTheBytesToWhoCountsThem)
+TEST(ScattoSospeso, ATickThatBeginsMeanwhileLeavesTheBytesInThePort)
 {
     BancoRicezione p;
     p.porta.arriva(b({31, 21}));
@@ -158,7 +158,7 @@ TEST(ScattoSospeso, ATickThatBeginsMeanwhileLeavesTheBytesToWhoCountsThem)
     EXPECT_TRUE(aspetta([&] { return p.banco.lblTemperatura.Caption() == u"21°"_s; }));
 }
 
-TEST(ScattoSospeso, WaitsForTheOutermostOfSeveralWaits)
+TEST(ScattoSospeso, IsNotResumedBeforeTheOutermostWaitEnds)
 {
     BancoRicezione p;
     ASSERT_TRUE(p.arriva(b({31})));
@@ -184,7 +184,7 @@ TEST(ScattoSospeso, ALostLineLeavesItWaiting)
     EXPECT_EQ(p.accumulatore().tutto(), b({31}));
 }
 
-TEST(ScattoSospeso, GoesWithItsEngine)
+TEST(ScattoSospeso, IsDestroyedWithItsEngine)
 {
     BancoRicezione p;
     {
@@ -198,10 +198,10 @@ TEST(ScattoSospeso, GoesWithItsEngine)
     EXPECT_EQ(p.banco.lblTemperatura.Caption(), u"3°"_s);
 }
 
-TEST(ScattoSospeso, AMessageBoxOpenedByATelegramLetsTheRestGoOn)
+TEST(ScattoSospeso, AMessageBoxOpenedByATelegramDoesNotStopTheTick)
 {
     BancoRicezione p;
-    // The window asks for more while the port is closed: a box, and then the tick goes on.
+    // The window sends a command while the port is closed: a box is shown, then the tick goes on.
     p.file.durante = [&] { ComandiTessaro::LeggiElenco(p.banco.COM, 1); };
     const RispondiMessaggi messaggi;
     p.accumulatore().aggiungi(b({42, 1, 0, 31, 4}));

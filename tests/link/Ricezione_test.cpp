@@ -16,7 +16,7 @@ QByteArray rigaVideo(quint8 seme = 0)
     return riga;
 }
 
-// All that telegrams of the telemetry can change.
+// Everything that telemetry can change.
 QStringList aspetto(const BancoRicezione &p)
 {
     const Banco &c = p.banco;
@@ -55,7 +55,7 @@ TEST(Ricezione, ATemperatureOf50IsShownAnd51IsNot)
     EXPECT_EQ(p.pannello(2), u"<31>"_s);
 }
 
-TEST(Ricezione, TheRunnerIsToldOfAFalseReadingAllTheSame)
+TEST(Ricezione, AFalseReadingIsReportedToTheRunnerAsWell)
 {
     BancoRicezione p;
     ASSERT_TRUE(p.digerisci(b({31, 255})));
@@ -80,7 +80,7 @@ TEST(Ricezione, AFalseReadingShowsAQuestionMarkUntilTheTelegramEnds)
     EXPECT_EQ(p.pannello(2), u"<31>"_s);
 }
 
-TEST(Ricezione, TheRunnerIsToldNothingWhileItIsNotStarted)
+TEST(Ricezione, NothingIsReportedToTheRunnerWhileItIsNotStarted)
 {
     BancoRicezione p;
     p.telemetria.inMoto = false;
@@ -175,7 +175,7 @@ TEST(Ricezione, TwoTelegramsTogetherAreHandledInOneTick)
     EXPECT_TRUE(p.accumulatore().vuoto());
 }
 
-TEST(Ricezione, EveryUnknownTypeIsSkippedAloneAndShown)
+TEST(Ricezione, EveryUnknownTypeIsSkippedAsOneByteAndShown)
 {
     const QByteArray noti = b({13, 31, 32, 33, 42, 45, 47});
     BancoRicezione p;
@@ -191,13 +191,13 @@ TEST(Ricezione, EveryUnknownTypeIsSkippedAloneAndShown)
 TEST(Ricezione, AfterALostByteTheParserFindsTheNextTelegram)
 {
     BancoRicezione p;
-    // The type of a temperature was lost: its value is skipped.
+    // The type of a temperature was lost; its value, 25, is skipped as an unknown type.
     ASSERT_TRUE(p.digerisci(b({25, 31, 26})));
     EXPECT_EQ(p.banco.lblTemperatura.Caption(), u"26°"_s);
     EXPECT_EQ(p.pannello(2), u"<31>"_s);
 }
 
-TEST(Ricezione, AByte13OutOfStepSwallows161Bytes)
+TEST(Ricezione, AFalseByte13Takes161BytesWithIt)
 {
     BancoRicezione p;
     ASSERT_TRUE(p.arriva(b({13}) + b({31, 26}).repeated(40)));
@@ -213,7 +213,7 @@ TEST(Ricezione, AVideoRowWithTheCameraClosedIsDropped)
     BancoRicezione p;
     ASSERT_TRUE(p.digerisci(b({31, 20}) + rigaVideo()));
     EXPECT_TRUE(p.video.righe.isEmpty());
-    // A row leaves panel 2 as it was.
+    // A video row does not change panel 2.
     EXPECT_EQ(p.pannello(2), u"<31>"_s);
 }
 
@@ -225,7 +225,7 @@ TEST(Ricezione, AVideoRowGoesToTheCameraWithoutItsType)
     EXPECT_EQ(p.video.righe, QList<QByteArray>{rigaVideo(7).sliced(1)});
 }
 
-TEST(Ricezione, AVideoRowTakesTheFirstByteOfWhatFollowsAlongAndLeavesItThere)
+TEST(Ricezione, AVideoRowIsHandedOverWithTheNextByteWhichIsNotConsumed)
 {
     BancoRicezione p;
     p.video.aperta = true;
@@ -235,7 +235,7 @@ TEST(Ricezione, AVideoRowTakesTheFirstByteOfWhatFollowsAlongAndLeavesItThere)
     EXPECT_EQ(p.banco.lblTemperatura.Caption(), u"22°"_s);
 }
 
-TEST(Ricezione, A160ByteRowWaits)
+TEST(Ricezione, ARowOf160BytesWaitsForTheLastOne)
 {
     BancoRicezione p;
     p.video.aperta = true;
@@ -269,7 +269,7 @@ TEST(Ricezione, CutAtEveryByteTheTelemetryGivesTheSame)
         p.file.inVista = false;
         ASSERT_TRUE(p.arriva(flusso.first(taglio)));
         ASSERT_TRUE(p.digerisci(flusso.sliced(taglio)));
-        // Where the cut leaves two bytes of a status, its third is a telegram of its own.
+        // After the two bytes of a status the third one counts as a new telegram.
         if (taglio == flusso.indexOf(b({42, 1, 7})) + 2)
             continue;
         ASSERT_EQ(aspetto(p), atteso) << taglio;
@@ -299,12 +299,12 @@ TEST(Ricezione, MoreThanTheControlHoldsIsNotLost)
     EXPECT_EQ(p.telemetria.testi.last(), u"Temperatura:49"_s);
 }
 
-TEST(Ricezione, AMillionRandomBytesLeaveAParserThatUnderstandsTheNextTelegram)
+TEST(Ricezione, AfterAMillionRandomBytesTheNextTelegramIsUnderstood)
 {
     std::mt19937 caso(20240131);
     BancoRicezione p;
     p.video.aperta = true;
-    // Small steps between what is known, so that no single block takes most of it.
+    // Many bytes are known types and small lengths, so that no single block takes most of them.
     static constexpr std::array<int, 9> frequenti = {13, 31, 32, 33, 42, 45, 47, 0, 255};
     QByteArray flusso;
     flusso.reserve(1'000'000);
@@ -314,12 +314,12 @@ TEST(Ricezione, AMillionRandomBytesLeaveAParserThatUnderstandsTheNextTelegram)
                                                       : (tiro >> 16) & 0xFF));
     }
     ASSERT_TRUE(p.arriva(flusso));
-    // The longest telegram that may be open is a block of 65535 bytes.
+    // Completes the last telegram, which may be a block of 65535 bytes.
     ASSERT_TRUE(p.digerisci(QByteArray(65535 + 6, '\0')));
     p.telemetria.testi.clear();
     ASSERT_TRUE(p.digerisci(b({31, 17})));
     EXPECT_EQ(p.banco.lblTemperatura.Caption(), u"17°"_s);
     EXPECT_EQ(p.telemetria.testi, QStringList{u"Temperatura:17"_s});
-    // The engine itself writes nothing.
+    // The engine itself writes no file.
     EXPECT_EQ(p.cartella.elenco(), QStringList());
 }

@@ -1,4 +1,4 @@
-// The orderly disconnection, on a line without a system.
+// The disconnection, on a line in memory.
 #include "tests/link/BancoSessioneFinta.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +15,7 @@ TEST(Scollega, SendsTheEndOfTheSessionAndClosesThePort)
     EXPECT_TRUE(p.fermo());
 }
 
-TEST(Scollega, PutsTheConsoleBack)
+TEST(Scollega, ResetsTheConsole)
 {
     BancoSessioneFinta p;
     p.collega();
@@ -37,7 +37,7 @@ TEST(Scollega, PutsTheConsoleBack)
     EXPECT_EQ(p.pulsante().toolTip(), u"Connetti ad Tessaro"_s);
 }
 
-TEST(Scollega, UnloadsTheWindowsFirstAndStopsARunnerThatIsStarted)
+TEST(Scollega, UnloadsTheWindowsFirstAndStopsAStartedRunner)
 {
     for (const bool avviato : {true, false}) {
         BancoSessioneFinta p;
@@ -46,7 +46,7 @@ TEST(Scollega, UnloadsTheWindowsFirstAndStopsARunnerThatIsStarted)
         QStringList prima;
         p.porta.scritto = [&](const QByteArray &) {
             prima = p.finestre.registro;
-            // The timers rest already, the port is still open.
+            // The timers are stopped already, the port is still open.
             EXPECT_TRUE(p.fermo());
             EXPECT_TRUE(p.banco.COM.PortOpen());
         };
@@ -69,7 +69,7 @@ TEST(Scollega, LeavesTheAccumulatorAsItIs)
     EXPECT_EQ(p.banco.tmrElabInput.accumulatore.tutto(), b({32, 100}));
 }
 
-TEST(Scollega, PassesOverALineThatTakesNothing)
+TEST(Scollega, IgnoresALineThatTakesNoBytes)
 {
     BancoSessioneFinta p;
     p.collega();

@@ -1,7 +1,7 @@
-// The life of a connection with the simulated robot on a real pseudo-terminal.
-#include "tests/link/BancoSessione.h"
+// A connection with the simulated robot over a pseudo-terminal.
 #include "serial/PortaAsio.h"
 #include "simulator/Simulatore.h"
+#include "tests/link/BancoSessione.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A robot at COM1, without the pace of the line.
+// A robot at COM1 that sends without the speed limit of a serial line.
 class SessioneRobot : public ::testing::Test
 {
 protected:
@@ -44,7 +44,7 @@ TEST_F(SessioneRobot, AnAttemptSucceedsAndTheTelemetryIsShown)
     EXPECT_TRUE(p.messaggi.visti().isEmpty());
 }
 
-TEST_F(SessioneRobot, AtTheLinesOwnPaceTheAttemptSucceedsToo)
+TEST_F(SessioneRobot, AtTheSpeedOfTheLineTheAttemptSucceedsToo)
 {
     robot.impostaBaud(9600);
     p.sessione.Collega();
@@ -94,7 +94,7 @@ TEST_F(SessioneRobot, ConnectsAndDisconnectsManyTimes)
     }
 }
 
-TEST_F(SessioneRobot, OneByteIsNoAnswer)
+TEST_F(SessioneRobot, OneByteDoesNotCountAsAnAnswer)
 {
     robot.guasti().unSoloByte = true;
     p.banco.tmrChiusuraAutomatica.setInterval(50);
@@ -109,7 +109,7 @@ TEST_F(SessioneRobot, AnAnswerAfterTheNudgeCompletesTheAttempt)
     robot.guasti().soloDopoSollecito = true;
     p.banco.tmrChiusuraAutomatica.setInterval(50);
     const Durante durante([&] {
-        // The nudge went out: the answer has all the time that it wants.
+        // The nudge was sent. A long interval gives the answer enough time.
         if (robot.ricevuti().size() >= 4 && p.banco.tmrChiusuraAutomatica.Interval() == 50)
             p.banco.tmrChiusuraAutomatica.setInterval(60000);
     });
@@ -119,7 +119,7 @@ TEST_F(SessioneRobot, AnAnswerAfterTheNudgeCompletesTheAttempt)
     EXPECT_TRUE(p.messaggi.visti().isEmpty());
 }
 
-TEST_F(SessioneRobot, ASilentRobotIsGivenUp)
+TEST_F(SessioneRobot, TheAttemptFailsIfTheRobotIsSilent)
 {
     robot.guasti().silenzio = true;
     p.banco.tmrChiusuraAutomatica.setInterval(20);
@@ -128,7 +128,7 @@ TEST_F(SessioneRobot, ASilentRobotIsGivenUp)
     EXPECT_FALSE(p.pulsante().Image() == 6);
 }
 
-TEST_F(SessioneRobot, APortThatIsInUseIsTold)
+TEST_F(SessioneRobot, APortInUseIsReported)
 {
     ControlloSeriale altro(u"altro"_s, nullptr, std::make_unique<PortaAsio>(),
                            p.cartella.percorso());
@@ -140,7 +140,7 @@ TEST_F(SessioneRobot, APortThatIsInUseIsTold)
     EXPECT_TRUE(p.messaggi.visti().first().testo.endsWith(u"(8005)"_s));
 }
 
-TEST_F(SessioneRobot, AFileThatIsNoPortIsTold)
+TEST_F(SessioneRobot, AFileThatIsNotAPortIsReported)
 {
     p.cartella.scrivi(u"COM2"_s, "niente");
     p.cartella.scrivi(u"Porta COM"_s, "2\r\n");
@@ -170,7 +170,7 @@ TEST_F(SessioneRobot, TheVideoStarts)
     EXPECT_TRUE(ricevuti(b({11, 160, 0})));
 }
 
-TEST_F(SessioneRobot, ARobotThatFallsSilentIsSearchedForAndThenLeft)
+TEST_F(SessioneRobot, ARobotThatFallsSilentIsSearchedForAndThenDisconnected)
 {
     p.banco.tmrControllaConn.setInterval(50);
     p.sessione.Collega();
@@ -192,7 +192,7 @@ TEST_F(SessioneRobot, ARobotThatComesBackIsConnectedAgain)
     EXPECT_TRUE(p.banco.COM.PortOpen());
 }
 
-TEST_F(SessioneRobot, AFarEndThatVanishedIsLeftAndCanBeFoundAgain)
+TEST_F(SessioneRobot, AFarEndThatVanishesIsDisconnectedAndCanBeConnectedAgain)
 {
     p.banco.tmrControllaConn.setInterval(50);
     p.sessione.Collega();
@@ -206,11 +206,11 @@ TEST_F(SessioneRobot, AFarEndThatVanishedIsLeftAndCanBeFoundAgain)
     EXPECT_EQ(p.pannello(1), u"Connesso"_s);
 }
 
-TEST_F(SessioneRobot, TelegramsCutByALostSessionDoNotSpoilTheNextForLong)
+TEST_F(SessioneRobot, ATelegramCutByTheEndOfASessionDisturbsTheNextOneOnlyBriefly)
 {
     p.sessione.Collega();
     ASSERT_TRUE(aspetta([&] { return !p.banco.lblTemperatura.Caption().isEmpty(); }));
-    // Half a telegram is the last that the robot says.
+    // The last bytes of the robot are half a telegram.
     p.banco.tmrSensori.setEnabled(false);
     robot.guasti().silenzio = true;
     ASSERT_TRUE(aspetta([&] { return robot.inCoda() == 0; }));
@@ -225,7 +225,7 @@ TEST_F(SessioneRobot, TelegramsCutByALostSessionDoNotSpoilTheNextForLong)
     EXPECT_TRUE(aspetta([&] { return p.banco.lblTemperatura.Caption() == u"37°"_s; }));
 }
 
-TEST_F(SessioneRobot, AnAvalancheOfTelegramsNeitherStopsTheButtonNorTheEnd)
+TEST_F(SessioneRobot, AFloodOfTelegramsDoesNotPreventTheDisconnection)
 {
     p.sessione.Collega();
     robot.guasti().alluvione = true;
@@ -234,7 +234,7 @@ TEST_F(SessioneRobot, AnAvalancheOfTelegramsNeitherStopsTheButtonNorTheEnd)
     EXPECT_EQ(p.pannello(3), u"Disconnesso"_s);
 }
 
-TEST_F(SessioneRobot, ADirtyLineIsSurvived)
+TEST_F(SessioneRobot, ANoisyLineDoesNotEndTheConnection)
 {
     robot.impostaSeme(7);
     p.sessione.Collega();

@@ -1,5 +1,5 @@
-// What holds a connection together: its state, one attempt at a time, and what comes back to
-// another world after a wait. On a line without a system.
+// The state of a connection, on a line in memory: one attempt at a time, and handlers that find
+// another connection after a wait.
 #include "tests/link/BancoSessioneFinta.h"
 
 #include <gtest/gtest.h>
@@ -27,7 +27,7 @@ struct SenzaPorta : BancoSessioneFinta
 
 } // namespace
 
-TEST(Sessione, SaysWhetherAnAttemptHasConnected)
+TEST(Sessione, ReportsIfAnAttemptHasConnected)
 {
     BancoSessioneFinta p;
     EXPECT_EQ(p.sessione.stato(), Scollegata);
@@ -47,7 +47,7 @@ TEST(Sessione, SaysWhetherAnAttemptHasConnected)
     EXPECT_EQ(p.sessione.stato(), Scollegata);
 }
 
-TEST(Sessione, AnAttemptCarriedOnWithoutAPortHasNotConnected)
+TEST(Sessione, AnAttemptThatEndsWithoutAPortHasNotConnected)
 {
     SenzaPorta p;
     EXPECT_FALSE(p.sessione.Collega());
@@ -57,7 +57,7 @@ TEST(Sessione, AnAttemptCarriedOnWithoutAPortHasNotConnected)
     EXPECT_FALSE(p.sessione.staTentando());
 }
 
-TEST(Sessione, IsAttemptingFromTheFirstStepToTheAnswerOfTheLastBox)
+TEST(Sessione, IsInAnAttemptFromTheFirstStepToTheAnswerOfTheLastBox)
 {
     BancoSessioneFinta p;
     p.banco.tmrChiusuraAutomatica.setInterval(1);
@@ -110,7 +110,7 @@ TEST(Sessione, RefusesASecondAttemptDuringAnAttempt)
     EXPECT_EQ(p.porta.aperture, 1);
 }
 
-TEST(Sessione, RefusesTheEndOfAConnectionThatIsOnlyAttempted)
+TEST(Sessione, RefusesADisconnectionDuringAnAttempt)
 {
     BancoSessioneFinta p;
     p.porta.scritto = [&](const QByteArray &) {
@@ -123,7 +123,7 @@ TEST(Sessione, RefusesTheEndOfAConnectionThatIsOnlyAttempted)
     EXPECT_TRUE(p.finestre.registro == QStringList{u"RidaiFuoco"_s});
 }
 
-TEST(Sessione, AnAttemptOverAConnectionThatStandsChangesNothing)
+TEST(Sessione, AnAttemptWhileConnectedChangesNothing)
 {
     BancoSessioneFinta p;
     p.collega();
@@ -132,7 +132,7 @@ TEST(Sessione, AnAttemptOverAConnectionThatStandsChangesNothing)
     EXPECT_TRUE(p.banco.COM.PortOpen());
 }
 
-TEST(Sessione, AnAttemptOverAConnectionWithoutAPortEndsThatOneFirst)
+TEST(Sessione, AnAttemptFirstEndsAConnectionWithoutAPort)
 {
     SenzaPorta p;
     p.sessione.Collega();
@@ -150,7 +150,7 @@ TEST(Sessione, AnAttemptOverAConnectionWithoutAPortEndsThatOneFirst)
     EXPECT_EQ(p.pulsante().Image(), 6);
 }
 
-TEST(Sessione, PollsReportAClosedPortOnceForEachAttempt)
+TEST(Sessione, PeriodicRequestsReportAClosedPortOnceForEachAttempt)
 {
     SenzaPorta p;
     p.banco.tmrSensori.setInterval(10);
@@ -164,7 +164,7 @@ TEST(Sessione, PollsReportAClosedPortOnceForEachAttempt)
     }
 }
 
-TEST(Sessione, ACommandOfTheUsersReportsAClosedPortEveryTime)
+TEST(Sessione, ACommandOfTheUserReportsAClosedPortEveryTime)
 {
     SenzaPorta p;
     p.sessione.Collega();
@@ -176,11 +176,11 @@ TEST(Sessione, ACommandOfTheUsersReportsAClosedPortEveryTime)
     }
 }
 
-TEST(Sessione, AKeepAliveThatComesBackToAnotherConnectionLeavesItAlone)
+TEST(Sessione, AKeepAliveThatFindsAnotherConnectionAfterItsWaitDoesNotEndIt)
 {
     BancoSessioneFinta p;
     p.collega();
-    p.banco.tmrControllaConn.Timer(); // the first miss
+    p.banco.tmrControllaConn.Timer(); // the first one without an answer
     bool fatto = false;
     const Durante durante([&] {
         if (fatto || p.banco.BarraCaricamento.Value() < 6000 || !p.sessione.collegato())
@@ -203,8 +203,7 @@ TEST(Sessione, AKeepAliveThatComesBackToAnotherConnectionLeavesItAlone)
 
 namespace {
 
-// A camera whose closing waits long enough for the user to end the connection himself and to
-// connect anew.
+// A camera that runs a function while it closes: there the user disconnects and connects again.
 struct CameraLenta : FinestreFinte
 {
     std::function<void()> intanto;
@@ -217,7 +216,7 @@ struct CameraLenta : FinestreFinte
 
 } // namespace
 
-TEST(Sessione, ADisconnectionThatComesBackToAnotherConnectionLeavesItAlone)
+TEST(Sessione, ADisconnectionThatFindsAnotherConnectionAfterItsWaitDoesNotEndIt)
 {
     ConPortaFinta con;
     PortaFinta &porta = con.porta;
@@ -261,7 +260,7 @@ TEST(Sessione, AWaitForAReactionEndsWithItsConnection)
     EXPECT_EQ(p.banco.BarraCaricamento.Value(), 1);
 }
 
-TEST(Sessione, AnErrorThatNobodyHandledSendsTheEndOfTheSessionAfterItsBoxAndNothingDuringIt)
+TEST(Sessione, AnUnhandledErrorSendsTheEndOfTheSessionAfterItsBoxAndNothingDuringIt)
 {
     EXPECT_EXIT(
         {
@@ -283,7 +282,7 @@ TEST(Sessione, AnErrorThatNobodyHandledSendsTheEndOfTheSessionAfterItsBoxAndNoth
         ::testing::ExitedWithCode(1), "\\(62\\)[^|]*\\|taken no\nsent 04\n$");
 }
 
-TEST(Sessione, AnErrorThatNobodyHandledSendsNothingWithThePortClosed)
+TEST(Sessione, AnUnhandledErrorSendsNothingIfThePortIsClosed)
 {
     EXPECT_EXIT(
         {

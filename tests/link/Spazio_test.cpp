@@ -1,13 +1,13 @@
-// The port's question has room for its texts with every desktop's font.
+// The port dialog has room for its texts with the usual fonts of desktops.
+#include "link/frmImpostaPorta.h"
 #include "tests/support/Ritaglio.h"
 #include "tests/support/Scritte.h"
-#include "link/frmImpostaPorta.h"
 
 #include <gmock/gmock.h>
 
 using namespace Qt::StringLiterals;
 
-TEST(Spazio, ThePortsQuestionHasIt)
+TEST(Spazio, ThePortDialogHasRoomForItsTexts)
 {
     for (const double punti : caratteriUsuali) {
         const ConCarattere carattere(punti);

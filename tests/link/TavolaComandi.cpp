@@ -11,7 +11,7 @@ namespace {
 using Seriale = ControlloSeriale &;
 using Scritture = QList<QByteArray>;
 
-// Each byte in a write of its own.
+// One write for each byte.
 Scritture aUnoAUno(std::initializer_list<int> byte)
 {
     Scritture scritture;

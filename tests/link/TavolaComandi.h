@@ -1,4 +1,4 @@
-// The commands as a table: what each one writes, piece for piece.
+// A table of the commands with the writes of each.
 #pragma once
 
 #include "serial/ControlloSeriale.h"
@@ -13,7 +13,7 @@ struct RigaComando
     QString nome;
     std::function<void(ControlloSeriale &)> manda;
     QList<QByteArray> scritture;
-    // Ignores every error.
+    // True for the commands that report no error.
     bool muto = false;
 };
 
@@ -22,5 +22,5 @@ inline void PrintTo(const RigaComando &riga, std::ostream *uscita)
     *uscita << riga.nome.toStdString();
 }
 
-// One row or more for each command; AvviaVideo, which waits in between, has tests of its own.
+// At least one row for each command, except AvviaVideo, which waits and has its own tests.
 std::vector<RigaComando> tavolaComandi();

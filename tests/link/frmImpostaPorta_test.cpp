@@ -36,7 +36,7 @@ protected:
 
 } // namespace
 
-TEST_F(ImpostaPorta, StartsAt1Within1And99)
+TEST_F(ImpostaPorta, StartsAt1AndAccepts1To99)
 {
     EXPECT_EQ(finestra.Caption(), u"Imposta porta COM"_s);
     EXPECT_EQ(finestra.txtPorta.Text(), u"1"_s);
@@ -53,7 +53,7 @@ TEST_F(ImpostaPorta, SelectsItsNumberWhenItOpens)
     EXPECT_EQ(finestra.focusWidget(), &finestra.txtPorta);
     QTest::keyClicks(finestra.focusWidget(), u"7"_s);
     EXPECT_EQ(finestra.txtPorta.Text(), u"7"_s);
-    // Also where it was hidden by its button.
+    // Also after its button has hidden it.
     clicca();
     finestra.Mostra();
     EXPECT_EQ(finestra.focusWidget(), &finestra.txtPorta);
@@ -93,7 +93,7 @@ TEST_F(ImpostaPorta, Typing0AndLeavingTheFieldGives1)
     EXPECT_EQ(finestra.txtPorta.Text(), u"1"_s);
 }
 
-TEST_F(ImpostaPorta, EnterBringsTheNumberIntoTheLimitsToo)
+TEST_F(ImpostaPorta, EnterLimitsTheNumberToTheRangeAsWell)
 {
     batti(u"150"_s);
     QTest::keyClick(&finestra.txtPorta, Qt::Key_Return);
@@ -113,7 +113,7 @@ TEST_F(ImpostaPorta, TheSpinBarWritesItsNumber)
     EXPECT_EQ(finestra.txtPorta.Text(), u"33"_s);
 }
 
-TEST_F(ImpostaPorta, OkWithAnEmptyFieldSaysSoOnceForOneClickAndStays)
+TEST_F(ImpostaPorta, OkWithAnEmptyFieldShowsOneMessageForEachClickAndStaysOpen)
 {
     finestra.txtPorta.setText({});
     clicca();
@@ -126,7 +126,7 @@ TEST_F(ImpostaPorta, OkWithAnEmptyFieldSaysSoOnceForOneClickAndStays)
     EXPECT_EQ(finestra.focusWidget(), &finestra.txtPorta);
 }
 
-TEST_F(ImpostaPorta, EnterWithAnEmptyFieldSaysSoEachTime)
+TEST_F(ImpostaPorta, EnterWithAnEmptyFieldShowsItsMessageEachTime)
 {
     finestra.txtPorta.setText({});
     QTest::keyClick(&finestra.txtPorta, Qt::Key_Return);
@@ -136,10 +136,10 @@ TEST_F(ImpostaPorta, EnterWithAnEmptyFieldSaysSoEachTime)
     EXPECT_TRUE(finestra.Visible());
 }
 
-TEST_F(ImpostaPorta, EnterAfterAPressWhoseReleaseWentToTheMessageSaysSoAgain)
+TEST_F(ImpostaPorta, EnterAfterAPressWhoseReleaseWentToTheMessageShowsItAgain)
 {
     finestra.txtPorta.setText({});
-    // The message comes up at the press; the button is let go over it, so no click follows.
+    // The message appears at the press and gets the release of the mouse, so no click follows.
     messaggi.mentreAperto = [&](const QMessageBox &) {
         QTest::mouseRelease(&finestra, Qt::LeftButton);
     };
@@ -151,19 +151,19 @@ TEST_F(ImpostaPorta, EnterAfterAPressWhoseReleaseWentToTheMessageSaysSoAgain)
     EXPECT_TRUE(finestra.Visible());
 }
 
-TEST_F(ImpostaPorta, LeavingTheEmptyFieldMarksTheWindow)
+TEST_F(ImpostaPorta, LeavingTheEmptyFieldSetsTheTagOfTheWindow)
 {
     finestra.txtPorta.setText({});
     finestra.SuGiu.setFocusPolicy(Qt::StrongFocus);
     finestra.pulOK.setFocus();
     EXPECT_EQ(finestra.Tag(), u"Errore"_s);
-    // Enter is a new try, and gets its own message.
+    // Enter is a new attempt and shows the message again.
     QTest::keyClick(&finestra.txtPorta, Qt::Key_Return);
     EXPECT_EQ(messaggi.visti().size(), 2);
     EXPECT_TRUE(finestra.Visible());
 }
 
-TEST_F(ImpostaPorta, AFieldPutRightAfterwardsIsAcceptedAtTheNextOk)
+TEST_F(ImpostaPorta, AFieldCorrectedAfterwardsIsAcceptedAtTheNextOk)
 {
     finestra.txtPorta.setText({});
     clicca();
@@ -174,7 +174,7 @@ TEST_F(ImpostaPorta, AFieldPutRightAfterwardsIsAcceptedAtTheNextOk)
     EXPECT_EQ(finestra.txtPorta.Text(), u"5"_s);
 }
 
-TEST_F(ImpostaPorta, AMarkLeftByLeavingTheFieldIsNotHeldAgainstANumber)
+TEST_F(ImpostaPorta, ATagLeftByAnEmptyFieldDoesNotRejectACorrectedNumber)
 {
     finestra.txtPorta.setText({});
     finestra.pulOK.setFocus();

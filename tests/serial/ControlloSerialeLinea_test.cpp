@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct ControlloSerialeSuLinea : ::testing::Test
@@ -25,7 +27,7 @@ struct ControlloSerialeSuLinea : ::testing::Test
 
 } // namespace
 
-TEST_F(ControlloSerialeSuLinea, opens_the_entry_of_the_programs_folder)
+TEST_F(ControlloSerialeSuLinea, OpensTheEntryOfTheProgramsFolder)
 {
     com.setPortOpen(true);
     EXPECT_TRUE(com.PortOpen());
@@ -33,7 +35,7 @@ TEST_F(ControlloSerialeSuLinea, opens_the_entry_of_the_programs_folder)
     EXPECT_EQ(capo.leggiAlmeno(3), "\x03\x01\x01");
 }
 
-TEST_F(ControlloSerialeSuLinea, is_in_use_for_a_second_control)
+TEST_F(ControlloSerialeSuLinea, IsInUseForASecondControl)
 {
     com.setPortOpen(true);
     ControlloSeriale seconda(u"COM"_s, nullptr, std::make_unique<PortaAsio>(), cartella.path());
@@ -42,7 +44,7 @@ TEST_F(ControlloSerialeSuLinea, is_in_use_for_a_second_control)
     EXPECT_FALSE(seconda.PortOpen());
 }
 
-TEST_F(ControlloSerialeSuLinea, the_number_comes_into_use_at_the_next_opening)
+TEST_F(ControlloSerialeSuLinea, ANewNumberIsUsedAtTheNextOpening)
 {
     com.setPortOpen(true);
     com.setCommPort(8);
@@ -53,7 +55,7 @@ TEST_F(ControlloSerialeSuLinea, the_number_comes_into_use_at_the_next_opening)
     EXPECT_FALSE(com.PortOpen());
 }
 
-TEST_F(ControlloSerialeSuLinea, finds_bytes_without_an_event_loop)
+TEST_F(ControlloSerialeSuLinea, FindsBytesWithoutAnEventLoop)
 {
     com.setPortOpen(true);
     capo.scrivi("abc");
@@ -62,7 +64,7 @@ TEST_F(ControlloSerialeSuLinea, finds_bytes_without_an_event_loop)
     EXPECT_EQ(com.Input(), "abc");
 }
 
-TEST_F(ControlloSerialeSuLinea, loses_nothing_of_more_than_it_can_hold)
+TEST_F(ControlloSerialeSuLinea, LosesNoByteIfMoreArriveThanItCanHold)
 {
     com.setPortOpen(true);
     QByteArray molti;
@@ -79,7 +81,7 @@ TEST_F(ControlloSerialeSuLinea, loses_nothing_of_more_than_it_can_hold)
     EXPECT_EQ(letti, molti);
 }
 
-TEST_F(ControlloSerialeSuLinea, stays_open_in_name_when_the_far_end_goes_away)
+TEST_F(ControlloSerialeSuLinea, CountsAsOpenWhenTheFarEndGoesAway)
 {
     com.setPortOpen(true);
     capo.chiudi();
@@ -93,7 +95,7 @@ TEST_F(ControlloSerialeSuLinea, stays_open_in_name_when_the_far_end_goes_away)
     EXPECT_EQ(erroreDi([&] { com.Output("x"); }), 8018);
 }
 
-TEST_F(ControlloSerialeSuLinea, a_far_end_that_goes_away_loses_no_byte_that_is_held)
+TEST_F(ControlloSerialeSuLinea, BytesHeldAreKeptWhenTheFarEndGoesAway)
 {
     com.setPortOpen(true);
     capo.scrivi("abc");

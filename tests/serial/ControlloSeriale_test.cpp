@@ -2,9 +2,11 @@
 
 #include "tests/support/Controlli.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-// A line made of memory, which counts what it is asked for.
+// A line in memory that records what is done with it.
 struct PortaFinta : Porta
 {
     void apri(const QString &percorso) override
@@ -62,7 +64,7 @@ struct SuPortaFinta : ::testing::Test
 
 using ControlloSerialeTest = SuPortaFinta;
 
-TEST_F(ControlloSerialeTest, is_found_by_its_name_and_has_its_properties)
+TEST_F(ControlloSerialeTest, IsFoundByItsNameAndHasItsProperties)
 {
     QObject finestra;
     ControlloSeriale suo(u"COM"_s, &finestra, std::make_unique<PortaFinta>(), u"/cartella"_s);
@@ -73,7 +75,7 @@ TEST_F(ControlloSerialeTest, is_found_by_its_name_and_has_its_properties)
     EXPECT_EQ(trovato->property("InBufferCount").toInt(), 0);
 }
 
-TEST_F(ControlloSerialeTest, opens_the_port_of_its_number)
+TEST_F(ControlloSerialeTest, OpensThePortWithItsNumber)
 {
     com.setCommPort(3);
     com.setPortOpen(true);
@@ -81,7 +83,7 @@ TEST_F(ControlloSerialeTest, opens_the_port_of_its_number)
     EXPECT_EQ(porta->aperture, QStringList{percorsoPorta(3, u"/cartella"_s)});
 }
 
-TEST_F(ControlloSerialeTest, refuses_a_port_number_below_1_and_keeps_the_old_one)
+TEST_F(ControlloSerialeTest, RefusesAPortNumberBelow1AndKeepsTheOldOne)
 {
     com.setCommPort(3);
     EXPECT_EQ(erroreDi([&] { com.setCommPort(0); }), Errore::PortaInesistente);
@@ -89,21 +91,21 @@ TEST_F(ControlloSerialeTest, refuses_a_port_number_below_1_and_keeps_the_old_one
     EXPECT_EQ(com.CommPort(), 3);
 }
 
-TEST_F(ControlloSerialeTest, opening_an_open_port_does_nothing)
+TEST_F(ControlloSerialeTest, OpeningAnOpenPortDoesNothing)
 {
     apri();
     com.setPortOpen(true);
     EXPECT_TRUE(porta->aperture.isEmpty());
 }
 
-TEST_F(ControlloSerialeTest, a_port_that_cannot_be_opened_says_why_and_stays_closed)
+TEST_F(ControlloSerialeTest, APortThatCannotBeOpenedReportsWhyAndStaysClosed)
 {
     porta->erroreAllApertura = Errore::PortaInUso;
     EXPECT_EQ(erroreDi([&] { com.setPortOpen(true); }), Errore::PortaInUso);
     EXPECT_FALSE(com.PortOpen());
 }
 
-TEST_F(ControlloSerialeTest, makes_one_write_for_each_assignment)
+TEST_F(ControlloSerialeTest, MakesOneWriteForEachAssignment)
 {
     apri();
     com.Output("\x13\x25\x01");
@@ -111,7 +113,7 @@ TEST_F(ControlloSerialeTest, makes_one_write_for_each_assignment)
     EXPECT_EQ(porta->scritture, (QList<QByteArray>{"\x13\x25\x01", "\x04"}));
 }
 
-TEST_F(ControlloSerialeTest, everything_but_the_settings_fails_with_8018_while_it_is_closed)
+TEST_F(ControlloSerialeTest, EverythingButTheSettingsFailsWith8018WhileItIsClosed)
 {
     EXPECT_EQ(erroreDi([&] { com.Output("x"); }), 8018);
     EXPECT_EQ(erroreDi([&] { com.Input(); }), 8018);
@@ -120,7 +122,7 @@ TEST_F(ControlloSerialeTest, everything_but_the_settings_fails_with_8018_while_i
     EXPECT_TRUE(porta->scritture.isEmpty());
 }
 
-TEST_F(ControlloSerialeTest, a_write_that_the_line_refuses_has_another_number_than_8018)
+TEST_F(ControlloSerialeTest, AWriteThatTheLineRefusesDoesNotFailWith8018)
 {
     apri();
     porta->persa = true;
@@ -129,7 +131,7 @@ TEST_F(ControlloSerialeTest, a_write_that_the_line_refuses_has_another_number_th
     EXPECT_TRUE(com.PortOpen());
 }
 
-TEST_F(ControlloSerialeTest, the_count_looks_at_the_port_at_the_call)
+TEST_F(ControlloSerialeTest, TheCountReadsThePortAtTheCall)
 {
     apri();
     EXPECT_EQ(com.InBufferCount(), 0);
@@ -140,7 +142,7 @@ TEST_F(ControlloSerialeTest, the_count_looks_at_the_port_at_the_call)
     EXPECT_EQ(com.property("InBufferCount").toInt(), 5);
 }
 
-TEST_F(ControlloSerialeTest, input_looks_at_the_port_and_takes_all_that_is_held)
+TEST_F(ControlloSerialeTest, InputReadsThePortAndTakesAllBytesHeld)
 {
     apri();
     porta->inSistema = "abc";
@@ -151,7 +153,7 @@ TEST_F(ControlloSerialeTest, input_looks_at_the_port_and_takes_all_that_is_held)
     EXPECT_EQ(com.InBufferCount(), 0);
 }
 
-TEST_F(ControlloSerialeTest, takes_all_that_is_there_though_each_reading_gives_little)
+TEST_F(ControlloSerialeTest, TakesAllBytesEvenIfEachReadGivesFew)
 {
     apri();
     porta->perLettura = 7;
@@ -159,7 +161,7 @@ TEST_F(ControlloSerialeTest, takes_all_that_is_there_though_each_reading_gives_l
     EXPECT_EQ(com.InBufferCount(), 100);
 }
 
-TEST_F(ControlloSerialeTest, holds_1024_bytes_and_leaves_the_rest_to_the_system)
+TEST_F(ControlloSerialeTest, Holds1024BytesAndLeavesTheRestToTheSystem)
 {
     apri();
     QByteArray molti;
@@ -176,7 +178,7 @@ TEST_F(ControlloSerialeTest, holds_1024_bytes_and_leaves_the_rest_to_the_system)
     EXPECT_EQ(letti, molti);
 }
 
-TEST_F(ControlloSerialeTest, closing_drops_what_was_held)
+TEST_F(ControlloSerialeTest, ClosingDropsTheBytesHeld)
 {
     apri();
     porta->inSistema = "abc";
@@ -186,7 +188,7 @@ TEST_F(ControlloSerialeTest, closing_drops_what_was_held)
     EXPECT_EQ(com.InBufferCount(), 0);
 }
 
-TEST_F(ControlloSerialeTest, raises_its_event_when_the_line_calls)
+TEST_F(ControlloSerialeTest, RaisesItsEventWhenTheLineCallsIt)
 {
     int volte = 0;
     com.Arrivo.collega([&] { ++volte; });

@@ -1,17 +1,19 @@
-// The ports of Windows.
+// The paths of the ports on Windows.
 #include "serial/Porta.h"
 
-#include "tests/support/Controlli.h"
 #include "serial/PortaAsio.h"
+#include "tests/support/Controlli.h"
 
-TEST(PercorsoPorta, is_the_systems_name_of_the_port_whatever_lies_in_the_folder)
+using namespace Qt::StringLiterals;
+
+TEST(PercorsoPorta, IsTheSystemsNameOfThePortWhateverTheFolderContains)
 {
     EXPECT_EQ(percorsoPorta(1, u"C:/cartella"_s), u"\\\\.\\COM1"_s);
     EXPECT_EQ(percorsoPorta(3, u"C:/cartella"_s), u"\\\\.\\COM3"_s);
     EXPECT_EQ(percorsoPorta(99, {}), u"\\\\.\\COM99"_s);
 }
 
-TEST(PortaAsio, what_is_no_serial_line_cannot_be_opened)
+TEST(PortaAsio, WhatIsNotASerialLineCannotBeOpened)
 {
     PortaAsio porta;
     for (const QString &percorso : {u"\\\\.\\COM254"_s, u""_s, u"\\\\.\\NUL"_s}) {

@@ -11,11 +11,13 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr uid_t nessuno = 65534;
 
-// What a function says in a process of another user, whose session has that group only.
+// The result of a function in a process of another user that has only this group.
 QString dettoDa(uid_t utente, gid_t gruppo, const std::function<QString()> &funzione)
 {
     int tubo[2];
@@ -42,14 +44,14 @@ QString inUnaRiga(const PermessiPorta &permessi)
         .arg(permessi.daRientrare);
 }
 
-// A line that belongs to root and to a group of that name.
+// A line that belongs to root and to a given group.
 class PermessiDiUnaLinea : public ::testing::Test
 {
 protected:
     void SetUp() override
     {
         if (::geteuid() != 0)
-            GTEST_SKIP() << "root makes the line that somebody else may not open";
+            GTEST_SKIP() << "only root can give a line to another user";
     }
     void appartiene(const char *nome, mode_t modo)
     {
@@ -71,7 +73,7 @@ protected:
 
 } // namespace
 
-TEST(PermessiPorta, the_text_names_the_group_and_says_what_to_do)
+TEST(PermessiPorta, TheTextNamesTheGroupAndSaysWhatToDo)
 {
     EXPECT_EQ(spiegaPermessi({u"/dev/ttyUSB0"_s, u"maria"_s, u"dialout"_s, false}),
               u"La porta seriale /dev/ttyUSB0 è riservata al gruppo \"dialout\", di cui il tuo "
@@ -83,7 +85,7 @@ TEST(PermessiPorta, the_text_names_the_group_and_says_what_to_do)
               "Accesso alla porta negato"_s);
 }
 
-TEST(PermessiPorta, who_has_joined_the_group_already_is_told_to_log_in_anew)
+TEST(PermessiPorta, AUserWhoHasJoinedTheGroupIsAskedToLogInAgain)
 {
     EXPECT_EQ(spiegaPermessi({u"/dev/ttyUSB0"_s, u"maria"_s, u"dialout"_s, true}),
               u"La porta seriale /dev/ttyUSB0 è riservata al gruppo \"dialout\".\n\n"
@@ -92,7 +94,7 @@ TEST(PermessiPorta, who_has_joined_the_group_already_is_told_to_log_in_anew)
               "Accesso alla porta negato"_s);
 }
 
-TEST(PermessiPorta, where_no_group_helps_the_text_names_none)
+TEST(PermessiPorta, IfNoGroupHelpsTheTextNamesNone)
 {
     EXPECT_EQ(spiegaPermessi({u"/dev/ttyUSB0"_s, u"maria"_s, {}, false}),
               u"La porta seriale /dev/ttyUSB0 non è permessa al tuo utente \"maria\".\n\n"
@@ -100,13 +102,13 @@ TEST(PermessiPorta, where_no_group_helps_the_text_names_none)
               "Accesso alla porta negato"_s);
 }
 
-TEST_F(PermessiDiUnaLinea, the_group_is_the_one_of_the_device)
+TEST_F(PermessiDiUnaLinea, TheGroupIsThatOfTheDevice)
 {
     appartiene("dialout", 0660);
     EXPECT_EQ(chiestiDa(nessuno, nessuno), capo.percorso() + u"|nobody|dialout|0"_s);
 }
 
-TEST_F(PermessiDiUnaLinea, a_link_to_the_device_counts_as_the_device)
+TEST_F(PermessiDiUnaLinea, ALinkToTheDeviceCountsAsTheDevice)
 {
     appartiene("dialout", 0660);
     const QTemporaryDir cartella;
@@ -117,7 +119,7 @@ TEST_F(PermessiDiUnaLinea, a_link_to_the_device_counts_as_the_device)
               capo.percorso() + u"|nobody|dialout|0"_s);
 }
 
-TEST_F(PermessiDiUnaLinea, a_group_that_may_not_read_and_write_does_not_help)
+TEST_F(PermessiDiUnaLinea, AGroupThatMayNotReadAndWriteDoesNotHelp)
 {
     for (const mode_t modo : {0600U, 0620U, 0640U}) {
         appartiene("dialout", modo);
@@ -125,28 +127,28 @@ TEST_F(PermessiDiUnaLinea, a_group_that_may_not_read_and_write_does_not_help)
     }
 }
 
-TEST_F(PermessiDiUnaLinea, nobody_is_told_to_join_the_administrators_group)
+TEST_F(PermessiDiUnaLinea, TheAdministratorsGroupIsNeverNamed)
 {
     appartiene("root", 0660);
     EXPECT_EQ(chiestiDa(nessuno, nessuno), capo.percorso() + u"|nobody||0"_s);
 }
 
-TEST_F(PermessiDiUnaLinea, a_group_that_the_session_has_already_does_not_help)
+TEST_F(PermessiDiUnaLinea, AGroupThatTheSessionHasAlreadyDoesNotHelp)
 {
     appartiene("dialout", 0660);
     EXPECT_EQ(chiestiDa(nessuno, m_gruppo), capo.percorso() + u"|nobody||0"_s);
 }
 
-TEST_F(PermessiDiUnaLinea, a_user_who_joined_after_his_session_began_is_known)
+TEST_F(PermessiDiUnaLinea, AUserWhoJoinedAfterTheSessionBeganIsRecognised)
 {
-    // This user's own group, which a session of another group lacks.
+    // The group of the same name is in the system's files, but not in the process.
     const passwd *utente = ::getpwnam("games");
     ASSERT_TRUE(utente);
     appartiene("games", 0660);
     EXPECT_EQ(chiestiDa(utente->pw_uid, nessuno), capo.percorso() + u"|games|games|1"_s);
 }
 
-TEST_F(PermessiDiUnaLinea, a_line_that_cannot_even_be_looked_at_keeps_its_name)
+TEST_F(PermessiDiUnaLinea, ALineThatCannotBeExaminedKeepsItsName)
 {
     const QTemporaryDir chiusa;
     const QString dentro = chiusa.filePath(u"COM3"_s);
@@ -154,7 +156,7 @@ TEST_F(PermessiDiUnaLinea, a_line_that_cannot_even_be_looked_at_keeps_its_name)
               dentro + u"|nobody||0"_s);
 }
 
-TEST_F(PermessiDiUnaLinea, opening_it_in_vain_explains_them)
+TEST_F(PermessiDiUnaLinea, AFailedOpeningExplainsThePermissions)
 {
     appartiene("dialout", 0660);
     const auto apri = [this]() -> QString {
@@ -167,5 +169,5 @@ TEST_F(PermessiDiUnaLinea, opening_it_in_vain_explains_them)
     };
     EXPECT_EQ(dettoDa(nessuno, nessuno, apri),
               u"75: "_s + spiegaPermessi({capo.percorso(), u"nobody"_s, u"dialout"_s, false}));
-    EXPECT_EQ(dettoDa(nessuno, m_gruppo, apri), QString()) << "a member may open it";
+    EXPECT_EQ(dettoDa(nessuno, m_gruppo, apri), QString()) << "a member must be able to open it";
 }

@@ -14,6 +14,8 @@
 #include <sys/wait.h>
 #include <termios.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 int apertura(Porta &porta, const QString &percorso)
@@ -21,11 +23,11 @@ int apertura(Porta &porta, const QString &percorso)
     return erroreDi([&] { porta.apri(percorso); });
 }
 
-// Another process, which runs until it is killed.
+// Another process. It does its work and then waits until it is killed.
 class AltroProcesso
 {
 public:
-    // The work is done before the constructor returns.
+    // Returns when the work is done.
     explicit AltroProcesso(const std::function<void()> &lavoro)
     {
         int tubo[2];
@@ -38,7 +40,7 @@ public:
             for (;;)
                 ::pause();
         }
-        // A child that ended early closes the pipe as well.
+        // If the child ends early, the pipe is closed and the read returns.
         ::close(tubo[1]);
         char pronto = 0;
         static_cast<void>(!::read(tubo[0], &pronto, 1));
@@ -60,7 +62,8 @@ private:
     pid_t m_pid = -1;
 };
 
-// What a user without rights gets: the error's number, by way of an exit code of its own.
+// Opens the line in a process of the user nobody and returns the number of the error. An exit code
+// is too small for it, so each number has its own code.
 int aperturaDaNessuno(const QString &percorso)
 {
     const pid_t pid = ::fork();
@@ -100,7 +103,7 @@ double secondiDiProcessore()
 
 } // namespace
 
-TEST(PortaAsio, opens_a_pseudo_terminal_though_it_has_no_control_lines)
+TEST(PortaAsio, OpensAPseudoTerminalAlthoughItHasNoControlLines)
 {
     const PseudoTerminale capo;
     PortaAsio porta;
@@ -109,7 +112,7 @@ TEST(PortaAsio, opens_a_pseudo_terminal_though_it_has_no_control_lines)
     EXPECT_TRUE(porta.aperta());
 }
 
-TEST(PortaAsio, sets_9600_baud_8_bits_no_parity_1_stop_bit_and_nothing_in_between)
+TEST(PortaAsio, Sets9600Baud8BitsNoParity1StopBitAndPassesBytesUnchanged)
 {
     const PseudoTerminale capo;
     PortaAsio porta;
@@ -128,7 +131,7 @@ TEST(PortaAsio, sets_9600_baud_8_bits_no_parity_1_stop_bit_and_nothing_in_betwee
     EXPECT_EQ(modi.c_iflag & (IXON | IXOFF | ICRNL | INLCR | ISTRIP), 0U);
 }
 
-TEST(PortaAsio, what_is_no_serial_line_cannot_be_opened)
+TEST(PortaAsio, WhatIsNotASerialLineCannotBeOpened)
 {
     const QTemporaryDir cartella;
     QFile file(cartella.filePath(u"file"_s));
@@ -144,7 +147,7 @@ TEST(PortaAsio, what_is_no_serial_line_cannot_be_opened)
     }
 }
 
-TEST(PortaAsio, a_line_whose_far_end_is_gone_cannot_be_opened)
+TEST(PortaAsio, ALineWhoseFarEndIsGoneCannotBeOpened)
 {
     PseudoTerminale capo;
     const QString percorso = capo.percorso();
@@ -153,16 +156,16 @@ TEST(PortaAsio, a_line_whose_far_end_is_gone_cannot_be_opened)
     EXPECT_EQ(apertura(porta, percorso), Errore::PortaInesistente);
 }
 
-TEST(PortaAsio, a_line_that_the_user_has_no_right_to_says_so)
+TEST(PortaAsio, ALineThatTheUserMayNotOpenGivesAccessDenied)
 {
     if (::geteuid() != 0)
-        GTEST_SKIP() << "root makes the line that somebody else may not open";
+        GTEST_SKIP() << "only root can make a line that another user may not open";
     const PseudoTerminale capo;
     ASSERT_EQ(::chmod(qPrintable(capo.percorso()), 0600), 0);
     EXPECT_EQ(aperturaDaNessuno(capo.percorso()), Errore::AccessoNegato);
 }
 
-TEST(PortaAsio, bytes_go_and_come_unchanged)
+TEST(PortaAsio, BytesAreSentAndReceivedUnchanged)
 {
     PseudoTerminale capo;
     PortaAsio porta;
@@ -181,13 +184,13 @@ TEST(PortaAsio, bytes_go_and_come_unchanged)
     EXPECT_EQ(letti, tutti);
 }
 
-TEST(PortaAsio, what_was_written_is_with_the_system_when_the_call_returns)
+TEST(PortaAsio, WrittenBytesAreWithTheSystemWhenTheCallReturns)
 {
     PseudoTerminale capo;
     PortaAsio porta;
     porta.apri(capo.percorso());
     porta.scrivi("\x13\x41\x01");
-    // No event loop has run.
+    // No event loop runs here.
     QByteArray letti;
     for (int i = 0; i < 1000 && letti.size() < 3; ++i) {
         letti += capo.leggi();
@@ -196,7 +199,7 @@ TEST(PortaAsio, what_was_written_is_with_the_system_when_the_call_returns)
     EXPECT_EQ(letti, "\x13\x41\x01");
 }
 
-TEST(PortaAsio, what_was_written_reaches_the_far_end_though_the_process_ends_right_after_it)
+TEST(PortaAsio, WrittenBytesReachTheFarEndEvenIfTheProcessEndsAtOnce)
 {
     PseudoTerminale capo;
     AltroProcesso altro([&] {
@@ -208,7 +211,7 @@ TEST(PortaAsio, what_was_written_reaches_the_far_end_though_the_process_ends_rig
     EXPECT_EQ(capo.leggiAlmeno(1), "\x04");
 }
 
-TEST(PortaAsio, reading_takes_no_more_than_it_is_asked_for)
+TEST(PortaAsio, ReadingTakesNoMoreBytesThanRequested)
 {
     PseudoTerminale capo;
     PortaAsio porta;
@@ -222,7 +225,7 @@ TEST(PortaAsio, reading_takes_no_more_than_it_is_asked_for)
     EXPECT_EQ(porta.leggi(100), "");
 }
 
-TEST(PortaAsio, can_be_closed_and_opened_many_times)
+TEST(PortaAsio, CanBeClosedAndOpenedManyTimes)
 {
     PseudoTerminale capo;
     PortaAsio porta;
@@ -236,7 +239,7 @@ TEST(PortaAsio, can_be_closed_and_opened_many_times)
     EXPECT_EQ(capo.leggiAlmeno(200), QByteArray(200, 'x'));
 }
 
-TEST(PortaAsio, opening_another_line_closes_the_first)
+TEST(PortaAsio, OpeningAnotherLineClosesTheFirst)
 {
     PseudoTerminale uno;
     PseudoTerminale due;
@@ -249,7 +252,7 @@ TEST(PortaAsio, opening_another_line_closes_the_first)
     EXPECT_EQ(apertura(altra, uno.percorso()), 0);
 }
 
-TEST(PortaAsio, a_second_opener_in_the_same_process_is_told_that_it_is_in_use)
+TEST(PortaAsio, ASecondOpeningInTheSameProcessFindsItInUse)
 {
     const PseudoTerminale capo;
     PortaAsio porta;
@@ -262,7 +265,7 @@ TEST(PortaAsio, a_second_opener_in_the_same_process_is_told_that_it_is_in_use)
     EXPECT_EQ(apertura(seconda, capo.percorso()), 0);
 }
 
-TEST(PortaAsio, a_line_that_our_program_has_in_another_process_is_in_use)
+TEST(PortaAsio, ALineThatThisProgramHasOpenInAnotherProcessIsInUse)
 {
     const PseudoTerminale capo;
     AltroProcesso altro([&] { (new PortaAsio)->apri(capo.percorso()); });
@@ -272,7 +275,7 @@ TEST(PortaAsio, a_line_that_our_program_has_in_another_process_is_in_use)
     EXPECT_EQ(apertura(porta, capo.percorso()), 0);
 }
 
-TEST(PortaAsio, a_line_that_another_program_has_locked_is_in_use)
+TEST(PortaAsio, ALineThatAnotherProgramHasLockedIsInUse)
 {
     const PseudoTerminale capo;
     AltroProcesso altro([&] {
@@ -282,7 +285,7 @@ TEST(PortaAsio, a_line_that_another_program_has_locked_is_in_use)
     EXPECT_EQ(apertura(porta, capo.percorso()), Errore::PortaInUso);
 }
 
-TEST(PortaAsio, a_line_that_another_program_has_marked_as_its_own_is_in_use)
+TEST(PortaAsio, ALineThatAnotherProgramHasOpenedExclusivelyIsInUse)
 {
     const PseudoTerminale capo;
     AltroProcesso altro(
@@ -291,7 +294,7 @@ TEST(PortaAsio, a_line_that_another_program_has_marked_as_its_own_is_in_use)
     EXPECT_EQ(apertura(porta, capo.percorso()), Errore::PortaInUso);
 }
 
-TEST(PortaAsio, a_second_opener_leaves_the_first_ones_bytes_alone)
+TEST(PortaAsio, ASecondOpeningDoesNotTakeTheBytesOfTheFirst)
 {
     PseudoTerminale capo;
     PortaAsio porta;
@@ -304,7 +307,7 @@ TEST(PortaAsio, a_second_opener_leaves_the_first_ones_bytes_alone)
     EXPECT_EQ(letti, "abc");
 }
 
-TEST(PortaAsio, a_normal_user_can_open_the_line_again_after_a_process_was_killed)
+TEST(PortaAsio, ANormalUserCanOpenTheLineAgainAfterAProcessWasKilled)
 {
     if (::geteuid() != 0)
         GTEST_SKIP() << "only root can become another user";
@@ -318,7 +321,7 @@ TEST(PortaAsio, a_normal_user_can_open_the_line_again_after_a_process_was_killed
     EXPECT_EQ(apertura(porta, capo.percorso()), 0);
 }
 
-TEST(PortaAsio, a_program_that_is_started_does_not_keep_the_line)
+TEST(PortaAsio, AProgramThatIsStartedDoesNotInheritTheLine)
 {
     const PseudoTerminale capo;
     PortaAsio porta;
@@ -328,7 +331,7 @@ TEST(PortaAsio, a_program_that_is_started_does_not_keep_the_line)
         ::execlp("sleep", "sleep", "60", nullptr);
         std::_Exit(1);
     }
-    // Until the new program runs, it is still a copy of this one.
+    // Until execlp has succeeded, the child is a copy of this process.
     const auto eseguito = [pid] {
         QFile riga(u"/proc/%1/comm"_s.arg(pid));
         return riga.open(QIODevice::ReadOnly) && riga.readAll().startsWith("sleep");
@@ -340,7 +343,7 @@ TEST(PortaAsio, a_program_that_is_started_does_not_keep_the_line)
     ::waitpid(pid, nullptr, 0);
 }
 
-TEST(PortaAsio, a_far_end_that_does_not_read_blocks_nothing)
+TEST(PortaAsio, AFarEndThatDoesNotReadBlocksNothing)
 {
     PseudoTerminale capo;
     PortaAsio porta;
@@ -350,7 +353,7 @@ TEST(PortaAsio, a_far_end_that_does_not_read_blocks_nothing)
         errore = erroreDi([&] { porta.scrivi("0123456789"); });
     EXPECT_EQ(errore, Errore::LineaPersa);
     EXPECT_TRUE(porta.aperta());
-    // It is not lost: once the far end reads, it takes bytes again.
+    // The line is not lost: when the far end reads, it takes bytes again.
     EXPECT_TRUE(attendi([&] {
         capo.leggi();
         return erroreDi([&] { porta.scrivi("x"); }) == 0;
@@ -358,7 +361,7 @@ TEST(PortaAsio, a_far_end_that_does_not_read_blocks_nothing)
     porta.chiudi();
 }
 
-TEST(PortaAsio, a_write_larger_than_the_line_takes_blocks_nothing)
+TEST(PortaAsio, AWriteThatIsTooLargeForTheLineBlocksNothing)
 {
     const PseudoTerminale capo;
     PortaAsio porta;
@@ -366,7 +369,7 @@ TEST(PortaAsio, a_write_larger_than_the_line_takes_blocks_nothing)
     EXPECT_EQ(erroreDi([&] { porta.scrivi(QByteArray(10000000, 'x')); }), Errore::LineaPersa);
 }
 
-TEST(PortaAsio, when_the_far_end_goes_away_it_stays_open_in_name)
+TEST(PortaAsio, WhenTheFarEndGoesAwayItStillCountsAsOpen)
 {
     PseudoTerminale capo;
     PortaAsio porta;
@@ -381,7 +384,7 @@ TEST(PortaAsio, when_the_far_end_goes_away_it_stays_open_in_name)
     EXPECT_FALSE(porta.aperta());
 }
 
-TEST(PortaAsio, calls_when_bytes_arrive_while_it_is_watched)
+TEST(PortaAsio, CallsWhenBytesArriveWhileItIsWatched)
 {
     PseudoTerminale capo;
     PortaAsio porta;
@@ -393,7 +396,7 @@ TEST(PortaAsio, calls_when_bytes_arrive_while_it_is_watched)
     EXPECT_TRUE(attendi([&] { return letti == "abc"; }));
 }
 
-TEST(PortaAsio, does_not_call_while_it_is_not_watched)
+TEST(PortaAsio, DoesNotCallWhileItIsNotWatched)
 {
     PseudoTerminale capo;
     PortaAsio porta;
@@ -417,7 +420,7 @@ TEST(PortaAsio, does_not_call_while_it_is_not_watched)
     EXPECT_EQ(volte, prima);
 }
 
-TEST(PortaAsio, may_be_closed_from_within_its_own_call)
+TEST(PortaAsio, CanBeClosedInsideItsOwnCall)
 {
     PseudoTerminale capo;
     PortaAsio porta;
@@ -434,7 +437,7 @@ TEST(PortaAsio, may_be_closed_from_within_its_own_call)
     EXPECT_EQ(apertura(porta, capo.percorso()), 0);
 }
 
-TEST(PortaAsio, a_lost_line_does_not_keep_the_processor_busy_though_nobody_reads_it)
+TEST(PortaAsio, ALostLineThatIsNotReadDoesNotKeepTheProcessorBusy)
 {
     PseudoTerminale capo;
     PortaAsio porta;

@@ -1,8 +1,8 @@
-// The port of every system while it is closed.
-#include "tests/support/Controlli.h"
+// A closed port, the same on every system.
 #include "serial/PortaAsio.h"
+#include "tests/support/Controlli.h"
 
-TEST(PortaAsio, closed_it_reads_nothing_and_closing_again_does_no_harm)
+TEST(PortaAsio, WhenClosedItReadsNothingAndCanBeClosedAgain)
 {
     PortaAsio porta;
     porta.chiudi();

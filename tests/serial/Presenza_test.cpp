@@ -6,7 +6,7 @@ namespace {
 
 using Scrittura = Presenza::Scrittura;
 
-// A far end whose system answers each write the same way.
+// A line on which each write ends in the same way; counts the writes that were tried.
 struct LineaFinta
 {
     int scrivi(Presenza &presenza)
@@ -25,7 +25,7 @@ struct LineaFinta
 
 } // namespace
 
-TEST(Presenza, a_write_that_the_line_takes_passes)
+TEST(Presenza, AWriteThatTheLineTakesSucceeds)
 {
     Presenza presenza;
     LineaFinta linea;
@@ -33,7 +33,7 @@ TEST(Presenza, a_write_that_the_line_takes_passes)
     EXPECT_FALSE(presenza.persa());
 }
 
-TEST(Presenza, a_far_end_that_does_not_read_is_waited_for_once_and_not_at_each_poll)
+TEST(Presenza, AFarEndThatDoesNotReadIsWaitedForOnlyOnce)
 {
     Presenza presenza;
     LineaFinta linea;
@@ -44,7 +44,7 @@ TEST(Presenza, a_far_end_that_does_not_read_is_waited_for_once_and_not_at_each_p
     EXPECT_TRUE(presenza.persa());
 }
 
-TEST(Presenza, a_line_without_room_fails_and_is_tried_again)
+TEST(Presenza, ALineWithoutRoomFailsAndIsTriedAgain)
 {
     Presenza presenza;
     LineaFinta linea;
@@ -55,7 +55,7 @@ TEST(Presenza, a_line_without_room_fails_and_is_tried_again)
     EXPECT_EQ(linea.scrivi(presenza), 0);
 }
 
-TEST(Presenza, a_loss_is_reported_to_who_waits_on_the_line)
+TEST(Presenza, ALossIsReportedOnce)
 {
     Presenza presenza;
     int volte = 0;
@@ -67,7 +67,7 @@ TEST(Presenza, a_loss_is_reported_to_who_waits_on_the_line)
     EXPECT_EQ(volte, 1);
 }
 
-TEST(Presenza, a_line_opened_anew_is_there_again)
+TEST(Presenza, ALineThatIsOpenedAgainIsNoLongerLost)
 {
     Presenza presenza;
     LineaFinta linea;

@@ -1,4 +1,4 @@
-// The far end of a serial line, made by the system.
+// A pseudo-terminal: the test holds the far end of the line.
 #pragma once
 
 #include "tests/support/Controlli.h"
@@ -9,6 +9,7 @@
 class PseudoTerminale
 {
 public:
+    // Its other end is opened as a serial line, under percorso().
     PseudoTerminale() : m_capo(::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC))
     {
         if (::grantpt(m_capo) != 0 || ::unlockpt(m_capo) != 0)
@@ -29,7 +30,7 @@ public:
     {
         ASSERT_EQ(::write(m_capo, byte.constData(), static_cast<size_t>(byte.size())), byte.size());
     }
-    // What has come up to now.
+    // The bytes that have arrived, without waiting.
     QByteArray leggi()
     {
         QByteArray letti(65536, Qt::Uninitialized);
@@ -37,7 +38,7 @@ public:
         letti.truncate(quanti > 0 ? quanti : 0);
         return letti;
     }
-    // Waits until at least so many bytes have come.
+    // Waits until at least this number of bytes has arrived, 20 seconds at most.
     QByteArray leggiAlmeno(qsizetype quanti)
     {
         QByteArray letti;

@@ -1,19 +1,19 @@
 // The small modules without a window: Abilita_Disabilita, Se_Casi, AggiungiALista, Gest_Variabili,
 // Gest_File.
-#include "shell/Abilita_Disabilita.h"
-#include "shell/AggiungiALista.h"
 #include "base/Archivio.h"
-#include "tests/support/CartellaDiProva.h"
 #include "controls/Combo.h"
 #include "controls/Elenco.h"
-#include "tests/support/ErroreDi.h"
-#include "shell/Gest_File.h"
-#include "shell/Gest_Variabili.h"
 #include "controls/Grafica.h"
 #include "controls/Pulsanti.h"
-#include "tests/support/Scritte.h"
-#include "shell/Se_Casi.h"
 #include "controls/Temporizzatore.h"
+#include "shell/Abilita_Disabilita.h"
+#include "shell/AggiungiALista.h"
+#include "shell/Gest_File.h"
+#include "shell/Gest_Variabili.h"
+#include "shell/Se_Casi.h"
+#include "tests/support/CartellaDiProva.h"
+#include "tests/support/ErroreDi.h"
+#include "tests/support/Scritte.h"
 
 #include <QDir>
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@
 
 using namespace Qt::StringLiterals;
 
-TEST(ImpostaAbilitati, SwitchesTimersButtonsAndImagesOfOneList)
+TEST(ImpostaAbilitati, EnablesAndDisablesTimersButtonsAndImagesInOneCall)
 {
     QWidget finestra;
     Temporizzatore timer(u"tmr"_s, &finestra);
@@ -42,7 +42,7 @@ TEST(ImpostaAbilitati, LeavesOtherControlsAlone)
     EXPECT_TRUE(altro.Enabled());
 }
 
-TEST(ImpostaVisibili, ShowsAndHidesAllOfTheList)
+TEST(ImpostaVisibili, ShowsAndHidesAllControlsGiven)
 {
     QWidget finestra;
     Forma forma(u"shp"_s, &finestra);
@@ -58,14 +58,14 @@ TEST(ContieneValore, IsFalseForAnEmptyList)
     EXPECT_FALSE(ContieneValore(76));
 }
 
-TEST(ContieneValore, FindsTheValueWhereverItStands)
+TEST(ContieneValore, FindsTheValueAtAnyPosition)
 {
     EXPECT_TRUE(ContieneValore(76, 76, 481));
     EXPECT_TRUE(ContieneValore(481, 76, 481));
     EXPECT_FALSE(ContieneValore(53, 76, 481));
 }
 
-TEST(AggiungiVoci, AddsTheEntriesInOrderBehindThoseThatAreThere)
+TEST(AggiungiVoci, AddsTheEntriesInOrderAfterTheExistingOnes)
 {
     Elenco lista(u"lst"_s, nullptr);
     lista.AddItem(u"prima"_s);
@@ -105,7 +105,7 @@ TEST(Proporzione, RoundsTowardZeroOnBothSides)
     EXPECT_EQ(Proporzione(7, 2, -1), -3);
 }
 
-TEST(Proporzione, InZeroPartsIsADivisionError)
+TEST(Proporzione, WithAFullScaleOf0IsADivisionError)
 {
     EXPECT_EQ(erroreDi([] { Proporzione(1, 0, 615); }), 11);
 }
@@ -133,7 +133,7 @@ TEST(BitAlti, OfThreeBitsOf200Is6)
     EXPECT_EQ(BitAlti(200, 3), 6);
 }
 
-TEST(BitAlti, GivesTheHighBitsForEveryCount)
+TEST(BitAlti, ReturnsTheHighBitsForEveryCount)
 {
     for (int bit = 0; bit <= 8; ++bit) {
         for (int byte = 0; byte <= 255; ++byte)
@@ -143,14 +143,14 @@ TEST(BitAlti, GivesTheHighBitsForEveryCount)
     }
 }
 
-TEST(LeggiFile, WithModo2GivesAnEmptyTextAndOpensNothing)
+TEST(LeggiFile, WithModo2ReturnsAnEmptyTextAndOpensNothing)
 {
     const CartellaDiProva cartella;
     EXPECT_EQ(LeggiFile(u"manca"_s, 2), QByteArray());
     EXPECT_EQ(LeggiFile(u"manca"_s, 255), QByteArray());
 }
 
-TEST(LeggiFile, GivesEveryByteInBothModes)
+TEST(LeggiFile, ReturnsEveryByteInBothModes)
 {
     const CartellaDiProva cartella;
     QByteArray tutti;
@@ -169,7 +169,7 @@ TEST(LeggiFile, OfAnEmptyFileIsAnEmptyText)
     EXPECT_EQ(LeggiFile(u"vuoto"_s, 0), QByteArray());
 }
 
-TEST(LeggiFile, PassesAMissingFileToTheCaller)
+TEST(LeggiFile, ThrowsTheErrorOfAMissingFile)
 {
     const CartellaDiProva cartella;
     EXPECT_EQ(erroreDi([] { LeggiFile(u"manca"_s, 0); }), 53);
@@ -186,7 +186,7 @@ TEST(LeggiFile, LeavesNoFileOpen)
     EXPECT_EQ(LeggiFile(u"uno"_s, 0), "1");
 }
 
-TEST(ScriviFile, ReplacesWhatTheFileHeldWithoutALineEnd)
+TEST(ScriviFile, ReplacesTheContentsOfTheFileWithoutALineEnd)
 {
     const CartellaDiProva cartella;
     cartella.scrivi(u"prog.dat"_s, "quello che c'era prima");
@@ -201,7 +201,7 @@ TEST(ScriviFile, CreatesAFileThatIsMissing)
     EXPECT_EQ(cartella.leggi(u"nuovo"_s), QByteArray("a\0b", 3));
 }
 
-TEST(ScriviFile, PassesAMissingFolderToTheCallerAndLeavesNoFileOpen)
+TEST(ScriviFile, ThrowsTheErrorOfAMissingFolderAndLeavesNoFileOpen)
 {
     const CartellaDiProva cartella;
     EXPECT_EQ(erroreDi([] { ScriviFile(u"manca/dentro"_s, "x"); }), 76);
@@ -209,7 +209,7 @@ TEST(ScriviFile, PassesAMissingFolderToTheCallerAndLeavesNoFileOpen)
     EXPECT_EQ(cartella.leggi(u"nuovo"_s), "y");
 }
 
-TEST(ScriviFile, WhereANumberIsOpenIsError55AndClosesNothing)
+TEST(ScriviFile, WhileTheNumberIsOpenGivesError55AndClosesNothing)
 {
     const CartellaDiProva cartella;
     Archivio::apri(1, u"aperto"_s, Archivio::Modo::Scrittura);

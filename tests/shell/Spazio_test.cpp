@@ -1,16 +1,16 @@
-// The splash and the options have room for their texts with every desktop's font.
+// The splash and the options have room for their texts with the usual fonts of desktops.
+#include "shell/frmOpzioni.h"
+#include "shell/frmSchermataIniziale.h"
 #include "tests/support/CartellaDiProva.h"
 #include "tests/support/Ritaglio.h"
 #include "tests/support/Scritte.h"
-#include "shell/frmOpzioni.h"
-#include "shell/frmSchermataIniziale.h"
 
 #include <gmock/gmock.h>
 
 using namespace Qt::StringLiterals;
 using testing::IsEmpty;
 
-TEST(Spazio, TheSplashHasItForAllThatItTells)
+TEST(Spazio, TheSplashHasRoomForAllItsTexts)
 {
     for (const double punti : caratteriUsuali) {
         const ConCarattere carattere(punti);
@@ -23,7 +23,7 @@ TEST(Spazio, TheSplashHasItForAllThatItTells)
     }
 }
 
-TEST(Spazio, TheOptionsHaveItWithTheWarningToo)
+TEST(Spazio, TheOptionsHaveRoomForTheirTextsAlsoForTheWarning)
 {
     for (const double punti : caratteriUsuali) {
         const CartellaDiProva cartella;

@@ -27,17 +27,17 @@ TEST(InStrDx, OfAnEmptyTextIs0)
     EXPECT_EQ(InStrDx({}, u"."_s), 0);
 }
 
-TEST(InStrDx, IsZeroWhereNothingIsFound)
+TEST(InStrDx, IsZeroIfNothingIsFound)
 {
     EXPECT_EQ(InStrDx(u"abc"_s, u"x"_s), 0);
 }
 
-TEST(InStrDx, TellsCaseApart)
+TEST(InStrDx, IsCaseSensitive)
 {
     EXPECT_EQ(InStrDx(u"aBc"_s, u"b"_s), 0);
 }
 
-TEST(InStrDx, TakesMoreThanOneCharacter)
+TEST(InStrDx, FindsMoreThanOneCharacter)
 {
     EXPECT_EQ(InStrDx(u"uno, due, tre"_s, u", "_s), 5);
     EXPECT_EQ(InStrDx(u"abc"_s, u"abc"_s), 3);
@@ -51,12 +51,12 @@ TEST(InStrDx, WithoutWarningShowsNoBox)
     EXPECT_TRUE(messaggi.visti().isEmpty());
 }
 
-TEST(InStrDx, WithWarningStillGivesThePosition)
+TEST(InStrDx, WithWarningStillReturnsThePosition)
 {
     EXPECT_EQ(InStrDx(u"a.b"_s, u"."_s, true), 2);
 }
 
-TEST(InStrDxDeathTest, WithWarningTellsTheUserAndHalts)
+TEST(InStrDxDeathTest, WithWarningShowsAMessageAndEndsTheProgram)
 {
     ::testing::GTEST_FLAG(death_test_style) = "threadsafe";
     const auto cerca = [] {

@@ -29,7 +29,7 @@ TEST(MostraErrore, HasTheStopIconAndAnOkButton)
     EXPECT_EQ(messaggi.visti().first().pulsanti, QMessageBox::Ok);
 }
 
-TEST(MostraErrore, WithoutATitleTakesTheCaptionOfTheActiveWindow)
+TEST(MostraErrore, WithoutATitleUsesTheCaptionOfTheActiveWindow)
 {
     QWidget finestra;
     finestra.setWindowTitle(u"Vigilio"_s);

@@ -17,7 +17,7 @@ namespace {
 class Opzioni : public ::testing::Test
 {
 protected:
-    // Shown as any window: what happens inside does not depend on who waits for it.
+    // Shown without waiting for its end, as its behaviour is the same as that of a modal dialog.
     void apri()
     {
         opzioni.Mostra();
@@ -44,7 +44,7 @@ protected:
 
 } // namespace
 
-TEST_F(Opzioni, ShowsItsFixedTexts)
+TEST_F(Opzioni, ShowTheirFixedTexts)
 {
     EXPECT_EQ(opzioni.Caption(), u"Opzioni"_s);
     EXPECT_EQ(opzioni.opzCollegaAut.Caption(), u"Collega automaticamente ad Tessaro all'avvio"_s);
@@ -60,7 +60,7 @@ TEST_F(Opzioni, ShowsItsFixedTexts)
     EXPECT_EQ(opzioni.SuGiu.Max(), 99);
 }
 
-TEST_F(Opzioni, ShowsWhatTheFilesHold)
+TEST_F(Opzioni, ShowTheContentsOfTheFiles)
 {
     cartella.scrivi(u"Porta COM"_s, "17\r\n");
     cartella.scrivi(u"prog.dat"_s, "0;no,no,no,no,no");
@@ -79,7 +79,7 @@ TEST_F(Opzioni, WithoutAPortFileShowTheWarningAndKeep1)
     EXPECT_FALSE(opzioni.lblSpiegazioneCOM.Visible());
     EXPECT_TRUE(opzioni.lblAttenzionePorta.Visible());
     EXPECT_EQ(opzioni.txtPorta.Text(), u"1"_s);
-    // The work goes on with the other file.
+    // The other file is read all the same.
     EXPECT_EQ(opzioni.opzCollegaAut.Value(), 0);
 }
 
@@ -91,7 +91,7 @@ TEST_F(Opzioni, WithAnEmptyPortFileShowTheWarning)
     EXPECT_EQ(opzioni.txtPorta.Text(), u"1"_s);
 }
 
-TEST_F(Opzioni, WithAPortOutOfRangeEndAfterTheTextAndDoNotReadTheOtherFile)
+TEST_F(Opzioni, WithAPortOutOfRangeShowItsTextAndDoNotReadTheOtherFile)
 {
     cartella.scrivi(u"Porta COM"_s, "150\r\n");
     cartella.scrivi(u"prog.dat"_s, "0;");
@@ -102,7 +102,7 @@ TEST_F(Opzioni, WithAPortOutOfRangeEndAfterTheTextAndDoNotReadTheOtherFile)
     EXPECT_TRUE(messaggi.visti().isEmpty());
 }
 
-TEST_F(Opzioni, WithoutProgDatKeepTheTickOfTheDesign)
+TEST_F(Opzioni, WithoutProgDatKeepTheCheckMarkOfTheDesign)
 {
     cartella.scrivi(u"Porta COM"_s, "2\r\n");
     apri();
@@ -110,7 +110,7 @@ TEST_F(Opzioni, WithoutProgDatKeepTheTickOfTheDesign)
     EXPECT_TRUE(messaggi.visti().isEmpty());
 }
 
-TEST_F(Opzioni, TakeAValueThatIsNoTickQuietly)
+TEST_F(Opzioni, IgnoreAnInvalidCheckMarkWithoutAMessage)
 {
     cartella.scrivi(u"Porta COM"_s, "2\r\n");
     cartella.scrivi(u"prog.dat"_s, "900;");
@@ -141,7 +141,7 @@ TEST_F(Opzioni, OkWritesBothFilesAndKeepsTheOtherField)
     EXPECT_FALSE(opzioni.Visible());
 }
 
-TEST_F(Opzioni, OkCreatesAMissingProgDatWithNothingBehindTheSemicolon)
+TEST_F(Opzioni, OkCreatesAMissingProgDatWithNothingAfterTheSemicolon)
 {
     apri();
     opzioni.opzCollegaAut.click();
@@ -158,7 +158,7 @@ TEST_F(Opzioni, OkKeepsTheWholeTextOfAFileWithoutASemicolon)
     EXPECT_EQ(cartella.leggi(u"prog.dat"_s), "0;0");
 }
 
-TEST_F(Opzioni, OkPassesOverAPortFileThatCannotBeWritten)
+TEST_F(Opzioni, OkIgnoresAPortFileThatCannotBeWritten)
 {
     QDir().mkdir(u"Porta COM"_s);
     apri();
@@ -168,7 +168,7 @@ TEST_F(Opzioni, OkPassesOverAPortFileThatCannotBeWritten)
     EXPECT_TRUE(messaggi.visti().isEmpty());
 }
 
-TEST_F(Opzioni, OkPassesOverAProgDatThatCannotBeWritten)
+TEST_F(Opzioni, OkIgnoresAProgDatThatCannotBeWritten)
 {
     QDir().mkdir(u"prog.dat"_s);
     apri();
@@ -190,7 +190,7 @@ TEST_F(Opzioni, CancelLeavesBothFilesUntouched)
     EXPECT_FALSE(opzioni.Visible());
 }
 
-TEST_F(Opzioni, AreReadAnewAtTheNextShowing)
+TEST_F(Opzioni, AreReadAgainAtTheNextShowing)
 {
     apri();
     batti(u"12"_s);
@@ -202,7 +202,7 @@ TEST_F(Opzioni, AreReadAnewAtTheNextShowing)
     EXPECT_FALSE(opzioni.lblAttenzionePorta.Visible());
 }
 
-TEST_F(Opzioni, AnEmptyFieldGetsItsMessageOnceAndTheFocusBack)
+TEST_F(Opzioni, AnEmptyFieldShowsItsMessageOnceAndGetsTheFocusBack)
 {
     apri();
     svuotaCampo();
@@ -234,7 +234,7 @@ TEST_F(Opzioni, EnterAppliesTheRulesOfLeavingTheFieldFirst)
     EXPECT_FALSE(opzioni.Visible());
 }
 
-TEST_F(Opzioni, EnterWithAnEmptyFieldSaysSoEachTimeStoresNothingAndStays)
+TEST_F(Opzioni, EnterWithAnEmptyFieldShowsItsMessageEachTimeAndStoresNothing)
 {
     cartella.scrivi(u"Porta COM"_s, "2\r\n");
     cartella.scrivi(u"prog.dat"_s, "0;resto");
@@ -250,7 +250,7 @@ TEST_F(Opzioni, EnterWithAnEmptyFieldSaysSoEachTimeStoresNothingAndStays)
     EXPECT_EQ(cartella.leggi(u"prog.dat"_s), "0;resto");
 }
 
-TEST_F(Opzioni, AClickOnCancelClosesThemThoughTheFieldIsEmpty)
+TEST_F(Opzioni, AClickOnCancelClosesThemEvenIfTheFieldIsEmpty)
 {
     cartella.scrivi(u"Porta COM"_s, "2\r\n");
     apri();
@@ -261,11 +261,11 @@ TEST_F(Opzioni, AClickOnCancelClosesThemThoughTheFieldIsEmpty)
     EXPECT_EQ(cartella.leggi(u"Porta COM"_s), "2\r\n");
 }
 
-TEST_F(Opzioni, AClickOnCancelWhoseReleaseWentToTheMessageClosesThemToo)
+TEST_F(Opzioni, AClickOnCancelWhoseReleaseWentToTheMessageClosesThemAsWell)
 {
     apri();
     svuotaCampo();
-    // The message comes up at the press, and the user lets the button go over it.
+    // The message appears at the press, and the user releases the mouse button over it.
     messaggi.mentreAperto = [&](const QMessageBox &) {
         QTest::mouseRelease(&opzioni, Qt::LeftButton);
     };
@@ -349,7 +349,7 @@ TEST_F(Opzioni, TheTextTakesTheNumberOfTheSpinBar)
     EXPECT_EQ(opzioni.txtPorta.Text(), u"8"_s);
 }
 
-TEST_F(Opzioni, ReadAndWriteTheUsersOwnFileWhereTheSampleLiesBesideIt)
+TEST_F(Opzioni, ReadAndWriteTheUsersFileIfTheSampleIsInTheSameFolder)
 {
     cartella.scrivi(u"Porta COM"_s, "2\r\n");
     cartella.scrivi(u"PROG.DAT"_s, "0;no,no,25,no,no");

@@ -36,7 +36,7 @@ TEST(SchermataIniziale, StartsWithTheAnimationOffAndTheFlagAtZero)
     EXPECT_EQ(splash.imgAttesa.Picture(), 0);
 }
 
-TEST(SchermataIniziale, StandsInTheMiddleOfTheScreen)
+TEST(SchermataIniziale, IsInTheMiddleOfTheScreen)
 {
     frmSchermataIniziale splash;
     splash.Mostra();
@@ -54,7 +54,7 @@ TEST(SchermataIniziale, NonCollegareSetsItsTagAndNothingElse)
     EXPECT_EQ(splash.lblColl.Caption(), u"Apertura del programma..."_s);
 }
 
-TEST(SchermataIniziale, TheTagOfNonCollegareOutlivesTheWindow)
+TEST(SchermataIniziale, TheTagOfNonCollegareSurvivesUnloading)
 {
     frmSchermataIniziale splash;
     splash.Mostra();
@@ -75,7 +75,7 @@ TEST(SchermataIniziale, TheFramesRunFrom1To6AndBackTo1)
     EXPECT_EQ(visti, (QList<int>{1, 2, 3, 4, 5, 6, 1, 2, 3, 4, 5, 6, 1}));
 }
 
-TEST(SchermataIniziale, TheAnimationRunsByItsTimer)
+TEST(SchermataIniziale, TheTimerRunsTheAnimation)
 {
     frmSchermataIniziale splash;
     splash.Mostra();
@@ -87,7 +87,7 @@ TEST(SchermataIniziale, TheAnimationRunsByItsTimer)
 
 TEST(SchermataIniziale, TheUserCannotCloseIt)
 {
-    // It is the only window of the start: boxes stand over it.
+    // At the start it is the only window, and message boxes need it as their parent.
     frmSchermataIniziale splash;
     splash.Mostra();
     splash.close();

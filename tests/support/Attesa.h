@@ -1,11 +1,11 @@
-// Waiting in tests: on a condition, while the message pump runs.
+// Waiting in tests, while the message pump runs.
 #pragma once
 
 #include <functional>
 
-// Runs rounds of the pump until the condition holds. False only where it never does: the bound is
-// there for a test that hangs, not to measure anything.
+// Runs the pump until the condition is true. Returns false after 60 seconds, so that a test does
+// not hang; the limit measures nothing.
 [[nodiscard]] bool aspetta(const std::function<bool()> &condizione);
 
-// Runs that many rounds of the pump: long enough for what is waiting already, and no more.
+// Runs this number of rounds of the pump, to handle what is already waiting.
 void gira(int giri);

@@ -1,4 +1,4 @@
-// A working directory of the test's own.
+// A temporary working directory for a test.
 #pragma once
 
 #include <QByteArray>
@@ -6,8 +6,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-// While it lives, the current directory is a new empty folder; then the old one again, and the
-// folder goes with all that is in it.
+// While an object of this class exists, the current directory is a new empty folder. Its destructor
+// restores the old one and deletes the folder with its contents.
 class CartellaDiProva
 {
 public:
@@ -19,7 +19,7 @@ public:
     QString percorso(const QString &nome) const { return m_cartella.filePath(nome); }
 
     void scrivi(const QString &nome, const QByteArray &contenuto) const;
-    // Empty, with a failed expectation, where there is no such file.
+    // Empty, with a failed expectation, if there is no such file.
     QByteArray leggi(const QString &nome) const;
     bool contiene(const QString &nome) const;
     // Names of all files, folders and links, sorted.

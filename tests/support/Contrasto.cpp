@@ -42,8 +42,8 @@ QString testo(const QWidget &controllo)
     return {};
 }
 
-// The colour that most of the place has, its edge left out: where a button's face shades from row
-// to row, the edge would have more of one colour than any row.
+// The most frequent colour of a rectangle, without its edge. The face of a button changes colour
+// from row to row, so that the edge may have more pixels of one colour than any row.
 QColor fondo(const QImage &immagine, QRect posto)
 {
     const int orlo = qMin(3, posto.height() / 4);

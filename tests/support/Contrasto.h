@@ -1,4 +1,4 @@
-// How well text can be read.
+// The contrast of texts.
 #pragma once
 
 #include <QColor>
@@ -6,9 +6,10 @@
 
 class QWidget;
 
-// Of two colours, 1 to 21, as the accessibility guidelines of the web reckon it.
+// The contrast of two colours, from 1 to 21, by the formula of the WCAG.
 double contrasto(const QColor &uno, const QColor &altro);
 
-// The visible controls of a window whose text stands out from the ground painted beneath it by less
-// than 4.5 : 1, each with its name, its colours and its contrast. Disabled controls count as well.
+// The visible controls of a window whose text has a contrast below 4.5 : 1 with the ground that is
+// painted under it. Each is given with its name, its colours and its contrast. Disabled controls
+// are included.
 QStringList pocoLeggibili(QWidget &finestra);

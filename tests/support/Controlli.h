@@ -1,9 +1,9 @@
-// What the tests of this folder share: waits on conditions, windows that keep a
-// journal, and a hand that answers message boxes.
+// What the tests of base, controls and serial share: waiting for a condition, typing, a window that
+// records its events, and a helper that acts on message boxes.
 #pragma once
 
-#include "tests/support/ErroreDi.h"
 #include "controls/Finestra.h"
+#include "tests/support/ErroreDi.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -16,8 +16,6 @@
 #include <gmock/gmock.h>
 #include <ostream>
 
-using namespace Qt::StringLiterals;
-
 inline void PrintTo(const QString &testo, std::ostream *dove)
 {
     *dove << '"' << testo.toStdString() << '"';
@@ -27,12 +25,13 @@ inline void PrintTo(const QByteArray &byte, std::ostream *dove)
     *dove << byte.toPercentEncoding().toStdString();
 }
 
+// Runs the event loop until the condition is true; false after 20 seconds.
 inline bool attendi(const std::function<bool()> &condizione)
 {
     return QTest::qWaitFor(condizione, 20000);
 }
 
-// Types any characters; QTest knows ASCII only.
+// Types any characters; QTest types ASCII only.
 inline void batti(QWidget &dove, const QString &testo)
 {
     for (const QChar c : testo) {
@@ -43,7 +42,7 @@ inline void batti(QWidget &dove, const QString &testo)
     }
 }
 
-// Another program at the front: a window that is none of ours.
+// Another program in front: a window that is not a Finestra.
 struct AltroProgramma
 {
     AltroProgramma()
@@ -57,7 +56,8 @@ struct AltroProgramma
     QWindow finestra;
 };
 
-// Waits in the background until a box of that kind is shown, and then does something with it.
+// While an object of this class exists, calls a function every 5 ms with the modal box of this type
+// that is open, and counts the calls.
 template <class Riquadro>
 class Mano
 {
@@ -86,17 +86,18 @@ inline void premiOK(QMessageBox &box)
     QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
 }
 
-// A window that writes down what happens to it.
+// A window that records what happens to it.
 class FinestraDiProva : public Finestra
 {
 public:
-    explicit FinestraDiProva(const QString &nome = u"frmProva"_s) : Finestra(nome, u"Prova"_s)
+    explicit FinestraDiProva(const QString &nome = QStringLiteral("frmProva"))
+        : Finestra(nome, QStringLiteral("Prova"))
     {
         resize(400, 300);
     }
 
     QStringList diario;
-    // How many times it was brought before the others.
+    // How often it was raised.
     int alzate = 0;
     std::function<void()> inLoad;
     std::function<void()> inKeyDown;
@@ -122,33 +123,33 @@ protected:
             ++alzate;
         return Finestra::event(evento);
     }
-    void Initialize() override { diario += u"Initialize"_s; }
+    void Initialize() override { diario += QStringLiteral("Initialize"); }
     void Load() override
     {
-        diario += u"Load"_s;
+        diario += QStringLiteral("Load");
         if (inLoad)
             inLoad();
     }
-    void Activate() override { diario += u"Activate"_s; }
-    void Disegno() override { diario += u"Disegno"_s; }
+    void Activate() override { diario += QStringLiteral("Activate"); }
+    void Disegno() override { diario += QStringLiteral("Disegno"); }
     void QueryUnload(bool &Cancel, Chiusura UnloadMode) override
     {
-        diario += u"QueryUnload %1"_s.arg(static_cast<int>(UnloadMode));
+        diario += QStringLiteral("QueryUnload %1").arg(static_cast<int>(UnloadMode));
         Cancel = rifiutaQuery;
     }
     void Unload(bool &Cancel) override
     {
-        diario += u"Unload"_s;
+        diario += QStringLiteral("Unload");
         Cancel = rifiutaUnload;
     }
     void KeyDown(int KeyCode, int Shift) override
     {
-        diario += u"KeyDown %1 %2"_s.arg(KeyCode).arg(Shift);
+        diario += QStringLiteral("KeyDown %1 %2").arg(KeyCode).arg(Shift);
         if (inKeyDown)
             inKeyDown();
     }
     void KeyUp(int KeyCode, int Shift) override
     {
-        diario += u"KeyUp %1 %2"_s.arg(KeyCode).arg(Shift);
+        diario += QStringLiteral("KeyUp %1 %2").arg(KeyCode).arg(Shift);
     }
 };

@@ -1,11 +1,11 @@
-// Failures of statements, as tests look at them.
+// The errors of statements, for tests.
 #pragma once
 
 #include "base/Errore.h"
 
 #include <functional>
 
-// The number of the error that the statement fails with, 0 where it does not fail.
+// The number of the Errore that the statement throws; 0 if it throws none.
 inline int erroreDi(const std::function<void()> &istruzione)
 {
     try {

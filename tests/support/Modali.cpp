@@ -35,7 +35,7 @@ void RispondiMessaggi::guarda()
         if (mentreAperto)
             mentreAperto(*box);
     }
-    // The function may have closed it, or opened another one that was answered meanwhile.
+    // mentreAperto may have closed the box, or opened another one that was answered meanwhile.
     if (m_trattieni || !m_ultimo || !m_ultimo->isVisible())
         return;
     if (QAbstractButton *pulsante = m_ultimo->button(m_premi))

@@ -1,4 +1,4 @@
-// Who answers message boxes and dialogs in a test's place of the user.
+// Answers message boxes and dialogs in a test, as a user would.
 #pragma once
 
 #include <QList>
@@ -7,7 +7,7 @@
 #include <QTimer>
 #include <functional>
 
-// A message box as it was seen.
+// What a message box showed.
 struct MessaggioVisto
 {
     QString testo;
@@ -16,25 +16,26 @@ struct MessaggioVisto
     QMessageBox::StandardButtons pulsanti;
 };
 
-// While it lives, notes every message box that comes up, once each, and presses a button of it.
+// While an object of this class exists, records each message box once and presses one of its
+// buttons.
 class RispondiMessaggi : public QObject
 {
     Q_OBJECT
 
 public:
-    // The button that is pressed in each box; a box that lacks it is closed.
+    // premi: the button to press; a box without it is closed.
     explicit RispondiMessaggi(QMessageBox::StandardButton premi = QMessageBox::Ok);
-    // A box that is still open is closed, lest the test hangs.
+    // Closes a box that is still open, so that the test does not hang.
     ~RispondiMessaggi() override;
 
     const QList<MessaggioVisto> &visti() const { return m_visti; }
     QStringList testi() const;
 
-    // From the next box on.
+    // Sets the button to press from now on.
     void premi(QMessageBox::StandardButton pulsante) { m_premi = pulsante; }
-    // While true, boxes are noted and stay open.
+    // While it is true, boxes are recorded and stay open.
     void trattieni(bool trattenuti) { m_trattieni = trattenuti; }
-    // Runs once for each box, while it is open, before the button is pressed.
+    // Called once for each box, when it is open and before the button is pressed.
     std::function<void(QMessageBox &)> mentreAperto;
 
 private:
@@ -47,8 +48,9 @@ private:
     bool m_trattieni = false;
 };
 
-// While it lives, calls a function each time that the modal window of that object name is in front
-// and idle; the function acts as the user does, and counts for itself what it has done.
+// While an object of this class exists, calls a function about every millisecond while the modal
+// window with this object name is open. The function acts as a user, and must itself remember what
+// it has done already.
 class ConModale : public QObject
 {
     Q_OBJECT

@@ -1,4 +1,4 @@
-// A serial line without a system behind it: keeps what is written, gives what it is told to.
+// A serial line in memory: records what is written, and delivers what the test gives it.
 #pragma once
 
 #include "serial/ControlloSeriale.h"
@@ -11,7 +11,7 @@ class PortaFinta : public Porta
 public:
     PortaFinta();
 
-    // Fails with apertura where that is not 0.
+    // Throws the error apertura if it is not 0.
     void apri(const QString &percorso) override;
     void chiudi() override;
     bool aperta() const override
@@ -24,30 +24,28 @@ public:
     QByteArray leggi(qsizetype massimo) override;
     void sorveglia(bool attiva) override;
 
-    // The far end sends; who watches the line is told from the event loop, as long as bytes are
-    // left.
+    // The far end sends these bytes. While the line is watched, the event loop calls arrivo until
+    // all bytes are read.
     void arriva(const QByteArray &byte);
     qsizetype inArrivo() const { return m_arrivati.size(); }
     bool sorvegliata() const { return m_sorvegliata; }
 
-    // One element for each write that was taken, in order.
+    // The successful writes, in order.
     QList<QByteArray> scritture;
     QByteArray scritti() const { return scritture.join(); }
-    // The write of this number, from 1 and counting from now on, fails with Errore::LineaPersa;
-    // 0 lets all pass.
+    // The write with this number, counted from 1 from now on, throws Errore::LineaPersa; 0: none.
     void fallisciAlla(int numero);
-    // While true every write fails with Errore::LineaPersa.
+    // While it is true, every write throws Errore::LineaPersa.
     bool persa = false;
-    // The error number of the next openings, 0 lets them pass; and its text, where it is not the
-    // usual one.
+    // The error number that apri throws, 0 for none, and its text if it is not the usual one.
     int apertura = 0;
     QString motivo;
     QString percorsoAperto;
     int aperture = 0;
     int chiusure = 0;
-    // Raised each time somebody asks whether the port is open.
+    // Called each time the port is asked whether it is open.
     std::function<void()> chiesta;
-    // Raised after each write, for a robot that answers.
+    // Called after each successful write, so that the test can answer as the robot.
     std::function<void(const QByteArray &)> scritto;
 
 private:
@@ -60,7 +58,7 @@ private:
     bool m_sorvegliata = false;
 };
 
-// A serial control over such a line.
+// A serial control over a PortaFinta.
 struct SerialeFinto
 {
     explicit SerialeFinto(const QString &cartella = {});

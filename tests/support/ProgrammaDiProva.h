@@ -1,12 +1,11 @@
-// A program for lists to start.
+// A program that move lists start in tests.
 #pragma once
 
 #include "tests/support/CartellaDiProva.h"
 
-// A copy of it under that name in the folder: its path. It waits as long as there is a file
-// "attendi" in the current folder, and then writes its arguments, one a line, into "esito.txt".
+// Copies the program under this name into the folder and returns its path. It waits while there is
+// a file "attendi" in the current folder, then writes its arguments, one a line, into "esito.txt".
 QString programmaDiProva(const CartellaDiProva &cartella, const QString &nome);
 
-// Whether "esito.txt" is there and can be read: on Windows a file that is just being renamed
-// cannot.
+// True if "esito.txt" exists and can be read; on Windows it cannot while it is being renamed.
 bool programmaFinito(const CartellaDiProva &cartella);

@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A control's text: where it is painted, in the control, and how much room it takes.
+// The text of a control: its size, the room for it in the control, and how it is aligned there.
 struct Scritta
 {
     QString testo;
@@ -61,7 +61,7 @@ Scritta scrittaDi(const QPushButton &pulsante)
     QSize misura = misuraDi(pulsante, pulsante.text());
     if (!pulsante.icon().isNull())
         misura.rwidth() += pulsante.iconSize().width() + 4;
-    // Not up against its edge, either.
+    // With a margin to the edge of the button.
     constexpr int respiro = 8;
     return {pulsante.text(), misura, pulsante.rect().adjusted(respiro, 1, -respiro, -1)};
 }
@@ -77,7 +77,7 @@ Scritta scrittaDi(const Casella &casella, QStyle::SubElement contenuto)
             Qt::AlignLeft | Qt::AlignVCenter};
 }
 
-// Any of its entries may come to stand in it.
+// The combo must have room for each of its entries.
 Scritta scrittaDi(const QComboBox &combo)
 {
     QStyleOptionComboBox opzione;
@@ -92,7 +92,7 @@ Scritta scrittaDi(const QComboBox &combo)
             Qt::AlignLeft | Qt::AlignVCenter};
 }
 
-// Its text is the user's, but for its height.
+// The text comes from the user: only its height is checked.
 Scritta scrittaDi(const QLineEdit &casella)
 {
     return {casella.text(), {0, casella.fontMetrics().height()}, casella.contentsRect()};
@@ -134,7 +134,7 @@ Scritta scrittaDi(const QWidget &controllo)
     return {};
 }
 
-// The part of a control that what it lies in leaves to be seen, in the control.
+// The part of a control that its parents do not cut off, in the control's coordinates.
 QRect visibile(const QWidget &controllo)
 {
     QRect resta = controllo.rect();
@@ -143,7 +143,7 @@ QRect visibile(const QWidget &controllo)
     return resta;
 }
 
-// In a list or a table: what lies there is scrolled.
+// True inside a list or a table, whose contents are scrolled.
 bool scorre(const QWidget &controllo)
 {
     for (const QWidget *w = &controllo; w && !w->isWindow(); w = w->parentWidget()) {

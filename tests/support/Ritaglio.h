@@ -1,4 +1,4 @@
-// Whether a window has room for its texts, on every screen and with every desktop's font.
+// Checks that a window has room for its texts, on every screen and with every font of a desktop.
 #pragma once
 
 #include <QFont>
@@ -7,16 +7,16 @@
 
 class QWidget;
 
-// The visible controls of a window whose text does not fit into them, is cut off by what they lie
-// in, or runs into another control's text; each with its name, its text and what is wrong. Texts of
-// the user's (text boxes, rows of lists) are cut by rights and left out.
+// The visible controls of a window whose text does not fit, is cut off by a parent, or overlaps the
+// text of another control. Each is given with its name, its text and the fault. Texts of the user
+// (text boxes, rows of lists) may be cut and are left out.
 QStringList tagliati(QWidget &finestra);
 
-// The same, to be called on every look that a window has: also saves a picture of it under this
-// name where LOOKS_PICTURES names a folder.
+// The same; tests call it for each state of a window. If the environment variable LOOKS_PICTURES
+// names a folder, it also saves a picture of the window there.
 QStringList guarda(QWidget &finestra, const QString &nome);
 
-// What a desktop gives every program, in points; while it lives.
+// While an object of this class exists, the application's font has this size, in points.
 class ConCarattere
 {
 public:
@@ -28,5 +28,5 @@ private:
     QFont m_prima;
 };
 
-// The sizes that usual desktops come with.
+// The usual font sizes of desktops, in points.
 inline constexpr double caratteriUsuali[] = {9, 10, 11};

@@ -1,4 +1,4 @@
-// Bytes and texts as tests write them down, and as a failing test prints them.
+// Bytes and texts: how tests write them, and how a failed test prints them.
 #pragma once
 
 #include <QByteArray>
@@ -16,7 +16,7 @@ inline void PrintTo(const QByteArray &byte, std::ostream *uscita)
     *uscita << '[' << byte.toHex(' ').toStdString() << ']';
 }
 
-// Bytes by their decimal numbers, 0 to 255.
+// Bytes from their decimal numbers, 0 to 255.
 inline QByteArray b(std::initializer_list<int> numeri)
 {
     QByteArray byte;

@@ -1,14 +1,14 @@
-// What tests ask of the operating system, and not every system gives.
+// What tests need from the operating system. If a system lacks it, the test is to be skipped.
 #pragma once
 
 #include <QString>
 #include <memory>
 
-// While it lives no file of this process grows beyond so many bytes, as on a full disk.
+// While an object of this class exists, no file of this process can grow beyond this number of
+// bytes, as on a full disk.
 class DiscoPieno
 {
 public:
-    // Where not, the test is to be skipped.
     static bool possibile();
 
     explicit DiscoPieno(qsizetype byte);
@@ -20,11 +20,10 @@ private:
     std::unique_ptr<Prima> m_prima;
 };
 
-// While it lives the folder cannot be written to, even by a test that runs as root.
+// While an object of this class exists, the folder is read-only, also for a test that runs as root.
 class SenzaDiritti
 {
 public:
-    // Where not, the test is to be skipped.
     static bool possibile();
 
     explicit SenzaDiritti(const QString &cartella);
@@ -36,16 +35,15 @@ private:
     bool m_eraRoot = false;
 };
 
-// Puts there, under a relative name, what can be seen and replaced but not read as a file. False
-// where the system knows no such thing: then the test is to be skipped.
+// Creates, under a relative name, something that can be seen and replaced but not read as a file.
+// False if the system has no such thing.
 bool mettiIlleggibile(const QString &nome);
 
-// Makes a symbolic link of this name to a file; false where the system knows none: then the test is
-// to be skipped.
+// Makes a symbolic link with this name to a file; false if the system has no such links.
 bool collega(const QString &file, const QString &nome);
 
-// Whether a file's name may hold a quote; a test that needs one is to be skipped where not.
+// True if a file name may contain a quote.
 bool virgoletteNeiNomi();
 
-// Whether a file whose permissions are taken away is closed to this user.
+// True if a file without permissions cannot be opened by this user; false for root.
 bool permessiContano();

@@ -41,7 +41,7 @@ bool SenzaDiritti::possibile()
 
 SenzaDiritti::SenzaDiritti(const QString &cartella) : m_cartella(cartella)
 {
-    // Root's group stays this process' own.
+    // Without write permission for the group as well, because the process keeps root's group.
     QFile::setPermissions(m_cartella, QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup |
                                           QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
     if (::geteuid() == 0)
@@ -64,7 +64,7 @@ bool mettiIlleggibile(const QString &nome)
     if (percorso.size() >= qsizetype(sizeof indirizzo.sun_path))
         return false;
     std::copy(percorso.begin(), percorso.end(), indirizzo.sun_path);
-    // The name outlives the socket.
+    // The name of a socket stays after the socket is closed.
     const int presa = ::socket(AF_UNIX, SOCK_STREAM, 0);
     const bool legata =
         ::bind(presa, reinterpret_cast<const sockaddr *>(&indirizzo), sizeof indirizzo) == 0;

@@ -1,5 +1,5 @@
-// Windows knows no limit for a process' files and asks for a right to make links; Wine keeps no
-// rights on folders.
+// Windows has no limit for the files of a process and allows links only with a special right; Wine
+// does not enforce permissions of folders.
 #include "tests/support/Sistema.h"
 
 struct DiscoPieno::Prima
@@ -31,7 +31,7 @@ bool mettiIlleggibile(const QString &)
 
 bool collega(const QString &, const QString &)
 {
-    return false; // Qt's links are shell shortcuts here
+    return false; // here QFile::link makes a shell shortcut
 }
 
 bool virgoletteNeiNomi()
