@@ -2,6 +2,7 @@
 
 namespace {
 
+// Logical pixels.
 constexpr int lato = 11;
 
 } // namespace
