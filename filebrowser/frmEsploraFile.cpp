@@ -1,17 +1,18 @@
 #include "filebrowser/frmEsploraFile.h"
 
 #include "base/Codifica.h"
+#include "controls/Tasti.h"
 #include "filebrowser/Foto.h"
 #include "filebrowser/PercorsoRobot.h"
-#include "controls/Tasti.h"
 
 namespace {
 
 constexpr quint8 voceCartella = 2;
-// What the length byte of the command can tell.
+// The length of a path is sent as one byte.
 constexpr qsizetype percorsoMassimo = 255;
 
-// A width or a height as the layout rule works it out; a window too small for it has none.
+// Checks a width or a height that the layout rule has computed. Throws Errore::ProprietaNonValida
+// if the window is too small for it.
 double misura(double unita)
 {
     if (unita < 0)
@@ -53,7 +54,7 @@ void frmEsploraFile::Disegno()
 
 void frmEsploraFile::Activate()
 {
-    // A disabled window cannot be come to: a fetch is not to be turned into a listing.
+    // A window that is disabled by a fetch starts no listing.
     if (isEnabled() && lstCartelle.ListCount() == 0)
         pulHome_Click();
 }
@@ -100,7 +101,7 @@ void frmEsploraFile::lstFile_DblClick()
     const QString nome = lstFile.Text();
     const QByteArray percorso = Codifica::inByte(lstCartelle.Tag() + nome);
     if (percorso.size() > percorsoMassimo) {
-        // The robot would take the end of such a path for commands.
+        // The robot would take the end of a longer path for commands.
         prelievo.segnalaErrore();
         return;
     }
@@ -167,14 +168,14 @@ void frmEsploraFile::caricaFoto(const QString &percorso)
 void frmEsploraFile::intitolaFoto(const QString &nome)
 {
     lblNomeFoto.setCaption(nome);
-    // A long name is cut at the photo's edge.
+    // The label cuts a long name at the edge of the photo.
     lblNomeFoto.setToolTip(suggerimento(nome));
 }
 
 void frmEsploraFile::riabilita()
 {
     setEnabled(true);
-    // Disabling took the focus from the list in which the file was chosen.
+    // Disabling the window has taken the focus from the list.
     if (isVisible())
         lstFile.setFocus(Qt::OtherFocusReason);
 }

@@ -1,33 +1,33 @@
-// Walks the folders of the robot's storage, fetches a file, shows a fetched photo.
+// The file browser: shows the folders of the robot's storage, fetches files, shows fetched photos.
 #pragma once
 
 #include "art/Disegni.h"
-#include "filebrowser/ElencoCrescente.h"
 #include "controls/EtichettaAbbreviata.h"
 #include "controls/Finestra.h"
+#include "filebrowser/ElencoCrescente.h"
 #include "filebrowser/Nomi.h"
 #include "filebrowser/Prelievo.h"
 
 using namespace Qt::StringLiterals;
 
-// Tag tells what the robot's answers are for: "Elenco", "File", or nothing.
+// Its Tag shows what is awaited from the robot: "Elenco" for a listing, "File", or nothing.
 class frmEsploraFile : public Finestra
 {
     Q_OBJECT
 
 public:
-    // The line to the robot, the status bar whose panel 3 tells of a fetch, and the folder where
-    // fetched files go.
+    // COM: the line to the robot. BarraStato: its panel 3 shows how a fetch goes. cartella: the
+    // folder for the fetched files.
     frmEsploraFile(ControlloSeriale &COM, BarraDiStato &BarraStato, const QString &cartella);
 
-    // A text written from outside says what is awaited.
+    // A text written from outside sets what is awaited.
     void setTag(const QString &tag) override;
 
     ListaImmagini lstImgAttesa{Disegni::lstImgAttesa()};
 
     Etichetta Label1{u"Label1"_s, this, u"Cartelle"_s};
     Etichetta Label2{u"Label2"_s, this, u"File"_s};
-    // lstCartelle.Tag is what stands before the names of the files.
+    // Its Tag is the prefix for the names of the files.
     ElencoCrescente lstCartelle{u"lstCartelle"_s, this};
     ElencoCrescente lstFile{u"lstFile"_s, this};
     Immagine imgAttesa{u"imgAttesa"_s, this, &lstImgAttesa};
@@ -37,37 +37,39 @@ public:
 
     Prelievo prelievo;
 
-    // What the conversation shows.
+    // What follows is called by prelievo to show the course of a request.
     void mostraAttesa(const QString &tag) { Finestra::setTag(tag); }
+    // Empties the Tag and lays out the rows of both lists.
     void finisciAttesa();
     void svuotaElenchi();
-    // x: 2 for a folder, anything else for a file.
+    // Adds an entry to its list. x: 2 for a folder, anything else for a file.
     void aggiungi(quint8 x, const QString &nome);
-    // Steps the wait animation, or hides it.
+    // Shows the next picture of the wait animation, or hides it.
     void ImmagineAttesa(bool attiva);
-    // Errore::ImmagineNonValida where the file is no photo.
+    // Shows a photo. Throws what leggiFoto throws.
     void caricaFoto(const QString &percorso);
     void togliFoto() { imgFoto.setPicture(0); }
+    // Shows the name of the photo, and the whole name in its tool tip.
     void intitolaFoto(const QString &nome);
-    // The fetch is over: the window may be used again.
+    // Enables the window again after a fetch.
     void riabilita();
 
 protected:
     void Disegno() override;
-    // A telegram that came while the window was closed has left nothing in it.
+    // Discards what telegrams have changed while the window was closed.
     void Load() override { Disegno(); }
     void Activate() override;
     void Resize() override;
     void Unload(bool &Cancel) override;
 
 private:
-    // How the window looks.
+    // Sets the look of the window.
     void disponi();
 
     void pulHome_Click();
     void lstCartelle_DblClick();
     void lstFile_DblClick();
-    // The key that does what a double click does.
+    // The Enter key does what a double click does.
     void lstCartelle_KeyDown(int &KeyCode, int Shift);
     void lstFile_KeyDown(int &KeyCode, int Shift);
 

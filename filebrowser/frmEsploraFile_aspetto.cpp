@@ -1,11 +1,12 @@
-// How the window looks: what the layout rule leaves alone stands here, in layout units.
+// The look of the window. Places and sizes of controls are in layout units; the layout rule in
+// Resize() changes some of them.
 #include "filebrowser/frmEsploraFile.h"
 
 namespace {
 
 constexpr int larghezza = 760;
 constexpr int altezza = 440;
-// The narrowest window in which the photo leaves room for the names of files.
+// In a narrower window the photo leaves no room for the names of the files.
 constexpr int larghezzaMinima = 640;
 constexpr int altezzaMinima = 320;
 
