@@ -16,7 +16,7 @@ void mostrata(Finestra &finestra, const QString &stato, const Visita &fai)
     fai(finestra, stato);
 }
 
-// As the robot fills it.
+// A frame as the robot sends it.
 QImage scena()
 {
     return immaginePiena(qRgb(200, 200, 200));
