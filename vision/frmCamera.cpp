@@ -198,8 +198,8 @@ void frmCamera::Schermo_MouseDown(int, int, double X, double Y)
     m_selezione.premi(disegna, nominando());
     if (!disegna)
         return;
-    shpSelezione.Move(X, Y);
-    shpSelezione.Size(1, 1);
+    shpSelezione.movePixel(X, Y);
+    shpSelezione.sizePixel(1, 1);
     shpSelezione.show();
 }
 
@@ -207,8 +207,8 @@ void frmCamera::Schermo_MouseMove(int Button, int, double X, double Y)
 {
     if (Button != 1 || !m_video.acceso() || nominando())
         return;
-    passaErrori([&] { shpSelezione.setWidth(X - shpSelezione.Left()); });
-    passaErrori([&] { shpSelezione.setHeight(Y - shpSelezione.Top()); });
+    passaErrori([&] { shpSelezione.setWidthPixel(X - shpSelezione.leftPixel()); });
+    passaErrori([&] { shpSelezione.setHeightPixel(Y - shpSelezione.topPixel()); });
 }
 
 void frmCamera::Schermo_MouseUp()
@@ -300,10 +300,8 @@ void frmCamera::PreparaAcquisizione()
     if (nominando())
         return;
     shpSelezione.hide();
-    const QRectF scelta(shpSelezione.Left(), shpSelezione.Top(), shpSelezione.Width(),
-                        shpSelezione.Height());
-    frmNomeImmagine.nomina(m_video.fotogramma().Pixel, areaInFotogramma(scelta, m_video.zoom()),
-                           *this);
+    frmNomeImmagine.nomina(m_video.fotogramma().Pixel,
+                           areaInFotogramma(shpSelezione.rettangoloPixel(), m_video.zoom()), *this);
     m_selezione.nomina();
     lasciaMirino();
 }
@@ -325,14 +323,14 @@ void frmCamera::CercaImmagini()
 void frmCamera::mostraTrovata(const Trovata &trovata)
 {
     const int s = m_video.zoom();
-    shpImgRilevata.Move(s * trovata.colonna, s * trovata.riga);
-    shpImgRilevata.Size(double(s) * trovata.W, double(s) * trovata.H);
+    shpImgRilevata.movePixel(s * trovata.colonna, s * trovata.riga);
+    shpImgRilevata.sizePixel(double(s) * trovata.W, double(s) * trovata.H);
     shpImgRilevata.show();
     QFont font = lblNomeImmagine.font();
     font.setPointSize(qMax(1, s * 3));
     lblNomeImmagine.setFont(font);
-    lblNomeImmagine.Move(shpImgRilevata.Left() - s,
-                         shpImgRilevata.Top() + shpImgRilevata.Height() - s);
+    const QRectF cornice = shpImgRilevata.rettangoloPixel();
+    lblNomeImmagine.movePixel(cornice.left() - s, cornice.bottom() - s);
     lblNomeImmagine.setCaption(nomeImmagine(c.lstImgCamera.List(trovata.indice)));
     lblNomeImmagine.adjustSize();
     lblNomeImmagine.show();

@@ -102,7 +102,7 @@ void frmNomeImmagine::Disegno()
 
 void frmNomeImmagine::nomina(const Matrice &pixel, const Area &area, QWidget &padrona)
 {
-    imgAcquisita.Move(39 - area.width / 2, 29 - area.height / 2);
+    imgAcquisita.movePixel(39 - area.width / 2, 29 - area.height / 2);
     setTag(QString::number(area.width) + u',' + QString::number(area.height));
     imgAcquisita.hide();
     m_acquisizione.inizia(pixel, area.left, area.top, area.width, area.height);

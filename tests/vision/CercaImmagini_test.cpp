@@ -34,11 +34,7 @@ protected:
         banco.apriCamera();
         camera.resize(800, 600);
     }
-    QRectF trovata() const
-    {
-        const FormaInPixel &s = camera.shpImgRilevata;
-        return {s.Left(), s.Top(), s.Width(), s.Height()};
-    }
+    QRectF trovata() const { return camera.shpImgRilevata.rettangoloPixel(); }
 
     const QImage scena = immagineACaso(21);
     const QImage altra = immagineACaso(22);
@@ -63,8 +59,8 @@ TEST_F(CercaImmagini, TheActivePictureIsFramedAndNamed)
     const EtichettaInPixel &nome = camera.lblNomeImmagine;
     EXPECT_TRUE(nome.isVisible());
     EXPECT_EQ(nome.Caption(), u"Pallone"_s);
-    EXPECT_EQ(nome.Left(), 290);
-    EXPECT_EQ(nome.Top(), 340);
+    EXPECT_EQ(nome.leftPixel(), 290);
+    EXPECT_EQ(nome.topPixel(), 340);
     EXPECT_EQ(nome.font().pointSize(), 30);
     EXPECT_TRUE(camera.Schermo.rect().contains(nome.geometry()));
 }

@@ -37,11 +37,7 @@ protected:
                            {});
         QApplication::sendEvent(&Schermo, &evento);
     }
-    QRectF rettangolo() const
-    {
-        return {shpSelezione.Left(), shpSelezione.Top(), shpSelezione.Width(),
-                shpSelezione.Height()};
-    }
+    QRectF rettangolo() const { return shpSelezione.rettangoloPixel(); }
     // The record of an area of size W by H whose first pixel is at (colonna, riga), counted from 1,
     // with the colours of so many columns and rows.
     QString record(int W, int H, int colonna, int riga, int quanteColonne, int quanteRighe) const
@@ -94,6 +90,21 @@ TEST_F(SceltaSulVideo, APressShowsAPointAndADragEnlargesIt)
     EXPECT_EQ(shpSelezione.Tag(), u"0"_s);
     QTest::mouseRelease(&Schermo, Qt::LeftButton, {}, {160, 290});
     EXPECT_EQ(shpSelezione.Tag(), u"True"_s);
+}
+
+TEST_F(SceltaSulVideo, ItsPropertiesAreInPixels)
+{
+    QTest::mousePress(&Schermo, Qt::LeftButton, {}, {100, 200});
+    muovi({160, 290});
+    EXPECT_EQ(shpSelezione.property("Left"), 100.0);
+    EXPECT_EQ(shpSelezione.property("Top"), 200.0);
+    EXPECT_EQ(shpSelezione.property("Width"), 60.0);
+    EXPECT_EQ(shpSelezione.property("Height"), 90.0);
+    ASSERT_TRUE(shpSelezione.setProperty("Left", 30.0));
+    ASSERT_TRUE(shpSelezione.setProperty("Height", 40.0));
+    EXPECT_EQ(shpSelezione.geometry(), QRect(30, 200, 60, 40));
+    const Forma &forma = shpSelezione;
+    EXPECT_EQ(forma.Left(), 30 * Unita::perPixel) << "layout units, as of every control";
 }
 
 TEST_F(SceltaSulVideo, ItIsVisibleOnAWhitePicture)
@@ -174,8 +185,8 @@ TEST_F(SceltaSulVideo, TheDialogShowsThePictureInTheMiddleOfItsArea)
     trascina({100, 100}, {160, 190});
     banco.manda(immagine);
     finisci();
-    EXPECT_EQ(nome.imgAcquisita.Left(), 36);
-    EXPECT_EQ(nome.imgAcquisita.Top(), 25);
+    EXPECT_EQ(nome.imgAcquisita.leftPixel(), 36);
+    EXPECT_EQ(nome.imgAcquisita.topPixel(), 25);
     const QImage visto = nome.imgAcquisita.disegno();
     for (int riga = 1; riga <= 9; ++riga) {
         for (int colonna = 1; colonna <= 6; ++colonna) {
@@ -290,7 +301,7 @@ TEST_F(SceltaSulVideo, WhileTheDialogIsOpenNothingReplacesTheAreaThatIsNamed)
         EXPECT_TRUE(nome.Visible()) << i;
         EXPECT_EQ(nome.Tag(), prima) << i;
         EXPECT_TRUE(nome.imgAcquisita.Visible()) << i;
-        EXPECT_EQ(nome.imgAcquisita.Left(), 37) << i;
+        EXPECT_EQ(nome.imgAcquisita.leftPixel(), 37) << i;
         EXPECT_EQ(shpSelezione.Tag(), u"False"_s) << i;
     }
     // Nothing of this has an effect after the dialog was closed.

@@ -173,8 +173,8 @@ TEST_F(Strada, AnAreaIsStoredAndFoundAfterTheNextStart)
     EXPECT_TRUE(dopo.camera.shpImgRilevata.Visible());
     EXPECT_EQ(dopo.camera.lblNomeImmagine.Caption(), u"Primo"_s);
     // Column and row are one more than where the drag began.
-    EXPECT_EQ(dopo.camera.shpImgRilevata.Left(), 21 * 8);
-    EXPECT_EQ(dopo.camera.shpImgRilevata.Top(), 11 * 8);
+    EXPECT_EQ(dopo.camera.shpImgRilevata.leftPixel(), 21 * 8);
+    EXPECT_EQ(dopo.camera.shpImgRilevata.topPixel(), 11 * 8);
     banco.collega();
 }
 
