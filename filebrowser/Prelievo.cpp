@@ -12,6 +12,8 @@
 
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // As the robot numbers them: docs/protocol.md.
@@ -21,19 +23,6 @@ enum Stato : quint8 { Aperto = 0, Ignorato = 4, Finito = 255 };
 
 // The robot numbers its channels from 1.
 constexpr quint8 ultimoCanale = 9;
-
-QString testo(Prelievo::Attesa attesa)
-{
-    switch (attesa) {
-    case Prelievo::Attesa::Elenco:
-        return u"Elenco"_s;
-    case Prelievo::Attesa::File:
-        return u"File"_s;
-    case Prelievo::Attesa::Niente:
-        break;
-    }
-    return {};
-}
 
 } // namespace
 
@@ -63,7 +52,6 @@ bool Prelievo::comincia(Attesa attesa, const QString &nome)
         return false;
     attendi(attesa, Fase::Apertura);
     m_nome = nome;
-    m_finestra.mostraAttesa(testo(attesa));
     return true;
 }
 
@@ -112,7 +100,7 @@ void Prelievo::termina(std::optional<quint8> canale)
 {
     const bool eraFile = m_attesa == Attesa::File;
     attendi(Attesa::Niente, Fase::Ferma);
-    m_finestra.finisciAttesa();
+    m_finestra.assestaElenchi();
     if (eraFile)
         m_finestra.riabilita();
     m_finestra.ImmagineAttesa(false);

@@ -20,6 +20,8 @@ public:
     Prelievo(ControlloSeriale &COM, BarraDiStato &BarraStato, const QString &cartella,
              frmEsploraFile &finestra);
 
+    // What is awaited from the robot.
+    Attesa attesa() const { return m_attesa; }
     // Begins a request. nome: the name of the file to fetch, without a path. Returns false and does
     // nothing if a request is running.
     [[nodiscard]] bool comincia(Attesa attesa, const QString &nome = {});
@@ -33,7 +35,8 @@ public:
     // Gives up the running request, if there is one, and closes its channel.
     void lascia();
     // For a Tag that is written from outside: from now on attesa is awaited, on any channel.
-    // Nothing is sent, a running request is forgotten, and the next one can begin.
+    // Nothing is sent, a running request is forgotten, and the next one can begin. Does nothing if
+    // attesa is awaited already.
     void imposta(Attesa attesa);
 
     // From AscoltatoreFile.

@@ -5,6 +5,8 @@
 #include "filebrowser/Foto.h"
 #include "filebrowser/PercorsoRobot.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr quint8 voceCartella = 2;
@@ -20,6 +22,29 @@ double misura(double unita)
     return unita;
 }
 
+QString testo(Prelievo::Attesa attesa)
+{
+    switch (attesa) {
+    case Prelievo::Attesa::Elenco:
+        return u"Elenco"_s;
+    case Prelievo::Attesa::File:
+        return u"File"_s;
+    case Prelievo::Attesa::Niente:
+        break;
+    }
+    return {};
+}
+
+// What a text written into the Tag means; any other text means that nothing is awaited.
+Prelievo::Attesa attesaDi(const QString &testo)
+{
+    if (testo == u"Elenco")
+        return Prelievo::Attesa::Elenco;
+    if (testo == u"File")
+        return Prelievo::Attesa::File;
+    return Prelievo::Attesa::Niente;
+}
+
 } // namespace
 
 frmEsploraFile::frmEsploraFile(ControlloSeriale &com, BarraDiStato &barraStato,
@@ -28,6 +53,7 @@ frmEsploraFile::frmEsploraFile(ControlloSeriale &com, BarraDiStato &barraStato,
       prelievo(com, barraStato, cartella, *this),
       BarraStato(barraStato)
 {
+    legaTag();
     disponi();
     Disegno();
     pulHome.Click.collega(this, &frmEsploraFile::pulHome_Click);
@@ -35,6 +61,12 @@ frmEsploraFile::frmEsploraFile(ControlloSeriale &com, BarraDiStato &barraStato,
     lstFile.DblClick.collega(this, &frmEsploraFile::lstFile_DblClick);
     lstCartelle.KeyDown.collega(this, &frmEsploraFile::lstCartelle_KeyDown);
     lstFile.KeyDown.collega(this, &frmEsploraFile::lstFile_KeyDown);
+}
+
+void frmEsploraFile::legaTag()
+{
+    mostraTag([this] { return testo(prelievo.attesa()); },
+              [this](const QString &tag) { prelievo.imposta(attesaDi(tag)); });
 }
 
 void frmEsploraFile::Disegno()
@@ -62,13 +94,6 @@ void frmEsploraFile::Activate()
 void frmEsploraFile::Unload(bool &)
 {
     prelievo.lascia();
-}
-
-void frmEsploraFile::setTag(const QString &tag)
-{
-    using enum Prelievo::Attesa;
-    Finestra::setTag(tag);
-    prelievo.imposta(tag == u"Elenco"_s ? Elenco : tag == u"File"_s ? File : Niente);
 }
 
 void frmEsploraFile::pulHome_Click()
@@ -133,17 +158,16 @@ void frmEsploraFile::lstFile_KeyDown(int &KeyCode, int)
     }
 }
 
-void frmEsploraFile::finisciAttesa()
-{
-    mostraAttesa({});
-    lstCartelle.assesta();
-    lstFile.assesta();
-}
-
 void frmEsploraFile::svuotaElenchi()
 {
     lstCartelle.Clear();
     lstFile.Clear();
+}
+
+void frmEsploraFile::assestaElenchi()
+{
+    lstCartelle.assesta();
+    lstFile.assesta();
 }
 
 void frmEsploraFile::aggiungi(quint8 x, const QString &nome)

@@ -20,9 +20,6 @@ public:
     // folder for the fetched files.
     frmEsploraFile(ControlloSeriale &COM, BarraDiStato &BarraStato, const QString &cartella);
 
-    // A text written from outside sets what is awaited.
-    void setTag(const QString &tag) override;
-
     ListaImmagini lstImgAttesa{Disegni::lstImgAttesa()};
 
     Etichetta Label1{u"Label1"_s, this, u"Cartelle"_s};
@@ -38,10 +35,9 @@ public:
     Prelievo prelievo;
 
     // What follows is called by prelievo to show the course of a request.
-    void mostraAttesa(const QString &tag) { Finestra::setTag(tag); }
-    // Empties the Tag and lays out the rows of both lists.
-    void finisciAttesa();
     void svuotaElenchi();
+    // Lays out the rows of both lists.
+    void assestaElenchi();
     // Adds an entry to its list. x: 2 for a folder, anything else for a file.
     void aggiungi(quint8 x, const QString &nome);
     // Shows the next picture of the wait animation, or hides it.
@@ -63,6 +59,8 @@ protected:
     void Unload(bool &Cancel) override;
 
 private:
+    // Ties the Tag to what prelievo awaits.
+    void legaTag();
     // Sets the look of the window.
     void disponi();
 
