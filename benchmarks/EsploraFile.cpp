@@ -17,6 +17,8 @@
 #include <thread>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Orologio = std::chrono::steady_clock;

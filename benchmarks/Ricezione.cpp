@@ -8,6 +8,8 @@
 #include <benchmark/benchmark.h>
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 enum class Video { Spento, Acceso };

@@ -14,6 +14,8 @@
 #include <chrono>
 #include <poll.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int quante = 1000;

@@ -17,6 +17,8 @@
 #include <sys/resource.h>
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The size of the picture that is searched for.

@@ -1,8 +1,10 @@
 #include "filebrowser/frmEsploraFile.h"
 
+#include "art/Disegni.h"
 #include "base/Codifica.h"
 #include "controls/Tasti.h"
 #include "filebrowser/Foto.h"
+#include "filebrowser/Nomi.h"
 #include "filebrowser/PercorsoRobot.h"
 
 using namespace Qt::StringLiterals;
@@ -50,6 +52,15 @@ Prelievo::Attesa attesaDi(const QString &testo)
 frmEsploraFile::frmEsploraFile(ControlloSeriale &com, BarraDiStato &barraStato,
                                const QString &cartella)
     : Finestra(u"frmEsploraFile"_s, u"Esplora Risorse"_s),
+      lstImgAttesa(Disegni::lstImgAttesa()),
+      Label1(u"Label1"_s, this, u"Cartelle"_s),
+      Label2(u"Label2"_s, this, u"File"_s),
+      lstCartelle(u"lstCartelle"_s, this),
+      lstFile(u"lstFile"_s, this),
+      imgAttesa(u"imgAttesa"_s, this, &lstImgAttesa),
+      pulHome(u"pulHome"_s, this, {}),
+      lblNomeFoto(u"lblNomeFoto"_s, this),
+      imgFoto(u"imgFoto"_s, this),
       prelievo(com, barraStato, cartella, *this),
       BarraStato(barraStato)
 {

@@ -1,14 +1,11 @@
 // The file browser: shows the folders of the robot's storage, fetches files, shows fetched photos.
 #pragma once
 
-#include "art/Disegni.h"
 #include "controls/EtichettaAbbreviata.h"
 #include "controls/Finestra.h"
+#include "controls/Grafica.h"
 #include "filebrowser/ElencoCrescente.h"
-#include "filebrowser/Nomi.h"
 #include "filebrowser/Prelievo.h"
-
-using namespace Qt::StringLiterals;
 
 // Its Tag shows what is awaited from the robot: "Elenco" for a listing, "File", or nothing.
 class frmEsploraFile : public Finestra
@@ -20,17 +17,17 @@ public:
     // folder for the fetched files.
     frmEsploraFile(ControlloSeriale &COM, BarraDiStato &BarraStato, const QString &cartella);
 
-    ListaImmagini lstImgAttesa{Disegni::lstImgAttesa()};
+    ListaImmagini lstImgAttesa;
 
-    Etichetta Label1{u"Label1"_s, this, u"Cartelle"_s};
-    Etichetta Label2{u"Label2"_s, this, u"File"_s};
+    Etichetta Label1;
+    Etichetta Label2;
     // Its Tag is the prefix for the names of the files.
-    ElencoCrescente lstCartelle{u"lstCartelle"_s, this};
-    ElencoCrescente lstFile{u"lstFile"_s, this};
-    Immagine imgAttesa{u"imgAttesa"_s, this, &lstImgAttesa};
-    Pulsante pulHome{u"pulHome"_s, this, {}};
-    EtichettaAbbreviata lblNomeFoto{u"lblNomeFoto"_s, this};
-    Immagine imgFoto{u"imgFoto"_s, this};
+    ElencoCrescente lstCartelle;
+    ElencoCrescente lstFile;
+    Immagine imgAttesa;
+    Pulsante pulHome;
+    EtichettaAbbreviata lblNomeFoto;
+    Immagine imgFoto;
 
     Prelievo prelievo;
 

@@ -1,6 +1,10 @@
 // The look of the window. Places and sizes of controls are in layout units; the layout rule in
 // Resize() changes some of them.
+#include "art/Disegni.h"
+#include "filebrowser/Nomi.h"
 #include "filebrowser/frmEsploraFile.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 

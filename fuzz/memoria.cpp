@@ -10,6 +10,8 @@
 #include <QTemporaryDir>
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QByteArray intatto = "3\r\n";

@@ -4,6 +4,8 @@
 #include <QAccessible>
 #include <gmock/gmock.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QAccessibleInterface &interfaccia(QWidget &controllo)

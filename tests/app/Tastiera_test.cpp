@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <gmock/gmock.h>
 
+using namespace Qt::StringLiterals;
 using testing::IsEmpty;
 
 namespace {

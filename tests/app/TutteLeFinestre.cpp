@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using Visita = std::function<void(Finestra &, const QString &)>;
 
 namespace {

@@ -10,6 +10,8 @@
 #include <QDir>
 #include <QDirIterator>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QByteArray contenuto(qsizetype quanti, int seme)

@@ -5,6 +5,8 @@
 #include <QMouseEvent>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString erroreLettura = u"Errore nella lettura dei file!"_s;

@@ -2,6 +2,8 @@
 #include "tests/filebrowser/BancoEsploraFile.h"
 #include "tests/support/Modali.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct FinestraEsplora : Banco

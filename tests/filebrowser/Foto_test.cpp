@@ -5,6 +5,8 @@
 
 #include <QBuffer>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct LetturaFoto : ::testing::Test

@@ -9,6 +9,8 @@
 #include <QTextDocument>
 #include <QToolTip>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Nomi : Banco

@@ -9,6 +9,8 @@
 #include <QTextDocument>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString erroreLettura = u"Errore nella lettura dei file!"_s;

@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+using namespace Qt::StringLiterals;
 using testing::IsEmpty;
 
 namespace {

@@ -1,6 +1,8 @@
 // Telegrams of the storage that arrive in pieces.
 #include "tests/filebrowser/BancoEsploraFile.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Pezzi : Banco

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString erroreRicerca = u"Errore nella ricerca dell'immagine!"_s;

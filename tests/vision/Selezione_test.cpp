@@ -9,6 +9,8 @@
 #include <QWindow>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString erroreVideo =

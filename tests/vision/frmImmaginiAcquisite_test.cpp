@@ -11,6 +11,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QByteArray treImmagini = "\"Pallone\",2,2,255,65280,16711680,16777215\r"
