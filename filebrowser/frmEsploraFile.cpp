@@ -15,6 +15,26 @@ constexpr quint8 voceCartella = 2;
 // The length of a path is sent as one byte.
 constexpr qsizetype percorsoMassimo = 255;
 
+// The look, in layout units. The smallest width is the one at which the photo leaves room for the
+// names of the files.
+constexpr double larghezzaIniziale = 11400;
+constexpr double altezzaIniziale = 6600;
+constexpr double larghezzaMinima = 9600;
+constexpr double altezzaMinima = 4800;
+constexpr double altezzaCarattere = 180;
+constexpr double bordo = 195;
+constexpr double cimaElenchi = 600;
+constexpr double cimaTitoli = 270;
+constexpr double altezzaTitolo = 300;
+constexpr double latoDisegnoHome = 300;
+
+void titolo(Etichetta &etichetta, double left, double width)
+{
+    etichetta.Move(left, cimaTitoli);
+    etichetta.Size(width, altezzaTitolo);
+    etichetta.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
 // Checks a width or a height that the layout rule has computed. Throws Errore::ProprietaNonValida
 // if the window is too small for it.
 double misura(double unita)
@@ -78,6 +98,64 @@ void frmEsploraFile::legaTag()
 {
     mostraTag([this] { return testo(prelievo.attesa()); },
               [this](const QString &tag) { prelievo.imposta(attesaDi(tag)); });
+}
+
+// Resize() places again what depends on the window's size. Qt's own functions take pixels.
+void frmEsploraFile::disponi()
+{
+    QFont carattere = font();
+    carattere.setPixelSize(Unita::pixel(altezzaCarattere));
+    setFont(carattere);
+
+    lstCartelle.Move(bordo, cimaElenchi);
+    lstCartelle.Size(2550, 5800);
+    lstFile.Move(lstCartelle.Left() + lstCartelle.Width() + 105, cimaElenchi);
+    lstFile.Size(8000, 5800);
+    lstCartelle.setItemDelegate(new RigheDiNomi(Disegni::icona(u"cartella"), &lstCartelle));
+    lstFile.setItemDelegate(new RigheDiNomi(Disegni::icona(u"documento"), &lstFile));
+    titolo(Label1, lstCartelle.Left(), lstCartelle.Width());
+    titolo(Label2, lstFile.Left(), 600);
+    for (ElencoCrescente *lista : {&lstCartelle, &lstFile})
+        lista->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    lstCartelle.setAccessibleName(Label1.Caption());
+    lstFile.setAccessibleName(Label2.Caption());
+
+    pulHome.Move(0, 75);
+    pulHome.Size(480, 450);
+    pulHome.setIcon(Disegni::icona(u"casa"));
+    pulHome.setIconSize(QSize(1, 1) * Unita::pixel(latoDisegnoHome));
+    pulHome.setToolTip(u"Torna all'inizio"_s);
+    pulHome.setAccessibleName(pulHome.toolTip());
+    imgAttesa.Move(0, 75);
+    imgAttesa.Size(450, 450);
+
+    imgFoto.Move(0, cimaElenchi);
+    imgFoto.Size(4800, 3600);
+    imgFoto.setBorderStyle(1);
+    titolo(lblNomeFoto, 0, imgFoto.Width());
+
+    setTabOrder(&lstCartelle, &lstFile);
+    setTabOrder(&lstFile, &pulHome);
+    lstCartelle.setFocus();
+    setMinimumSize(Unita::pixel(larghezzaMinima), Unita::pixel(altezzaMinima));
+    resize(Unita::pixel(larghezzaIniziale), Unita::pixel(altezzaIniziale));
+}
+
+// The layout rule, in layout units. A step that fails leaves its control as it was.
+void frmEsploraFile::Resize()
+{
+    const double larghezza = Unita::unita(width());
+    const double altezza = Unita::unita(height());
+    passaErrori([&] { imgFoto.setLeft(larghezza - imgFoto.Width() - 200); });
+    passaErrori([&] { lblNomeFoto.setLeft(imgFoto.Left()); });
+    passaErrori([&] { lstCartelle.setHeight(misura(altezza - 800)); });
+    passaErrori([&] { lstFile.setHeight(misura(altezza - 800)); });
+    passaErrori([&] {
+        const double margine = imgFoto.Visible() ? imgFoto.Width() + 400 : 300;
+        lstFile.setWidth(misura(larghezza - (lstCartelle.Left() + lstCartelle.Width()) - margine));
+    });
+    passaErrori([&] { pulHome.setLeft(lstFile.Left() + lstFile.Width() - pulHome.Width()); });
+    passaErrori([&] { imgAttesa.setLeft(pulHome.Left() - pulHome.Width()); });
 }
 
 void frmEsploraFile::Disegno()
@@ -213,20 +291,4 @@ void frmEsploraFile::riabilita()
     // Disabling the window has taken the focus from the list.
     if (isVisible())
         lstFile.setFocus(Qt::OtherFocusReason);
-}
-
-void frmEsploraFile::Resize()
-{
-    const double larghezza = Unita::unita(width());
-    const double altezza = Unita::unita(height());
-    passaErrori([&] { imgFoto.setLeft(larghezza - imgFoto.Width() - 200); });
-    passaErrori([&] { lblNomeFoto.setLeft(imgFoto.Left()); });
-    passaErrori([&] { lstCartelle.setHeight(misura(altezza - 800)); });
-    passaErrori([&] { lstFile.setHeight(misura(altezza - 800)); });
-    passaErrori([&] {
-        const double margine = imgFoto.Visible() ? imgFoto.Width() + 400 : 300;
-        lstFile.setWidth(misura(larghezza - (lstCartelle.Left() + lstCartelle.Width()) - margine));
-    });
-    passaErrori([&] { pulHome.setLeft(lstFile.Left() + lstFile.Width() - pulHome.Width()); });
-    passaErrori([&] { imgAttesa.setLeft(pulHome.Left() - pulHome.Width()); });
 }

@@ -432,6 +432,18 @@ TEST_F(Conversazione, TheTagCanBeWrittenFromOutside)
     EXPECT_EQ(scritti(), b({40, 16, 0}));
 }
 
+TEST_F(Conversazione, AnyOtherTextInTheTagMeansThatNothingIsAwaited)
+{
+    esplora.Mostra();
+    robotFinito(stato(1, 0));
+    scritti();
+    ASSERT_TRUE(esplora.setProperty("Tag", u"elenco"_s));
+    EXPECT_EQ(esplora.property("Tag"), QString());
+    robotFinito(voce(1, 1, "a") + stato(1, 255));
+    EXPECT_EQ(esplora.lstFile.ListCount(), 0);
+    EXPECT_EQ(scritti(), QByteArray());
+}
+
 TEST_F(Conversazione, AFetchWhoseBytesAreDiscardedEndsWithItsError)
 {
     apri({"foto"}, {"a.txt"});
