@@ -1,7 +1,8 @@
-// What the mouse costs over the head and over a colour list, and the arrows' animation.
-#include "serial/PortaAsio.h"
+// The time for a mouse move over the head and over a list of colours, and for a step of the arrows'
+// animation.
 #include "benchmarks/Terminale.h"
 #include "console/frmPrincipale.h"
+#include "serial/PortaAsio.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -19,7 +20,7 @@ struct Banco
         QDir::setCurrent(terminale.cartella());
         console.Mostra();
     }
-    // One move and all that follows from it, the painting included.
+    // One move and everything that it causes, including the painting.
     static void muovi(QWidget &su, QPoint dove)
     {
         QMouseEvent mossa(QEvent::MouseMove, dove, su.mapToGlobal(dove), Qt::NoButton, Qt::NoButton,
@@ -51,7 +52,7 @@ void MossaSullaLista(benchmark::State &stato)
         Banco::muovi(lista, {20, (i++ * 5) % lista.height()});
 }
 
-// One tick of the ten that a second has.
+// One tick of the timer, which ticks ten times a second.
 void PassoDelleFrecce(benchmark::State &stato)
 {
     Banco banco;

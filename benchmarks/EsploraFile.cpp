@@ -1,10 +1,11 @@
-// The file browser: how long after its last byte a file is on the disk, how the program answers
-// during a fetch at the line's speed, and whether a long listing slows down.
+// The file browser: the time from the last byte of a file until it is on the disk, the response of
+// the program during a fetch at the speed of the line, and the time for the parts of a long
+// listing.
 #include "base/Pompa.h"
-#include "serial/PortaAsio.h"
 #include "benchmarks/Terminale.h"
-#include "filebrowser/frmEsploraFile.h"
 #include "console/frmPrincipale.h"
+#include "filebrowser/frmEsploraFile.h"
+#include "serial/PortaAsio.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -16,12 +17,14 @@
 #include <thread>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Orologio = std::chrono::steady_clock;
 using Millisecondi = std::chrono::duration<double, std::milli>;
 
-// A channel that was opened.
+// The telegram that reports channel 1 as open.
 const QByteArray aperto("\x2a\x01\0", 3);
 const QByteArray temperatura = QByteArrayLiteral("\x1f\x15");
 
@@ -38,7 +41,7 @@ struct Banco
         console.Mostra();
         terminale.scrivi(temperatura + temperatura);
         console.Collega();
-        // No polls of the console's own: what it writes is what the file browser asks for.
+        // No polls of the console: only the file browser writes.
         console.tmrSensori.setEnabled(false);
         console.tmrControllaConn.setEnabled(false);
         esplora.Mostra();
@@ -49,7 +52,7 @@ struct Banco
         esplora.lstFile.setListIndex(0);
         scarta();
     }
-    // What the console wrote must not fill the line.
+    // Discards what the console wrote, so that it does not fill the line's buffer.
     void scarta() const { ::tcflush(terminale.capo(), TCIFLUSH); }
 };
 
@@ -60,7 +63,8 @@ QByteArray blocco(qsizetype quanti)
     byte += static_cast<char>(quanti >> 8);
     for (qsizetype i = 0; i < quanti; ++i)
         byte += static_cast<char>(i * 31);
-    // The spare byte, and the telegram whose arrival shows that the block has ended.
+    // The unused byte at the end, and one more telegram: a block is processed when a byte after it
+    // has arrived.
     return byte + '\0' + temperatura;
 }
 
@@ -101,7 +105,7 @@ void allaVelocitaDellaLinea(Banco &banco)
         auto quando = Orologio::now();
         QByteArrayView resto = byte;
         while (!resto.isEmpty()) {
-            // 9600 baud.
+            // At 9600 baud a byte takes about 1 ms: 9 bytes for each step of 10 ms.
             const auto ora = std::min<qsizetype>(resto.size(), 96 / 10);
             banco.terminale.scrivi(resto.first(ora));
             resto = resto.sliced(ora);
@@ -159,7 +163,7 @@ void elencoLungo(Banco &banco)
             richieste.append(byte, std::max<qsizetype>(n, 0));
             while (richieste.size() >= 2) {
                 const char comando = richieste.at(0);
-                // Opening, with its empty path, has three bytes; closing and reading on have two.
+                // The opening with its empty path has three bytes; closing and reading have two.
                 if (comando == apri && richieste.size() < 3)
                     break;
                 richieste.remove(0, comando == apri ? 3 : 2);

@@ -1,12 +1,12 @@
-// Move lists: the longest one loaded and shown, scrolled, its lines read; the time that a run of
-// short pauses takes.
+// Move lists: loading and showing the longest one, scrolling it, recognising its lines, and running
+// short pauses.
 #include "base/Archivio.h"
-#include "serial/ControlloSeriale.h"
+#include "benchmarks/Terminale.h"
 #include "movelists/FileMosse.h"
 #include "movelists/Mossa.h"
-#include "serial/PortaAsio.h"
-#include "benchmarks/Terminale.h"
 #include "movelists/frmEditor.h"
+#include "serial/ControlloSeriale.h"
+#include "serial/PortaAsio.h"
 
 #include <QApplication>
 #include <QScrollBar>

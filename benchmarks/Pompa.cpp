@@ -1,5 +1,5 @@
-// How long the message pump's idle rounds take, and how much of a core they use: a wait of 100000
-// rounds is to last 3 to 6 seconds and to leave three quarters of a core alone.
+// How long idle rounds of the message pump take, and how much processor time they use: 100000
+// rounds should take 3 to 6 seconds and use less than a quarter of one core.
 #include "base/Pompa.h"
 #include "controls/Barre.h"
 #include "controls/Temporizzatore.h"
@@ -15,12 +15,14 @@ namespace {
 
 constexpr int giri = 100000;
 
+// The processor time of this process in seconds.
 double processore()
 {
     return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
 
-// The timers of a session besides: every so many milliseconds, as many as there are.
+// Measures 100000 rounds. intervalli: the timers that run meanwhile, in milliseconds. conBarra:
+// each round also sets a progress bar.
 void attesa(benchmark::State &stato, const std::vector<int> &intervalli, bool conBarra)
 {
     std::vector<std::unique_ptr<Temporizzatore>> timer;

@@ -1,19 +1,21 @@
-// How fast the receive engine is: bytes from the pseudo-terminal to the console's controls, and the
-// time a telegram takes with little and with much waiting behind it.
+// The speed of the receive engine: bytes from the pseudo-terminal to the console's controls, and
+// the time for one telegram with few and with many bytes waiting after it.
 #include "base/Pompa.h"
-#include "serial/PortaAsio.h"
 #include "benchmarks/Terminale.h"
 #include "console/frmPrincipale.h"
+#include "serial/PortaAsio.h"
 
 #include <benchmark/benchmark.h>
 #include <thread>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 enum class Video { Spento, Acceso };
 
-// Temperature, batteries and sensors, with a running camera's rows between them or without; values
-// change from telegram to telegram, so that every control is set anew.
+// Temperature, batteries and sensors, with or without rows of a running camera between them. The
+// values change from telegram to telegram, so that every control is set again.
 QByteArray telegrammi(qsizetype almeno, Video video)
 {
     QByteArray misti;
@@ -61,7 +63,7 @@ void linea(benchmark::State &stato, Video video)
         while (banco.console.lblTemperatura.Caption() != u"49°"_s || !banco.fermo())
             pompa();
         robot.join();
-        // What the console sent meanwhile is of no interest here, but must not fill the line.
+        // Discards what the console sent meanwhile, so that it does not fill the line's buffer.
         ::tcflush(banco.terminale.capo(), TCIFLUSH);
     }
     stato.SetBytesProcessed(stato.iterations() * byte.size());
@@ -72,13 +74,13 @@ void Linea(benchmark::State &stato)
     linea(stato, Video::Acceso);
 }
 
-// Telegrams of two to four bytes only: what the parser costs, and not what moving rows costs.
+// Only telegrams of two to four bytes: the time for parsing, without that for moving video rows.
 void LineaSoloSensori(benchmark::State &stato)
 {
     linea(stato, Video::Spento);
 }
 
-// One temperature telegram cut from the front of an accumulator that holds much more.
+// Cuts one telegram from the front of an accumulator that holds many more.
 void UnTelegramma(benchmark::State &stato)
 {
     Accumulatore accumulatore;

@@ -1,9 +1,9 @@
-// How long it takes from a key press to the first byte of its command at the far end of the
-// pseudo-terminal, with a robot that goes on sending telemetry.
+// The time from a key press to the first byte of its command at the other end of the
+// pseudo-terminal, while the robot sends telemetry.
 #include "base/Pompa.h"
-#include "serial/PortaAsio.h"
 #include "benchmarks/Terminale.h"
 #include "console/frmPrincipale.h"
+#include "serial/PortaAsio.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -30,7 +30,7 @@ int main(int argc, char **argv)
     terminale.scrivi("\x1f\x15\x1f\x15");
     console.Collega();
 
-    // The far end: notes when the first byte of an actuator command arrives, and answers it.
+    // The robot: notes when the first byte of an actuator command (19) arrives, and answers it.
     std::atomic<bool> finito = false;
     std::atomic<Orologio::rep> arrivo = 0;
     std::thread robot([&] {
@@ -57,7 +57,7 @@ int main(int argc, char **argv)
     std::uniform_int_distribution<int> pausa(1, 10);
     std::vector<double> tempi;
     for (int i = 0; i < prove; ++i) {
-        // Between two presses the program idles, as it does under a user's fingers.
+        // Between two presses the program is idle for a while, as with a user.
         const auto fine = Orologio::now() + std::chrono::milliseconds(pausa(caso));
         while (Orologio::now() < fine)
             QApplication::processEvents(QEventLoop::AllEvents, 1);

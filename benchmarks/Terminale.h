@@ -1,4 +1,4 @@
-// A pseudo-terminal whose far end a measuring program holds in its hand.
+// A pseudo-terminal: the program has one end, the benchmark the other.
 #pragma once
 
 #include <QByteArray>
@@ -22,7 +22,8 @@ public:
         ::tcgetattr(m_capo, &grezzo);
         ::cfmakeraw(&grezzo);
         ::tcsetattr(m_capo, TCSANOW, &grezzo);
-        // The program's folder, with the port and the settings in it: no attempt at the start.
+        // The program's folder with the link to the port and the settings. The program does not
+        // connect at its start.
         QFile::link(QString::fromLocal8Bit(::ptsname(m_capo)), percorso("COM1"));
         scriviFile("Porta COM", "1\r\n");
         scriviFile("prog.dat", "0;");

@@ -1,18 +1,20 @@
-// The runner with a thousand lists: a telemetry text against all their conditions, the start with
-// its check for conflicts, and the time from the last byte of a temperature on the wire to the
-// first byte of the list that it starts.
+// A thousand conditional lists: a telemetry text compared with all their conditions, the start with
+// its check for conflicts, and the time from the last byte of a temperature telegram to the first
+// byte of the list that it starts.
 #include "base/Pompa.h"
-#include "serial/PortaAsio.h"
 #include "benchmarks/Terminale.h"
 #include "conditional/Orologio.h"
-#include "movelists/frmEditor.h"
-#include "console/frmPrincipale.h"
 #include "conditional/frmProcessor.h"
+#include "console/frmPrincipale.h"
+#include "movelists/frmEditor.h"
+#include "serial/PortaAsio.h"
 
 #include <QApplication>
 #include <benchmark/benchmark.h>
 #include <chrono>
 #include <poll.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -38,7 +40,7 @@ public:
     QTime adesso() const override { return {12, 0}; }
 };
 
-// Connected, with a thousand lists, all selected; no two conditions clash.
+// Connected, with a thousand lists, all selected. No two conditions are in conflict.
 struct Banco
 {
     Terminale terminale;
@@ -60,7 +62,7 @@ struct Banco
         principale.Mostra();
         terminale.scrivi("\x1f\x15\x1f\x15");
         principale.Collega();
-        // Only what a list sends is to be on the wire.
+        // Only the lists send.
         principale.tmrSensori.setEnabled(false);
         principale.tmrControllaConn.setEnabled(false);
         processor.Mostra();
@@ -70,7 +72,7 @@ struct Banco
         }
         QApplication::processEvents();
     }
-    // A time of its own and sensors of its own.
+    // Each condition has its own time and its own sensors.
     static QString condizione(int i)
     {
         const QChar zero = u'0';
@@ -84,7 +86,7 @@ struct Banco
 void TestoControMilleListe(benchmark::State &stato)
 {
     Banco banco;
-    // All five fields set, none met.
+    // All five fields are set, and none is fulfilled.
     for (int i = 0; i < quante; ++i)
         banco.processor.lstCondizioni.setList(i, u"07:00:00,000,40,4,4"_s);
     const QString testi[] = {u"Ultrasuoni:111"_s, u"Temperatura:25"_s, u"Batterie:33"_s};
@@ -113,7 +115,7 @@ void DallaTemperaturaAllaLista(benchmark::State &stato)
     banco.processor.pulAvvia.click();
     if (!banco.processor.avviato())
         stato.SkipWithError("not started");
-    // No condition looks at the clock here.
+    // No condition depends on the clock here.
     banco.editor.tmrAttivaAut.setEnabled(false);
     const auto giaLa = [&] {
         pollfd capo{banco.terminale.capo(), POLLIN, 0};
@@ -126,7 +128,7 @@ void DallaTemperaturaAllaLista(benchmark::State &stato)
         while (!giaLa())
             pompa();
         stato.SetIterationTime(std::chrono::duration<double>(Tempo::now() - scritto).count());
-        // To the list's end, without its wait.
+        // Runs the list to its end without its waiting time.
         banco.editor.tmrEseguiMosse.setInterval(1);
         while (banco.editor.tmrEseguiMosse.Enabled())
             pompa();

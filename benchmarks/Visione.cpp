@@ -1,11 +1,11 @@
-// The video window: decoding, searching, painting, and frames as fast as a pseudo-terminal brings
-// them.
+// The video window: decoding, searching, painting, and frames at the full speed of a
+// pseudo-terminal.
 #include "base/Pompa.h"
+#include "benchmarks/Terminale.h"
+#include "console/frmPrincipale.h"
 #include "serial/PortaAsio.h"
 #include "vision/Ricerca.h"
-#include "benchmarks/Terminale.h"
 #include "vision/frmCamera.h"
-#include "console/frmPrincipale.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -17,8 +17,11 @@
 #include <sys/resource.h>
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
+// The size of the picture that is searched for.
 constexpr int W = 20;
 constexpr int H = 15;
 
@@ -40,8 +43,8 @@ Fotogramma fotogrammaACaso(quint32 seme)
     return fotogramma;
 }
 
-// Rows that belong together, as a scene has them: light from above, a few surfaces. The search has
-// more near misses here than in noise.
+// A frame that resembles a real scene: light from above, a few surfaces. The search finds more
+// partial matches here than in noise.
 Fotogramma scena()
 {
     Fotogramma fotogramma;
@@ -77,7 +80,8 @@ void Decodifica(benchmark::State &stato)
     }
 }
 
-// The picture is not there: all places are looked at. 0 is noise, 1 a scene.
+// The picture is not in the frame, so all places are compared. Argument: 0 for noise, 1 for a
+// scene.
 void CercaUnImmagine(benchmark::State &stato)
 {
     const Fotogramma fotogramma = stato.range(0) == 0 ? fotogrammaACaso(1) : scena();
@@ -89,7 +93,7 @@ void CercaUnImmagine(benchmark::State &stato)
     }
 }
 
-// The same places, each with the plain sum of absolute differences: for the ratio.
+// The same places with the plain sum of absolute differences, for comparison.
 void SommaDifferenze(benchmark::State &stato)
 {
     const Fotogramma fotogramma = stato.range(0) == 0 ? fotogrammaACaso(1) : scena();
@@ -129,7 +133,7 @@ struct Banco
     std::unique_ptr<frmNomeImmagine> nome;
     std::unique_ptr<frmCamera> camera;
     std::atomic<bool> finito = false;
-    // While true nothing is answered: an answer must not come in the middle of a row.
+    // While true the robot does not answer: an answer in the middle of a row would spoil the row.
     std::atomic<bool> muto = false;
     std::thread robot;
 
@@ -154,7 +158,7 @@ struct Banco
             *nome);
         console->motore.ascoltaVideo(camera.get());
         console->Mostra();
-        // Answers whatever comes.
+        // Answers whatever is written.
         robot = std::thread([this] { rispondi(); });
         console->Collega();
         for (int i = 0; i < console->lstImgCamera.ListCount(); ++i)
@@ -183,7 +187,7 @@ struct Banco
     }
 };
 
-// From the last row of a frame until it is on the screen.
+// The time from the last row of a frame until the frame is on the screen.
 void UltimaRiga(benchmark::State &stato)
 {
     Banco banco(static_cast<int>(stato.range(0)));
@@ -205,8 +209,8 @@ void UltimaRiga(benchmark::State &stato)
     }
 }
 
-// Frames through the pseudo-terminal as fast as it takes them; a timer that ticks every 10 ms tells
-// how long a user would wait.
+// Frames at the full speed of the pseudo-terminal. A timer of 10 ms measures how long a user would
+// wait.
 void PienaVelocita(benchmark::State &stato)
 {
     Banco banco(1);
@@ -246,7 +250,7 @@ void PienaVelocita(benchmark::State &stato)
     stato.counters["longest wait ms"] = attesaMassima;
 }
 
-// Frames at the speed of the line: how much of a core they take.
+// Frames at the speed of the line: the processor time that they use.
 void VelocitaDellaLinea(benchmark::State &stato)
 {
     Banco banco(1);

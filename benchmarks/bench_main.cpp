@@ -1,4 +1,4 @@
-// The main program of the measurements that Google Benchmark runs.
+// The main function of the programs that use Google Benchmark.
 #include <QApplication>
 #include <benchmark/benchmark.h>
 

@@ -1,12 +1,12 @@
-// A list that a long listing fills row by row.
+// A list box for long listings that arrive row by row.
 #pragma once
 
 #include "controls/Elenco.h"
 
 #include <QBasicTimer>
 
-// New rows are in the list at once, but the view hears of them a few times a second: it lays out
-// all rows whenever one comes, and a list would grow the slower the longer it is.
+// The view lays out all rows whenever one is added, so a long list would become slower and slower.
+// New rows are therefore in the list at once, but the view gets them every 100 ms.
 class ElencoCrescente : public Elenco
 {
     Q_OBJECT
@@ -14,19 +14,19 @@ class ElencoCrescente : public Elenco
 public:
     using Elenco::Elenco;
 
-    // Tells the view of all rows now.
+    // Gives all rows to the view now.
     void assesta();
 
 protected:
     void rowsInserted(const QModelIndex &sopra, int prima, int ultima) override;
     void rowsAboutToBeRemoved(const QModelIndex &sopra, int prima, int ultima) override;
     void reset() override;
-    // Where a key leads is told by where the rows are.
+    // The target of a key depends on the positions of the rows.
     QModelIndex moveCursor(CursorAction azione, Qt::KeyboardModifiers tasti) override;
     void timerEvent(QTimerEvent *evento) override;
 
 private:
-    // The rows from this one to the end are not laid out yet; -1 where all are.
+    // The first of the rows that the view does not have yet, all at the end; -1 if it has all.
     int m_prima = -1;
     QBasicTimer m_pausa;
 };

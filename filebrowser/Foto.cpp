@@ -8,10 +8,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A file of one block is small, but a few bytes of it can claim a picture of gigabytes.
+// The longest side of a photo, in pixels. A small file can claim a picture of gigabytes in its
+// header.
 constexpr int latoMassimo = 4096;
 
-// Pixels to a logical one, at most: the same photo is right on each screen that it is moved to.
+// The most screen pixels for each logical pixel: the photo is then sharp on every screen to which
+// the window is moved.
 constexpr int finezza = 4;
 
 } // namespace
@@ -23,7 +25,8 @@ bool nomeDiFoto(const QString &nome)
 
 QPixmap leggiFoto(const QString &percorso)
 {
-    // The one format that a photo has: whatever else the robot calls so is not even looked at.
+    // Photos are JPEG files. No other decoder reads what the robot sends, whatever the file
+    // contains.
     QImageReader lettore(percorso, "jpeg");
     lettore.setAutoDetectImageFormat(false);
     lettore.setAutoTransform(true);

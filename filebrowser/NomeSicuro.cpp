@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 static bool restaNellaCartella(const QString &nome)
 {
     static constexpr QStringView vietati = u"/\\:*?\"<>|";
-    // Windows drops blanks and dots at the end: another name would be written.
+    // Windows removes blanks and dots at the end, so the file would get another name.
     if (nome.isEmpty() || nome.endsWith(u' ') || nome.endsWith(u'.'))
         return false;
     return std::ranges::none_of(
@@ -20,7 +20,8 @@ static bool restaNellaCartella(const QString &nome)
 
 static bool riservato(const QString &nome)
 {
-    // Devices on Windows, also with an ending; elsewhere a COM entry is the link to the port.
+    // Names of devices on Windows, also with an extension. On other systems COMn is the link to a
+    // port.
     static const QRegularExpression dispositivo(
         u"^((con|prn|aux|nul|conin\\$|conout\\$|(com|lpt)[0-9¹²³])( *\\..*)?|com[0-9]+)$"_s,
         QRegularExpression::CaseInsensitiveOption);
@@ -29,8 +30,9 @@ static bool riservato(const QString &nome)
 
 static bool delProgramma(const QString &nome)
 {
-    // What would be part of the program at its next start: a library beside it is taken before the
-    // system's, and Qt reads where its own lie.
+    // Files that would become a part of the program at its next start: a library in the program's
+    // folder is loaded before the system's, and Qt reads in its configuration file where its parts
+    // are.
     static const QRegularExpression libreria(u"\\.(dll|so(\\.[0-9]+)*)$"_s,
                                              QRegularExpression::CaseInsensitiveOption);
     if (libreria.match(nome).hasMatch())

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Logical pixels.
+// In logical pixels.
 constexpr int altezzaRiga = 22;
 constexpr int latoDisegno = 16;
 

@@ -1,14 +1,15 @@
-// How the names that the robot gives are shown: on one line, cut where their place ends, and in
-// full as a tool tip.
+// Shows the names that the robot sends: on one line, shortened if there is no room, and in full as
+// a tool tip.
 #pragma once
 
 #include <QIcon>
 #include <QStyledItemDelegate>
 
-// A tool tip of that text to the letter, whatever marks are in it; it may take several lines.
+// The tool tip that shows the text exactly as it is, also if it contains markup. A long text takes
+// several lines. Empty for an empty text.
 QString suggerimento(const QString &testo);
 
-// Rows of a list with a drawing before the name. The list is never wider than its place.
+// Rows of a list with a drawing before the name. They are never wider than the list.
 class RigheDiNomi : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -16,7 +17,7 @@ class RigheDiNomi : public QStyledItemDelegate
 public:
     RigheDiNomi(const QIcon &disegno, QObject *lista);
 
-    // Characters that cannot be seen, or would break the line, as one that stands for them.
+    // Control characters, which cannot be seen or would break the line, are replaced by U+FFFD.
     QString displayText(const QVariant &valore, const QLocale &lingua) const override;
     QSize sizeHint(const QStyleOptionViewItem &opzione, const QModelIndex &riga) const override;
     bool helpEvent(QHelpEvent *evento, QAbstractItemView *lista,

@@ -1,12 +1,12 @@
-// The names of the robot's folders as paths that it understands.
+// Turns the names of the robot's folders into paths for the robot.
 #pragma once
 
 #include <QString>
 
-// The path that opens a folder shown under that name: "disk", "mmc" and "usb" are words for the
-// places of the top level, any other name is its own path.
+// The path that opens the folder shown under that name. On the top level "disk" is the empty path,
+// "mmc" is "../mmc" and "usb" is "../usb"; any other name is its own path.
 QString percorsoCartella(const QString &nome);
 
-// What stands before the names of the files in that folder: the name with "/" behind it, nothing
-// for "disk" and ".".
+// The prefix for the names of the files in that folder: the name followed by "/", empty for "disk"
+// and ".".
 QString prefissoCartella(const QString &nome);

@@ -2,36 +2,27 @@
 
 #include "base/Cartella.h"
 #include "base/Codifica.h"
-#include "link/ComandiTessaro.h"
-#include "filebrowser/Foto.h"
-#include "shell/Gest_File.h"
-#include "filebrowser/NomeSicuro.h"
 #include "base/Pompa.h"
-#include "shell/Se_Casi.h"
+#include "filebrowser/Foto.h"
+#include "filebrowser/NomeSicuro.h"
 #include "filebrowser/frmEsploraFile.h"
+#include "link/ComandiTessaro.h"
+#include "shell/Gest_File.h"
+#include "shell/Se_Casi.h"
 
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
+// As the robot numbers them: docs/protocol.md.
 enum Modo : quint8 { ModoFile = 1, ModoCartella = 16 };
 
 enum Stato : quint8 { Aperto = 0, Ignorato = 4, Finito = 255 };
 
+// The robot numbers its channels from 1.
 constexpr quint8 ultimoCanale = 9;
-
-QString testo(Prelievo::Attesa attesa)
-{
-    switch (attesa) {
-    case Prelievo::Attesa::Elenco:
-        return u"Elenco"_s;
-    case Prelievo::Attesa::File:
-        return u"File"_s;
-    case Prelievo::Attesa::Niente:
-        break;
-    }
-    return {};
-}
 
 } // namespace
 
@@ -61,7 +52,6 @@ bool Prelievo::comincia(Attesa attesa, const QString &nome)
         return false;
     attendi(attesa, Fase::Apertura);
     m_nome = nome;
-    m_finestra.mostraAttesa(testo(attesa));
     return true;
 }
 
@@ -71,7 +61,7 @@ bool Prelievo::apri(const QByteArray &percorso)
     ComandiTessaro::ApriPercorso(COM, m_attesa == Attesa::File ? ModoFile : ModoCartella, percorso);
     if (mio != m_numero)
         return false;
-    // Nothing has gone out, so nothing will come.
+    // Nothing was sent, so there will be no answer.
     if (!COM.PortOpen())
         m_fase = Fase::Ferma;
     return true;
@@ -98,8 +88,8 @@ void Prelievo::imposta(Attesa attesa)
 
 void Prelievo::chiudi(std::optional<quint8> canale)
 {
-    // The robot takes commands in order: a channel whose number has not come yet is open when
-    // these arrive.
+    // The robot executes commands in order: if the number of the channel is not known yet, the
+    // channel is open when these commands arrive.
     const quint8 prima = canale.value_or(1);
     const quint8 ultimo = canale.value_or(ultimoCanale);
     for (int k = prima; k <= ultimo && COM.PortOpen(); ++k)
@@ -110,7 +100,7 @@ void Prelievo::termina(std::optional<quint8> canale)
 {
     const bool eraFile = m_attesa == Attesa::File;
     attendi(Attesa::Niente, Fase::Ferma);
-    m_finestra.finisciAttesa();
+    m_finestra.assestaElenchi();
     if (eraFile)
         m_finestra.riabilita();
     m_finestra.ImmagineAttesa(false);
@@ -149,11 +139,11 @@ void Prelievo::aperto(quint8 k)
         return;
     if (m_canale) {
         if (!m_rispostaDovuta) {
-            // Nobody will read it.
+            // Nothing will be read from this channel.
             chiudi(k);
             return;
         }
-        // The one before was that of the request that was given up.
+        // The earlier channel belonged to the request that was given up.
         chiudi(m_canale);
         if (m_attesa == Attesa::Elenco)
             m_finestra.svuotaElenchi();
@@ -212,7 +202,8 @@ void Prelievo::fallito()
 
 void Prelievo::byteGettati()
 {
-    // The answer may have been among them: a listing would lack an entry, a fetch never end.
+    // The answer may have been among these bytes: a listing would lack an entry, a fetch would
+    // never end.
     if (m_fase != Fase::Apertura && m_fase != Fase::Lettura)
         return;
     segnalaErrore();
@@ -235,8 +226,8 @@ void Prelievo::blocco(quint8 k, const QByteArray &contenuto)
     m_fase = Fase::Salvataggio;
     m_canale = k;
     m_rispostaDovuta = false;
-    // What would be written elsewhere, or over a file of the program's own, is refused before
-    // anything is written; a file that cannot be written is told the same way.
+    // A name that leads outside the folder or to one of the program's own files is refused before
+    // anything is written. A file that cannot be written gives the same error.
     const bool scritto = nomeSicuro(nome) && !QFileInfo(percorso).isSymbolicLink() &&
                          passaErrori([&] { ScriviFile(percorso, contenuto); });
     if (!scritto) {
@@ -263,7 +254,7 @@ bool Prelievo::mostraFoto(const QString &percorso)
             throw;
         pompa();
         BarraStato.setPanels(3, u"Errore nella rappresentazione dell'immagine!"_s);
-        // The user may have closed the window, and opened it anew.
+        // The user may have closed the window, and opened it again.
         if (mio != m_numero)
             return false;
         m_finestra.togliFoto();

@@ -1,73 +1,70 @@
-// Walks the folders of the robot's storage, fetches a file, shows a fetched photo.
+// The file browser: shows the folders of the robot's storage, fetches files, shows fetched photos.
 #pragma once
 
-#include "art/Disegni.h"
-#include "filebrowser/ElencoCrescente.h"
 #include "controls/EtichettaAbbreviata.h"
 #include "controls/Finestra.h"
-#include "filebrowser/Nomi.h"
+#include "controls/Grafica.h"
+#include "filebrowser/ElencoCrescente.h"
 #include "filebrowser/Prelievo.h"
 
-using namespace Qt::StringLiterals;
-
-// Tag tells what the robot's answers are for: "Elenco", "File", or nothing.
+// Its Tag shows what is awaited from the robot: "Elenco" for a listing, "File", or nothing.
 class frmEsploraFile : public Finestra
 {
     Q_OBJECT
 
 public:
-    // The line to the robot, the status bar whose panel 3 tells of a fetch, and the folder where
-    // fetched files go.
+    // COM: the line to the robot. BarraStato: its panel 3 shows how a fetch goes. cartella: the
+    // folder for the fetched files.
     frmEsploraFile(ControlloSeriale &COM, BarraDiStato &BarraStato, const QString &cartella);
 
-    // A text written from outside says what is awaited.
-    void setTag(const QString &tag) override;
+    ListaImmagini lstImgAttesa;
 
-    ListaImmagini lstImgAttesa{Disegni::lstImgAttesa()};
-
-    Etichetta Label1{u"Label1"_s, this, u"Cartelle"_s};
-    Etichetta Label2{u"Label2"_s, this, u"File"_s};
-    // lstCartelle.Tag is what stands before the names of the files.
-    ElencoCrescente lstCartelle{u"lstCartelle"_s, this};
-    ElencoCrescente lstFile{u"lstFile"_s, this};
-    Immagine imgAttesa{u"imgAttesa"_s, this, &lstImgAttesa};
-    Pulsante pulHome{u"pulHome"_s, this, {}};
-    EtichettaAbbreviata lblNomeFoto{u"lblNomeFoto"_s, this};
-    Immagine imgFoto{u"imgFoto"_s, this};
+    Etichetta Label1;
+    Etichetta Label2;
+    // Its Tag is the prefix for the names of the files.
+    ElencoCrescente lstCartelle;
+    ElencoCrescente lstFile;
+    Immagine imgAttesa;
+    Pulsante pulHome;
+    EtichettaAbbreviata lblNomeFoto;
+    Immagine imgFoto;
 
     Prelievo prelievo;
 
-    // What the conversation shows.
-    void mostraAttesa(const QString &tag) { Finestra::setTag(tag); }
-    void finisciAttesa();
+    // What follows is called by prelievo to show the course of a request.
     void svuotaElenchi();
-    // x: 2 for a folder, anything else for a file.
+    // Lays out the rows of both lists.
+    void assestaElenchi();
+    // Adds an entry to its list. x: 2 for a folder, anything else for a file.
     void aggiungi(quint8 x, const QString &nome);
-    // Steps the wait animation, or hides it.
+    // Shows the next picture of the wait animation, or hides it.
     void ImmagineAttesa(bool attiva);
-    // Errore::ImmagineNonValida where the file is no photo.
+    // Shows a photo. Throws what leggiFoto throws.
     void caricaFoto(const QString &percorso);
     void togliFoto() { imgFoto.setPicture(0); }
+    // Shows the name of the photo, and the whole name in its tool tip.
     void intitolaFoto(const QString &nome);
-    // The fetch is over: the window may be used again.
+    // Enables the window again after a fetch.
     void riabilita();
 
 protected:
     void Disegno() override;
-    // A telegram that came while the window was closed has left nothing in it.
+    // Discards what telegrams have changed while the window was closed.
     void Load() override { Disegno(); }
     void Activate() override;
     void Resize() override;
     void Unload(bool &Cancel) override;
 
 private:
-    // How the window looks.
+    // Ties the Tag to what prelievo awaits.
+    void legaTag();
+    // Sets the look of the window.
     void disponi();
 
     void pulHome_Click();
     void lstCartelle_DblClick();
     void lstFile_DblClick();
-    // The key that does what a double click does.
+    // The Enter key does what a double click does.
     void lstCartelle_KeyDown(int &KeyCode, int Shift);
     void lstFile_KeyDown(int &KeyCode, int Shift);
 

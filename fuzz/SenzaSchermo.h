@@ -1,4 +1,4 @@
-// The application object that the controls need, made once for all runs.
+// Creates the application object that the controls need, once for all runs.
 #pragma once
 
 #include <QApplication>

@@ -1,4 +1,4 @@
-// Runs the fuzz function over the files of the folders that the command line names.
+// Runs the fuzz function on each file of the folders on the command line.
 #include <QDirIterator>
 #include <QFile>
 #include <cstdio>

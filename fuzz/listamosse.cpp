@@ -1,5 +1,5 @@
-// Any bytes as a list file: reading it and running its lines past a line that takes everything
-// never does more than fail.
+// Any bytes as a list file. The file is read and its commands are written to a port that discards
+// them: the only failures are those of type Errore.
 #include "base/Archivio.h"
 #include "base/Errore.h"
 #include "movelists/FileMosse.h"

@@ -1,20 +1,22 @@
-// Any bytes as the answers of the robot's storage, while the user double-clicks what they list:
+// Any bytes as the answers of the robot's storage, while the user double-clicks their entries:
 // nothing is written outside the program's folder, nor over the program's own files.
+#include "filebrowser/frmEsploraFile.h"
 #include "fuzz/SenzaSchermo.h"
 #include "link/MotoreRicezione.h"
 #include "tests/support/PortaFinta.h"
-#include "filebrowser/frmEsploraFile.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QByteArray intatto = "3\r\n";
 
-// The console's side, as far as the storage reaches.
+// The parts of the console that the file browser needs.
 struct Banco
 {
     QTemporaryDir fuori;
@@ -50,13 +52,14 @@ struct Banco
     }
 };
 
-// The robot sends, and the receive timer ticks until the engine has looked at all that came.
+// The robot sends, and the receive timer ticks until the engine has read all bytes.
 void invia(Banco &banco, TemporizzatoreIngresso &timer, const QByteArray &byte)
 {
     PortaFinta &porta = banco.seriale.porta;
     porta.arriva(byte);
     for (int giri = 0; porta.inArrivo() > 0 || giri < 2; ++giri) {
-        // A tick that waits is taken up by the line's notice, any other one by the timer.
+        // A tick that waits for a byte is resumed by the notice of the port, otherwise the timer
+        // ticks.
         if (porta.sorvegliata())
             porta.arrivo();
         else
@@ -74,17 +77,20 @@ void doppioClick(Elenco &lista, quint8 quale)
 
 } // namespace
 
-// What fontconfig keeps for the whole run is no leak of ours; only a sanitizer calls this.
+// The memory that fontconfig keeps is no leak of the program. Only a sanitizer calls this function.
 extern "C" const char *__lsan_default_suppressions();
 extern "C" const char *__lsan_default_suppressions()
 {
     return "leak:libfontconfig";
 }
 
+// First byte: bit 0 shows the window; bit 1 chooses the list of the double click, files or folders.
+// Second byte: where the double click cuts the answers. Third byte: its row.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *dati, size_t quanti)
 {
     conApplicazione();
-    // Never destroyed: windows must not outlive the application, and the program ends at any time.
+    // Never destroyed: it would have to go before the application, and the order at the end is not
+    // known.
     static Banco &banco = *new Banco;
     if (quanti < 3)
         return 0;
@@ -94,7 +100,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *dati, size_t quanti)
                            {banco.BarraStato, banco.testo, banco.testo, banco.testo, banco.forma,
                             banco.forma, banco.forma, banco.forma, banco.forma});
     motore.ascoltaFile(&banco.esplora.prelievo);
-    // The engine of the run before may have been waiting.
+    // The engine of the previous run may have been waiting for a byte.
     banco.COM.avvisa(false);
     if (dati[0] & 1)
         banco.esplora.Mostra();

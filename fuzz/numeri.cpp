@@ -1,4 +1,4 @@
-// The number scan, truth values, and the port file.
+// Any bytes as numbers, as truth values and as the port file.
 #include "base/Numeri.h"
 #include "base/Archivio.h"
 #include "base/Codifica.h"

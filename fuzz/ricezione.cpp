@@ -1,8 +1,8 @@
-// The receive engine: bytes in any cuts. What comes in must be cut off again, whatever it is, and
-// after enough zeros the next telegram is understood.
+// Any bytes for the receive engine, in pieces of any length. The engine must consume all of them,
+// and after enough zeros it must understand the next telegram.
+#include "base/Pompa.h"
 #include "fuzz/SenzaSchermo.h"
 #include "tests/link/BancoLink.h"
-#include "base/Pompa.h"
 #include "tests/support/PortaFinta.h"
 #include "tests/support/Scritte.h"
 
@@ -32,7 +32,7 @@ struct BancoFuzz
         banco.COM.setPortOpen(true);
     }
 
-    // Ticks as the timer would, until the engine has looked at all that came.
+    // The robot sends, and the timer ticks until the engine has read all bytes.
     void lavora(const QByteArray &byte)
     {
         porta.arriva(byte);
@@ -44,7 +44,8 @@ struct BancoFuzz
     }
     void scatto()
     {
-        // A tick that waits is taken up by the line's notice, any other one by the timer.
+        // A tick that waits for a byte is resumed by the notice of the port, otherwise the timer
+        // ticks.
         if (porta.sorvegliata()) {
             if (porta.arrivo)
                 porta.arrivo();
@@ -62,6 +63,8 @@ void pretendi(bool condizione)
 
 } // namespace
 
+// First byte: bit 0 opens the camera, bit 1 the file browser. Second byte modulo 16: how many bytes
+// are skipped.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *dati, size_t quanti)
 {
     conApplicazione();
@@ -72,7 +75,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *dati, size_t quanti)
     p.file.inVista = (dati[0] & 2) != 0;
     const auto *inizio = reinterpret_cast<const char *>(dati);
 
-    // A piece's length stands before it.
+    // The byte before each piece is its length minus 1.
     size_t posto = 2 + qMin<size_t>(dati[1] % 16, quanti - 3);
     while (posto < quanti) {
         const size_t pezzo = qMin<size_t>(dati[posto] + size_t{1}, quanti - posto - 1);
@@ -80,8 +83,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *dati, size_t quanti)
         posto += pezzo + 1;
     }
 
-    // Whatever is open now ends within the longest telegram; a tick that waits inside one is given
-    // the bytes that it lacks.
+    // A telegram that is incomplete now ends within the length of the longest one; the zeros give
+    // it the bytes that it lacks.
     for (int zeri = 0; zeri < 5 || !p.banco.tmrElabInput.accumulatore.vuoto();) {
         const int altri = zeri < 5 ? 5 : 512;
         p.lavora(QByteArray(altri, '\0'));
@@ -92,7 +95,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *dati, size_t quanti)
     p.lavora(b({31, 17}));
     pretendi(p.banco.lblTemperatura.Caption() == u"17°"_s);
     pretendi(p.telemetria.testi == QStringList{u"Temperatura:17"_s});
-    // A block has as many bytes as its length says, and what it is cut from comes from the line.
+    // The length of a block has two bytes.
     for (const QByteArray &corpo : std::as_const(p.file.corpi))
         pretendi(corpo.size() <= 65535);
     return 0;

@@ -1,12 +1,12 @@
-// Any bytes as a project file, as "prog.dat" and as conditions: reading them, comparing them, and
-// testing them against telemetry never does more than fail; what was read without quotes in its
-// texts is read again from what is written of it.
+// Any bytes as a project file, as "prog.dat" and as conditions: they are read, compared, and tested
+// against telemetry, and the only failures are those of type Errore. A project without quotation
+// marks in its texts is the same after writing and reading.
 #include "base/Codifica.h"
-#include "conditional/Condizione.h"
 #include "base/Errore.h"
-#include "shell/FileProgDat.h"
+#include "conditional/Condizione.h"
 #include "conditional/OraDiLista.h"
 #include "conditional/Progetto.h"
+#include "shell/FileProgDat.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -32,7 +32,7 @@ QList<Progetto::Lista> letto(const QByteArray &file)
 
 void provaCondizione(const QString &condizione, const QString &altra)
 {
-    // The longest word for a condition, "Temperatura".
+    // The longest word is "Temperatura", 11 characters.
     esigi(DescriviCondizione(condizione).size() <= 11);
     std::array<QString, campiCondizione> campi;
     for (int campo = 1; campo <= campiCondizione; ++campo)

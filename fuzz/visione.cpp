@@ -1,11 +1,11 @@
-// The file of the stored pictures and the rows of the video: foreign bytes, read, searched for,
-// drawn. Every failure has to be an Errore.
-#include "vision/ArchivioImmagini.h"
+// Any bytes as the file of the stored pictures and as rows of the video: they are read, searched
+// for and drawn. The only failures are those of type Errore.
 #include "base/Codifica.h"
+#include "base/Numeri.h"
+#include "vision/ArchivioImmagini.h"
 #include "vision/Fotogramma.h"
 #include "vision/Mosaico.h"
 #include "vision/NomeDoppio.h"
-#include "base/Numeri.h"
 #include "vision/RecordImmagine.h"
 #include "vision/Ricerca.h"
 
@@ -16,7 +16,7 @@ namespace {
 
 constexpr qsizetype riga = 160;
 
-// One record is taken as both the entry and the line of the file, and searched for.
+// Uses the record as the list's entry and as the line of the file, and searches for it.
 void provaRecord(const QByteArray &record, Ricerca &ricerca, Matrice &Modello)
 {
     const QString voce = Codifica::daByte(record);
@@ -31,7 +31,7 @@ void provaRecord(const QByteArray &record, Ricerca &ricerca, Matrice &Modello)
 
 } // namespace
 
-// The bytes up to the first one of 0 are the file, the others are rows.
+// The bytes before the first 0 are the file, those after it are rows.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *dati, size_t quanti)
 {
     const QByteArray tutto(reinterpret_cast<const char *>(dati), static_cast<qsizetype>(quanti));

@@ -1,4 +1,5 @@
-// The copying of a selected area out of a frame, a slice at a time.
+// Copies a selected area out of a frame, two rows at each call, so that other events can be handled
+// in between.
 #pragma once
 
 #include "vision/Matrice.h"
@@ -8,15 +9,18 @@
 class Acquisizione
 {
 public:
-    // Begins anew; all in pixels of the frame, which is kept.
+    // Starts a new copy. left, top, width and height are in pixels of the frame. The frame is
+    // copied, so that later rows of the video do not change it.
     void inizia(const Matrice &pixel, quint8 left, quint8 top, quint8 width, quint8 height);
 
-    // Copies up to two rows, at least one pixel: the pixel at (column + left, row + top) for each
-    // column and row counted from 1, so that the area lies one pixel to the right of and below
-    // left and top. True when the copy is complete. Where a pixel lies outside the frame:
-    // Matrice::FuoriIntervallo.
+    // Copies the next two rows of the area and calls copiato for each pixel, with its column and
+    // row in the copy, counted from 1. The colour is read at (column + left, row + top), so the
+    // area lies one pixel to the right of the selection and one below it. An area of width or
+    // height 0 gives one pixel in that direction. Returns true when the copy is complete. Throws
+    // Matrice::FuoriIntervallo if a pixel lies outside the frame.
     bool prosegui(const std::function<void(int colonna, int riga, qint32 colore)> &copiato);
 
+    // Whether nothing is left to copy.
     bool finita() const { return m_finita; }
 
 private:

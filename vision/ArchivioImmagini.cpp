@@ -18,7 +18,7 @@ QByteArray leggiRecord(int indice)
         Archivio::chiudi();
         return record;
     } catch (const Errore &) {
-        // A number left open would refuse every file of the program from now on.
+        // If the file number stayed open, no file of the program could be opened any more.
         Archivio::abbandona();
         throw;
     }

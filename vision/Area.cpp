@@ -1,8 +1,8 @@
 #include "vision/Area.h"
 
 #include "base/Errore.h"
-#include "vision/Fotogramma.h"
 #include "base/Numeri.h"
+#include "vision/Fotogramma.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-// Which pixels of the frame lie under a rectangle on the screen.
+// Converts a rectangle on the video surface to pixels of the frame.
 #pragma once
 
 #include <QRectF>
@@ -12,7 +12,8 @@ struct Area
     quint8 height = 0;
 };
 
-// The rectangle at a zoom of so many screen pixels, cut to the frame. It begins at column and row 1
-// at least, and may be 0 wide or high. Errore::DivisionePerZero without a zoom, Errore::Overflow if
-// it lies too far outside the frame.
+// rettangolo: in logical pixels of the surface. zoom: logical pixels for each pixel of the frame.
+// The result is cut to the frame of 80 by 60 pixels. left and top are at least 1, width and height
+// may be 0. Throws Errore::DivisionePerZero if zoom is 0, and Errore::Overflow if the rectangle
+// begins outside the frame or a value divided by zoom is not in the range of a byte (0 to 255).
 Area areaInFotogramma(const QRectF &rettangolo, int zoom);

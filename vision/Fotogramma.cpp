@@ -1,7 +1,7 @@
 #include "vision/Fotogramma.h"
 
-#include "vision/Colore.h"
 #include "base/Numeri.h"
+#include "vision/Colore.h"
 
 bool Fotogramma::aggiungi(QByteArrayView riga, int scala)
 {

@@ -1,11 +1,11 @@
-// Pictures as the vision windows hold them: tables of numbers by column and row.
+// A table of numbers by column and row: the form in which the vision windows keep pictures.
 #pragma once
 
 #include "base/Errore.h"
 
 #include <vector>
 
-// A table of 32-bit numbers, columns and rows counted from 1, all 0 at first.
+// 32-bit numbers, all 0 at first. Columns and rows count from 1.
 class Matrice
 {
 public:
@@ -21,7 +21,7 @@ public:
     int colonne() const { return m_colonne; }
     int righe() const { return m_righe; }
 
-    // A place outside the table is the error FuoriIntervallo.
+    // Throws an Errore with the number FuoriIntervallo if the place is outside the table.
     qint32 operator()(int colonna, int riga) const { return m_valori[posto(colonna, riga)]; }
     qint32 &operator()(int colonna, int riga) { return m_valori[posto(colonna, riga)]; }
 

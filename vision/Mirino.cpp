@@ -2,6 +2,7 @@
 
 namespace {
 
+// Logical pixels.
 constexpr int lato = 11;
 
 } // namespace
@@ -9,7 +10,7 @@ constexpr int lato = 11;
 Mirino::Mirino(const QString &nome, QWidget *superficie) : FormaInPixel(nome, superficie)
 {
     setColori(Qt::transparent, Qt::white);
-    Size(lato, lato);
+    sizePixel(lato, lato);
 }
 
 void Mirino::sposta(QPoint di)
@@ -21,7 +22,7 @@ void Mirino::sposta(QPoint di)
     // The surface may have become smaller.
     m_posto = {qBound(1, m_posto.x(), superficie.width() - 1),
                qBound(1, m_posto.y(), superficie.height() - 1)};
-    Move(m_posto.x() - width() / 2, m_posto.y() - height() / 2);
+    movePixel(m_posto.x() - width() / 2, m_posto.y() - height() / 2);
     raise();
     show();
 }

@@ -1,4 +1,4 @@
-// Where the keyboard points on the picture.
+// The mark that shows where the keyboard points on the picture: a small square.
 #pragma once
 
 #include "vision/InPixel.h"
@@ -10,11 +10,12 @@ class Mirino : public FormaInPixel
 public:
     Mirino(const QString &nome, QWidget *superficie);
 
-    // In pixels of the surface.
+    // The centre of the mark, in pixels of the surface; null before the first sposta().
     QPoint posto() const { return m_posto; }
-    // From where it was last, at first the middle; it stays on the surface, and is seen.
+    // Moves the mark by so many pixels and shows it. The first move starts from the middle of the
+    // surface. The centre of the mark stays inside the surface.
     void sposta(QPoint di);
-    // Seen no longer, and at the middle again the next time.
+    // Hides the mark. The next sposta() starts from the middle again.
     void azzera();
 
 private:

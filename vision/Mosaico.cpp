@@ -10,7 +10,7 @@ QImage mosaico(const Matrice &colori, int colonne, int righe, int lato)
         return {};
     QImage immagine(colonne * lato, righe * lato, QImage::Format_RGB32);
     for (int riga = 1; riga <= righe; ++riga) {
-        // The first line of a row of boxes is made, the others are its copies.
+        // Only the first line of each row of squares is drawn; the others are copies of it.
         const int y = (riga - 1) * lato;
         auto *linea = reinterpret_cast<QRgb *>(immagine.scanLine(y));
         for (int colonna = 1; colonna <= colonne; ++colonna)

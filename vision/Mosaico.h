@@ -1,11 +1,11 @@
-// Pictures made large: each pixel a box.
+// Enlarges pictures: each pixel becomes a square.
 #pragma once
 
 #include "vision/Matrice.h"
 
 #include <QImage>
 
-// The upper left part of a table of colours, colonne by righe of it, each pixel a box of lato by
-// lato. A null image where there is nothing to draw. An area beyond the table is the error
-// Matrice::FuoriIntervallo.
+// Draws the upper left part of a table of packed colours: colonne by righe pixels, each as a square
+// of lato by lato pixels. Returns a null image if one of the three numbers is 0 or negative. Throws
+// Matrice::FuoriIntervallo if the part is larger than the table.
 QImage mosaico(const Matrice &colori, int colonne, int righe, int lato);

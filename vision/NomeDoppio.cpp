@@ -2,7 +2,8 @@
 
 bool nomeDoppio(const QByteArray &s, const QByteArray &nome)
 {
-    // Positions count from 1; 0 is no quotation mark, and then the text's start is compared.
+    // p is the offset of the character after a quotation mark. If there is no quotation mark p is
+    // 0, and the start of the text is compared.
     qsizetype p = s.indexOf('"') + 1;
     do {
         if (QByteArrayView(s).sliced(qMin(p, s.size())).startsWith(nome))

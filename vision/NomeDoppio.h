@@ -1,10 +1,11 @@
-// The look for a name among the stored ones.
+// Checks whether a name is already used by a stored picture.
 #pragma once
 
 #include <QByteArray>
 
-// Whether nome, not empty, begins what stands behind one of the quotation marks that the look lands
-// on in s: behind the first one, and then always behind the next from the place where the stored
-// name would end if it were as long as nome. So a name that begins a stored one counts as there,
-// and a name may be missed.
+// s: the text of the file; nome: the new name, not empty. Returns true if the text after one of the
+// examined quotation marks begins with nome. The first quotation mark is examined; from there the
+// search jumps to where the name would end if it were as long as nome, and examines the next
+// quotation mark after that place, and so on. So "Pal" is a duplicate of "Pallone", and a stored
+// name can be skipped.
 bool nomeDoppio(const QByteArray &s, const QByteArray &nome);

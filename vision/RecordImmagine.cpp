@@ -6,9 +6,10 @@
 
 namespace {
 
+// Characters of a colour that are read.
 constexpr qsizetype cifreColore = 8;
 
-// The position, counted from 1, of the next comma behind a position; 0 where there is none.
+// The position of the first comma after the position dopo, both counted from 1; 0 if there is none.
 qsizetype virgola(QByteArrayView testo, qsizetype dopo)
 {
     return testo.indexOf(',', dopo) + 1;
@@ -18,6 +19,7 @@ qsizetype virgola(const QString &testo, qsizetype dopo)
     return testo.indexOf(u',', dopo) + 1;
 }
 
+// The number between the position dopo and the next comma or the end.
 double numero(const QString &testo, qsizetype dopo)
 {
     const qsizetype fine = testo.indexOf(u',', dopo);
@@ -42,7 +44,7 @@ Misure misureImmagine(const QString &record)
 void leggiModello(QByteArrayView record, qint32 W, qint32 H, Matrice &Modello)
 {
     qsizetype posto = virgola(record, virgola(record, 0));
-    // Rows of no width: there may be thousands of millions of them, and nothing to read.
+    // Without a width there is nothing to read, but H can be in the thousands of millions.
     if (W < 1)
         return;
     for (int riga = 1; riga <= H; ++riga) {

@@ -1,6 +1,6 @@
 // The record of a stored picture: its name in quotation marks, width, height, and the colours row
-// by row, between commas. Nothing is escaped: commas are counted from the record's start, so that
-// one in the name shifts all that follows.
+// by row, separated by commas. Nothing is escaped: the fields are found by counting the commas from
+// the start of the record, so a comma in the name shifts all fields after it.
 #pragma once
 
 #include "vision/Matrice.h"
@@ -8,27 +8,30 @@
 #include <QByteArray>
 #include <QString>
 
+// Width and height of a picture in pixels.
 struct Misure
 {
     double W = 0;
     double H = 0;
 };
 
-// What stands between the quotation marks, as far as the first comma tells; empty where it tells
-// nothing.
+// The name: the text before the first comma, without its first and last character, which are the
+// quotation marks. Empty if there is no comma or nothing remains.
 QString nomeImmagine(const QString &record);
 
-// The numbers behind the first and the second comma, as they stand.
+// The numbers after the first and the second comma, unchanged: they can be negative or have
+// fractions. If a comma is missing, the number at the start of the record is read.
 Misure misureImmagine(const QString &record);
 
-// Reads W times H colours into Modello, from the third comma on, of at most 8 characters each.
-// Where the commas run out the reading goes on at the record's start. A picture larger than Modello
-// is Matrice::FuoriIntervallo.
+// Reads W times H colours into Modello, row by row, starting at the third comma. Of each colour at
+// most 8 characters are used, and fractions are cut off. If there are no more commas, the reading
+// continues at the start of the record. Throws Matrice::FuoriIntervallo if the picture is larger
+// than Modello.
 void leggiModello(QByteArrayView record, qint32 W, qint32 H, Matrice &Modello);
 
-// The name as a record can hold it: line breaks, which end a record, become blanks.
+// The name with line breaks replaced by blanks, because a line break ends a record.
 QByteArray inUnaRiga(QByteArray nome);
 
-// The file's new text: s, which is empty or ends in the last record, and one record more. dati is
-// the record without its name.
+// The new text of the file: s and one more record. s: the old text, empty or without a line end
+// after its last record. dati: the record without its name.
 QByteArray aggiungiRecord(const QByteArray &s, const QByteArray &nome, const QByteArray &dati);

@@ -1,13 +1,14 @@
 #include "vision/Ricerca.h"
 
-#include "vision/Fotogramma.h"
 #include "base/Numeri.h"
+#include "vision/Fotogramma.h"
 
 bool Ricerca::cerca(const Matrice &Modello, qint32 W, qint32 H)
 {
     int c = 1;
     int r = 1;
-    // The limits are bytes, worked out when their loop starts; the counters are moved inside it.
+    // The limits must fit into a byte and are computed when their loop starts. The loop body
+    // changes a and b.
     const int ultimaRiga = Numeri::Byte(double{Fotogramma::Righe} - H);
     for (int a = 1; a <= ultimaRiga; ++a) {
         const int ultimaColonna = Numeri::Byte(double{Fotogramma::Colonne} - W);

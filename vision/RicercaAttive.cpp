@@ -1,8 +1,8 @@
 #include "vision/RicercaAttive.h"
 
+#include "base/Numeri.h"
 #include "vision/ArchivioImmagini.h"
 #include "vision/Fotogramma.h"
-#include "base/Numeri.h"
 #include "vision/RecordImmagine.h"
 #include "vision/Ricerca.h"
 
@@ -10,7 +10,7 @@ namespace {
 
 constexpr size_t attiveMassime = 30000;
 
-// The indices of the pictures that are to be looked for, as 16-bit numbers.
+// The indices of the active pictures, as 16-bit numbers.
 std::vector<qint16> attive(const Elenco &lstImgCamera)
 {
     std::vector<qint16> indici;

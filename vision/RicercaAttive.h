@@ -1,4 +1,4 @@
-// The search of one frame for all stored pictures that are to be looked for.
+// Searches one frame for all active stored pictures.
 #pragma once
 
 #include "controls/Elenco.h"
@@ -6,7 +6,8 @@
 
 #include <optional>
 
-// A stored picture in the frame: its index, its first pixel, its size.
+// A stored picture that was found: its index in the list, its first pixel in the frame (counted
+// from 1), and its size in pixels.
 struct Trovata
 {
     int indice = 0;
@@ -16,7 +17,9 @@ struct Trovata
     qint32 H = 0;
 };
 
-// The first one found, in the order of the list: its entries are the records of the store, each
-// with its active flag. The pixels are read anew from the file. Errors are those of the file and of
-// Ricerca; more pictures than can be looked for are Matrice::FuoriIntervallo.
+// Searches for the active pictures in the order of the list and returns the first one that is
+// found. The list has one entry for each record of the file; ItemData other than 0 makes it active.
+// The size is that of the entry, the colours are read from the file at each call. Throws the errors
+// of leggiRecord, leggiModello and Ricerca, Errore::Overflow if a size is no 32-bit number or an
+// index no 16-bit number, and Matrice::FuoriIntervallo if more than 30000 pictures are active.
 std::optional<Trovata> cercaTraLeAttive(const Matrice &pixel, const Elenco &lstImgCamera);

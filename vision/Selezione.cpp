@@ -3,7 +3,7 @@
 void Selezione::premi(bool disegna, bool nominando)
 {
     m_vana = nominando;
-    // One that waits for its frame goes on waiting while it is drawn anew.
+    // A finished selection keeps waiting for its frame while a new one is drawn.
     if (disegna && !nominando && m_stato == Stato::Nessuna)
         m_stato = Stato::Tracciata;
 }

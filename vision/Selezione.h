@@ -1,35 +1,40 @@
-// The area that the user chooses on the picture: from the press to the frame that takes it.
+// The state of the selection on the picture: from the mouse press to the frame from which the area
+// is taken.
 #pragma once
 
 class Selezione
 {
 public:
+    // None, being drawn, finished and waiting for its frame.
     enum class Stato { Nessuna, Tracciata, Finita };
 
     Stato stato() const { return m_stato; }
-    // Whether the next complete frame is to take it.
+    // Whether the area is to be taken from the next complete frame.
     bool finita() const { return m_stato == Stato::Finita; }
-    // Whether there has been none since the window was opened.
+    // Whether no selection was finished or dropped since azzera().
     bool mai() const { return !m_usata; }
 
-    // A press on the picture, which begins to draw. One that meets the naming dialog draws nothing,
-    // and its release counts for nothing, even if the dialog has gone until then.
+    // A press on the picture. disegna: it starts to draw a selection. nominando: the naming dialog
+    // is open; then nothing is drawn, and the release of this press is ignored even if the dialog
+    // is closed before it.
     void premi(bool disegna, bool nominando);
-    // A release asks for the area also without a press that began one.
+    // A release finishes the selection, even if the press drew nothing. It is ignored if the naming
+    // dialog is open or was open during the press.
     void rilascia(bool nominando);
-    // The naming dialog has come: a press that is held now comes to nothing.
+    // The naming dialog has opened: the release of a press that is held now will be ignored.
     void nomina();
-    // The drawing is given up; one that waits for its frame goes on waiting.
+    // Drops a selection that is being drawn. A finished one keeps waiting for its frame.
     void interrompi();
-    // Asked for from outside.
+    // Finishes the selection without a release, when the Tag is written from outside.
     void finisci();
-    // Taken by a frame, or left.
+    // Drops the selection, also after a frame has taken it.
     void lascia();
-    // As before the first one.
+    // Restores the initial state.
     void azzera() { *this = {}; }
 
 private:
     Stato m_stato = Stato::Nessuna;
     bool m_usata = false;
+    // The next release is to be ignored.
     bool m_vana = false;
 };

@@ -25,7 +25,7 @@ bool Video::finisci(Avvio avvio, bool riuscito)
         return false;
     if (!riuscito)
         m_scala = 0;
-    // The scale may have been taken away while the start waited.
+    // The scale may have been set to 0 from outside while the start was waiting.
     m_stato = m_scala == 0 ? Stato::Fallito : Stato::Attivo;
     return true;
 }

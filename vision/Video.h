@@ -1,4 +1,5 @@
-// The live video: whether it was asked for, whether it runs, how large it is, which row comes next.
+// The state of the live video: whether it was requested and whether it runs, its scale and zoom,
+// and the frame that is being received.
 #pragma once
 
 #include "vision/Fotogramma.h"
@@ -8,13 +9,16 @@
 class Video
 {
 public:
-    // InChiusura: closed, while what was on its way is still being emptied.
+    // Fallito: the start failed, or the scale was set to 0 from outside. InChiusura: closed, but
+    // bytes still on the way are being discarded.
     enum class Stato { Chiuso, InAvvio, Attivo, Fallito, InChiusura };
 
+    // 80 by 60 pixels.
     static constexpr quint8 ScalaDiAvvio = 10;
 
-    // One start. It waits for the robot, and may come back to a video that was closed meanwhile, or
-    // closed and started anew.
+    // One start of the video. While it waits for the robot other events are handled, so the video
+    // can be closed, or closed and started again, before the wait ends. The number shows whether
+    // this start is still the current one.
     class Avvio
     {
         friend class Video;
@@ -24,38 +28,42 @@ public:
 
     Stato stato() const { return m_stato; }
 
-    // Asked for from the toolbar, and not closed since: only then the window opens, and rows are
-    // handed to it.
+    // Requested from the toolbar and not closed since then. Only then the window opens and receives
+    // rows.
     bool richiesto() const { return m_richiesto; }
     void chiedi(bool richiesto) { m_richiesto = richiesto; }
 
-    // The start with which the window opens; the next row is a frame's first.
+    // Begins the start with which the window opens. The next row is the first of a frame.
     Avvio apri();
-    // The start that follows a stop. Refused while one is under way, and if the window is not open.
+    // Begins the start after a stop. Refused (no value) while another start is running or the
+    // window is not open.
     std::optional<Avvio> riavvia();
     bool abbandonato(Avvio avvio) const { return avvio.numero != m_avvio; }
-    // The end of a start; false if it was given up: then nothing changes.
+    // Ends a start. Returns false and changes nothing if the start was given up.
     bool finisci(Avvio avvio, bool riuscito);
-    // Gives up the start that is under way. True if the robot may be sending.
+    // Closes the video and gives up a start that is running. Returns true if the robot may be
+    // sending.
     bool chiudi();
-    // As before the first opening, but for the request.
+    // Restores the initial state, except for the request.
     void azzera();
 
-    // The frame's size: so many times 8 by 6 pixels. 0: no rows are taken. A scale that is set from
-    // outside switches the video off and on.
+    // The scale: a frame has scala * 8 by scala * 6 pixels. At 0 the video is off and rows are
+    // ignored. Setting the scale from outside switches the video off and on.
     quint8 scala() const { return m_scala; }
     bool acceso() const { return m_scala != 0; }
     void impostaScala(quint8 scala);
 
-    // How many screen pixels one pixel of the frame occupies.
+    // Logical pixels of the surface for each pixel of the frame.
     int zoom() const { return m_zoom; }
     void impostaZoom(int zoom) { m_zoom = zoom; }
-    // As often as the frame's width fits into so many pixels; true if that is another zoom.
+    // Sets the zoom to how many times the frame's width fits into larghezza pixels; 0 if the video
+    // is off. Returns true if the zoom has changed.
     bool misura(int larghezza);
 
-    // Takes the next row; true if the frame is complete. Errors are those of Fotogramma.
+    // Takes the next row. Returns true if the frame is complete. Throws what Fotogramma::aggiungi
+    // throws.
     bool aggiungi(QByteArrayView riga) { return m_fotogramma.aggiungi(riga, m_scala); }
-    // The next row is a frame's first.
+    // The next row is the first of a frame.
     void ricomincia() { m_fotogramma.Riga = 0; }
     const Fotogramma &fotogramma() const { return m_fotogramma; }
 

@@ -1,10 +1,10 @@
 #include "vision/frmCamera.h"
 
-#include "vision/Mosaico.h"
 #include "base/Numeri.h"
 #include "base/Pompa.h"
-#include "vision/RecordImmagine.h"
 #include "controls/Tasti.h"
+#include "vision/Mosaico.h"
+#include "vision/RecordImmagine.h"
 
 #include <QKeyEvent>
 #include <QScreen>
@@ -13,11 +13,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// At the size of the first showing, 8 screen pixels for one of the frame.
+// The zoom at the first showing: logical pixels for each pixel of the frame.
 constexpr int zoomIniziale = 8;
-// How far an arrow key goes with the control key.
+// The step of an arrow key with the control key, in pixels of the frame.
 constexpr int passoLungo = 10;
-// More than any port holds back.
+// A limit for the reads that empty the port, so that a robot that never stops sending cannot keep
+// the program here. Each read takes up to 1024 bytes.
 constexpr int lettureMassime = 256;
 
 } // namespace
@@ -47,7 +48,7 @@ frmCamera::~frmCamera()
     c.BarraPulsanti.mostraTag({}, {});
 }
 
-// The texts under which the state is seen from outside. One that says nothing changes nothing.
+// Ties the Tags to the state that they show. A text that is out of range is ignored.
 void frmCamera::legaTag()
 {
     c.BarraPulsanti.mostraTag(
@@ -91,20 +92,20 @@ void frmCamera::disponi()
 
     shpSelezione.setColori(QColor(255, 255, 255, 40), Qt::white);
     shpImgRilevata.setColori(Qt::transparent, giallo);
-    // The mouse goes through, as it does through the shapes.
+    // Mouse events go to Schermo, as they do on the shapes.
     lblNomeImmagine.setAttribute(Qt::WA_TransparentForMouseEvents);
     lblNomeImmagine.setForeColor(giallo);
-    // The picture shows through, the name is read on every picture.
+    // A dark background, slightly transparent, makes the name readable on every picture.
     QPalette targa = lblNomeImmagine.palette();
     targa.setColor(QPalette::Window, QColor(scuro.red(), scuro.green(), scuro.blue(), 215));
     lblNomeImmagine.setPalette(targa);
     lblNomeImmagine.setAutoFillBackground(true);
     lblNomeImmagine.setContentsMargins(4, 0, 4, 0);
 
-    // Narrower, no zoom is left.
+    // In a smaller window the zoom would be 0.
     setMinimumSize(Fotogramma::Colonne, Fotogramma::Righe);
-    // The first pixel lies at one zoom's distance from the corner; as much is left at the far
-    // sides.
+    // The picture begins one enlarged pixel away from the upper left corner. The same margin is
+    // left on the right and at the bottom.
     resize((Fotogramma::Colonne + 2) * zoomIniziale, (Fotogramma::Righe + 2) * zoomIniziale);
 }
 
@@ -113,7 +114,7 @@ void frmCamera::Disegno()
     m_video.azzera();
     m_selezione.azzera();
     Schermo.Pulisci();
-    // Small, so that it takes the window's size, and its zoom, at the next showing.
+    // A size of 1 by 1, so that the next showing resizes it, which sets the zoom.
     Schermo.resize(1, 1);
     shpSelezione.hide();
     shpImgRilevata.hide();
@@ -128,8 +129,8 @@ void frmCamera::Load()
         Scarica();
         return;
     }
-    // What is inside the frame is placed, as the frame is not known yet: being as wide on the left
-    // as on the right it stands in the middle, too.
+    // Only the inner part can be placed, because the size of the window's frame is not known yet.
+    // The frame is as wide on the left as on the right, so the window is centred with it, too.
     const QRect schermo = screen()->availableGeometry();
     setGeometry(qMax(schermo.x(), schermo.x() + (schermo.width() - width()) / 2),
                 schermo.y() + schermo.height() / 12, width(), height());
@@ -157,10 +158,11 @@ void frmCamera::Unload(bool &Cancel)
 {
     switch (m_video.stato()) {
     case Video::Stato::Chiuso:
-        // Shown without the toolbar: nothing was begun.
+        // The window was shown without the toolbar: nothing was started.
         return;
     case Video::Stato::InChiusura:
-        // The line is being emptied, and the window goes when that is done.
+        // This is a second Unload while the first one is emptying the line; the first one closes
+        // the window.
         Cancel = true;
         return;
     case Video::Stato::InAvvio:
@@ -177,7 +179,7 @@ void frmCamera::Unload(bool &Cancel)
     }
     m_video.chiedi(false);
     SvuotaRicezione();
-    // What was asked for meanwhile met a window on its way out.
+    // A request made while the line was emptied is dropped, because the window closes.
     m_video.chiedi(false);
 }
 
@@ -196,8 +198,8 @@ void frmCamera::Schermo_MouseDown(int, int, double X, double Y)
     m_selezione.premi(disegna, nominando());
     if (!disegna)
         return;
-    shpSelezione.Move(X, Y);
-    shpSelezione.Size(1, 1);
+    shpSelezione.movePixel(X, Y);
+    shpSelezione.sizePixel(1, 1);
     shpSelezione.show();
 }
 
@@ -205,8 +207,8 @@ void frmCamera::Schermo_MouseMove(int Button, int, double X, double Y)
 {
     if (Button != 1 || !m_video.acceso() || nominando())
         return;
-    passaErrori([&] { shpSelezione.setWidth(X - shpSelezione.Left()); });
-    passaErrori([&] { shpSelezione.setHeight(Y - shpSelezione.Top()); });
+    passaErrori([&] { shpSelezione.setWidthPixel(X - shpSelezione.leftPixel()); });
+    passaErrori([&] { shpSelezione.setHeightPixel(Y - shpSelezione.topPixel()); });
 }
 
 void frmCamera::Schermo_MouseUp()
@@ -238,7 +240,7 @@ void frmCamera::Schermo_DblClick()
 void frmCamera::AvviaRicezione(Video::Avvio avvio)
 {
     m_video.impostaScala(Video::ScalaDiAvvio);
-    // The surface may have got another size while there was no video.
+    // The size of the surface may have changed while there was no video.
     if (m_video.misura(Schermo.width()))
         Schermo.Pulisci();
     const bool partito = ComandiTessaro::AvviaVideo(c.COM, m_video.scala(), 0, c.esito,
@@ -249,7 +251,7 @@ void frmCamera::AvviaRicezione(Video::Avvio avvio)
 
 void frmCamera::SvuotaRicezione()
 {
-    // The control holds little; the rest waits in the operating system.
+    // Each read takes what the control holds; the rest waits in the operating system.
     passaErrori([&] {
         for (int i = 0; i < lettureMassime && !c.COM.Input().isEmpty(); ++i) {
         }
@@ -285,7 +287,7 @@ void frmCamera::CalcolaRiga(const QByteArray &riga)
 
 void frmCamera::mostraFotogramma()
 {
-    // The first box lies at one box's distance from the corner.
+    // The picture begins one enlarged pixel away from the corner.
     const int s = m_video.zoom();
     Schermo.Dipingi({s, s},
                     mosaico(m_video.fotogramma().Pixel, Fotogramma::Colonne, Fotogramma::Righe, s));
@@ -294,14 +296,12 @@ void frmCamera::mostraFotogramma()
 void frmCamera::PreparaAcquisizione()
 {
     m_selezione.lascia();
-    // What is being named already is not replaced.
+    // A picture that is being named is not replaced.
     if (nominando())
         return;
     shpSelezione.hide();
-    const QRectF scelta(shpSelezione.Left(), shpSelezione.Top(), shpSelezione.Width(),
-                        shpSelezione.Height());
-    frmNomeImmagine.nomina(m_video.fotogramma().Pixel, areaInFotogramma(scelta, m_video.zoom()),
-                           *this);
+    frmNomeImmagine.nomina(m_video.fotogramma().Pixel,
+                           areaInFotogramma(shpSelezione.rettangoloPixel(), m_video.zoom()), *this);
     m_selezione.nomina();
     lasciaMirino();
 }
@@ -323,20 +323,20 @@ void frmCamera::CercaImmagini()
 void frmCamera::mostraTrovata(const Trovata &trovata)
 {
     const int s = m_video.zoom();
-    shpImgRilevata.Move(s * trovata.colonna, s * trovata.riga);
-    shpImgRilevata.Size(double(s) * trovata.W, double(s) * trovata.H);
+    shpImgRilevata.movePixel(s * trovata.colonna, s * trovata.riga);
+    shpImgRilevata.sizePixel(double(s) * trovata.W, double(s) * trovata.H);
     shpImgRilevata.show();
     QFont font = lblNomeImmagine.font();
     font.setPointSize(qMax(1, s * 3));
     lblNomeImmagine.setFont(font);
-    lblNomeImmagine.Move(shpImgRilevata.Left() - s,
-                         shpImgRilevata.Top() + shpImgRilevata.Height() - s);
+    const QRectF cornice = shpImgRilevata.rettangoloPixel();
+    lblNomeImmagine.movePixel(cornice.left() - s, cornice.bottom() - s);
     lblNomeImmagine.setCaption(nomeImmagine(c.lstImgCamera.List(trovata.indice)));
     lblNomeImmagine.adjustSize();
     lblNomeImmagine.show();
 }
 
-// The picture by keyboard: what a mouse that presses, drags and lets go does on it.
+// Does by keyboard what pressing, dragging and releasing the mouse does on the picture.
 void frmCamera::keyPressEvent(QKeyEvent *evento)
 {
     const int codice = Tasti::codice(*evento);
@@ -371,7 +371,7 @@ void frmCamera::keyPressEvent(QKeyEvent *evento)
     }
 }
 
-// In pixels of the frame.
+// colonne, righe: in pixels of the frame.
 void frmCamera::muoviMirino(int colonne, int righe)
 {
     if (nominando())

@@ -1,9 +1,9 @@
-// The live picture of the robot's camera.
+// The window with the live video of the robot's camera.
 #pragma once
 
+#include "controls/Finestra.h"
 #include "link/Ascoltatori.h"
 #include "vision/ControlliVideo.h"
-#include "controls/Finestra.h"
 #include "vision/InPixel.h"
 #include "vision/Mirino.h"
 #include "vision/RicercaAttive.h"
@@ -11,7 +11,7 @@
 #include "vision/Video.h"
 #include "vision/frmNomeImmagine.h"
 
-// Its Tag is the video scale: "10" while video runs, "0" where it could not be started.
+// Its Tag is the video scale: "10" while the video runs, "0" if it could not be started.
 class frmCamera : public Finestra, public AscoltatoreVideo
 {
     Q_OBJECT
@@ -22,22 +22,24 @@ public:
     Q_DISABLE_COPY_MOVE(frmCamera)
 
     bool cameraAperta() const override { return m_video.richiesto(); }
-    // Takes a row of 160 bytes, more being ignored; with the 60th one the frame is painted and
-    // searched. Nothing if video does not run or the window is not visible. Failures are told in
-    // panel 3.
+    // Takes a row of 160 bytes; further bytes are ignored. With the 60th row the frame is painted
+    // and searched. Does nothing if the video is off or the window is not visible. Errors are shown
+    // in panel 3 of the status bar.
     void CalcolaRiga(const QByteArray &riga) override;
-    // The next row is a frame's first. Nothing in the same cases.
+    // The next row is the first of a frame. Does nothing if the video is off or the window is not
+    // visible.
     void ricominciaFotogramma();
 
-    // The rows that came since the last frame, over that frame.
+    // The frame that is being received; below its rows are those of the last frame.
     const Fotogramma &fotogramma() const { return m_video.fotogramma(); }
 
-    // Its Tag is the zoom: how many screen pixels one pixel of the frame occupies.
+    // Its Tag is the zoom: logical pixels for each pixel of the frame.
     Superficie Schermo;
-    // Its Tag tells whether a finished selection waits for the next complete frame.
+    // Its Tag is "True" while a finished selection waits for the next complete frame.
     FormaInPixel shpSelezione;
-    // Where the keyboard points; to be seen only while it is used.
+    // Shows where the keyboard points; visible only while the keyboard is used.
     Mirino shpMirino;
+    // Frame and name of the stored picture that was found.
     FormaInPixel shpImgRilevata;
     EtichettaInPixel lblNomeImmagine;
 
@@ -47,8 +49,8 @@ protected:
     void Activate() override;
     void Resize() override;
     void Unload(bool &Cancel) override;
-    // The arrows move shpMirino, a pixel of the frame at a time and ten with the control key; the
-    // space bar begins a selection there and ends it, Esc leaves it; F5 is the double click.
+    // The arrows move shpMirino by one pixel of the frame, by ten with the control key. The space
+    // bar starts a selection there and finishes it, Esc drops it. F5 does what a double click does.
     void keyPressEvent(QKeyEvent *evento) override;
 
 private:

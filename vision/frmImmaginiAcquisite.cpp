@@ -1,9 +1,9 @@
 #include "vision/frmImmaginiAcquisite.h"
 
+#include "base/Numeri.h"
 #include "vision/ArchivioImmagini.h"
 #include "vision/Fotogramma.h"
 #include "vision/Mosaico.h"
-#include "base/Numeri.h"
 #include "vision/RecordImmagine.h"
 
 #include <QFrame>
@@ -15,9 +15,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// How many screen pixels a pixel of the picture occupies.
+// Logical pixels for each pixel of the picture.
 constexpr int lato = 2;
-// The largest picture, at its place, and a margin as wide as the one before it.
+// Room for the largest picture, which begins one square away from the corner, and for the same
+// margin on the right and at the bottom.
 constexpr int larghezzaArea = (Fotogramma::Colonne + 2) * lato;
 constexpr int altezzaArea = (Fotogramma::Righe + 2) * lato;
 
@@ -38,7 +39,7 @@ void frmImmaginiAcquisite::disponi()
 {
     lstImgAcquisite.setAccessibleName(windowTitle());
     lstImgAcquisite.setMinimumWidth(180);
-    // The marks of neighbouring rows do not touch.
+    // Keeps the check marks of neighbouring rows apart.
     lstImgAcquisite.setSpacing(1);
     imgSelezionata.setFixedSize(larghezzaArea, altezzaArea);
     imgSelezionata.setAccessibleName(u"Immagine selezionata"_s);

@@ -1,4 +1,5 @@
-// The stored pictures: which there are, how they look, which ones the video window looks for.
+// Lists the stored pictures, shows the one that is clicked, and sets which ones the video window
+// searches for.
 #pragma once
 
 #include "controls/Elenco.h"
@@ -10,10 +11,10 @@ class frmImmaginiAcquisite : public Finestra
     Q_OBJECT
 
 public:
-    // lstImgCamera: the records of the store, each with its active flag.
+    // lstImgCamera: the records of the stored pictures; ItemData other than 0 makes one active.
     explicit frmImmaginiAcquisite(Elenco &lstImgCamera);
 
-    // Lists the names anew; no check mark is set then.
+    // Fills the list again from lstImgCamera. No check mark is set then, also for active pictures.
     void Aggiorna();
 
     Elenco lstImgAcquisite;

@@ -1,14 +1,14 @@
 #include "vision/frmNomeImmagine.h"
 
-#include "vision/ArchivioImmagini.h"
 #include "base/Codifica.h"
+#include "controls/Messaggi.h"
+#include "shell/Gest_File.h"
+#include "shell/Se_Casi.h"
+#include "vision/ArchivioImmagini.h"
 #include "vision/Colore.h"
 #include "vision/Fotogramma.h"
-#include "shell/Gest_File.h"
-#include "controls/Messaggi.h"
 #include "vision/NomeDoppio.h"
 #include "vision/RecordImmagine.h"
-#include "shell/Se_Casi.h"
 
 #include <QFrame>
 #include <QGridLayout>
@@ -42,8 +42,9 @@ frmNomeImmagine::frmNomeImmagine(frmImmaginiAcquisite &immagini)
 
 void frmNomeImmagine::disponi()
 {
-    // Pixels count from 1 here, and the area's middle is that of a frame: a picture at 39 and 29
-    // less half its size stands in the middle.
+    // imgAcquisita has one more column and row than a frame, because its pixels count from 1.
+    // nomina() moves it to 39 - width / 2 and 29 - height / 2; the copied area is then in the
+    // middle.
     areaImmagine.setFixedSize(Fotogramma::Colonne, Fotogramma::Righe);
     imgAcquisita.resize(Fotogramma::Colonne + 1, Fotogramma::Righe + 1);
     imgAcquisita.setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -101,7 +102,7 @@ void frmNomeImmagine::Disegno()
 
 void frmNomeImmagine::nomina(const Matrice &pixel, const Area &area, QWidget &padrona)
 {
-    imgAcquisita.Move(39 - area.width / 2, 29 - area.height / 2);
+    imgAcquisita.movePixel(39 - area.width / 2, 29 - area.height / 2);
     setTag(QString::number(area.width) + u',' + QString::number(area.height));
     imgAcquisita.hide();
     m_acquisizione.inizia(pixel, area.left, area.top, area.width, area.height);
@@ -109,7 +110,7 @@ void frmNomeImmagine::nomina(const Matrice &pixel, const Area &area, QWidget &pa
     winId();
     windowHandle()->setTransientParent(padrona.window()->windowHandle());
     Mostra();
-    // Also where the copy is complete already: the first tick then switches it off.
+    // Also if the copy is already complete: the first tick then disables the timer.
     tmrAcquisizione.setEnabled(true);
 }
 
@@ -152,7 +153,7 @@ void frmNomeImmagine::pulOK_Click()
     try {
         s = LeggiFile(fileImmagini(), 0);
     } catch (const Errore &errore) {
-        // Pictures that are there but cannot be read now are not to be written over.
+        // If the file exists but cannot be read now, it must not be overwritten.
         leggibile = errore.numero() == Errore::FileNonTrovato;
     }
     if (!s.isEmpty() && nomeDoppio(s, nome)) {

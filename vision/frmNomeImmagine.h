@@ -1,15 +1,15 @@
-// The dialog that names a selected area and stores it.
+// The dialog that gives a selected area a name and stores it.
 #pragma once
 
-#include "vision/Acquisizione.h"
-#include "vision/Area.h"
 #include "controls/CasellaTesto.h"
 #include "controls/Finestra.h"
-#include "vision/InPixel.h"
 #include "controls/Temporizzatore.h"
+#include "vision/Acquisizione.h"
+#include "vision/Area.h"
+#include "vision/InPixel.h"
 #include "vision/frmImmaginiAcquisite.h"
 
-// Its Tag is the record without its name, while the area is copied and until it is stored.
+// Its Tag is the record without its name. It grows while the area is copied.
 class frmNomeImmagine : public Finestra
 {
     Q_OBJECT
@@ -17,12 +17,12 @@ class frmNomeImmagine : public Finestra
 public:
     explicit frmNomeImmagine(frmImmaginiAcquisite &immagini);
 
-    // Begins to copy an area of the frame, and shows the dialog while the copy goes on. It belongs
-    // to that window: it is always in front of it, but the window stays usable. If a pixel lies
-    // outside the frame it fails with Matrice::FuoriIntervallo, and there is no dialog.
+    // Starts to copy an area of the frame pixel, and shows the dialog while the copy continues. The
+    // dialog stays in front of the window padrona, which can still be used. Throws
+    // Matrice::FuoriIntervallo if a pixel lies outside the frame; the dialog is not shown then.
     void nomina(const Matrice &pixel, const Area &area, QWidget &padrona);
 
-    // As large as a frame; imgAcquisita lies on it.
+    // The place of imgAcquisita, as large as a frame.
     Superficie areaImmagine;
     SuperficieInPixel imgAcquisita;
     Etichetta lblAttesa;

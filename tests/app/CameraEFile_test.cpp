@@ -1,11 +1,14 @@
-// The video window and the file browser on one line: what one throws away the other hears of.
-#include "tests/support/Attesa.h"
-#include "tests/vision/BancoVisione.h"
-#include "tests/support/Scritte.h"
+// The video window and the file browser share a line: the file browser learns that the video window
+// has discarded bytes.
 #include "filebrowser/frmEsploraFile.h"
+#include "tests/support/Attesa.h"
+#include "tests/support/Scritte.h"
+#include "tests/vision/BancoVisione.h"
 
 #include <QTest>
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -58,7 +61,7 @@ TEST_F(CameraEFile, ClosingTheCameraDuringAFetchEndsItWithItsError)
     ASSERT_FALSE(p.camera.Visible());
     EXPECT_EQ(p.pannello3(), erroreLettura);
     finita();
-    // The window is usable: the next fetch succeeds.
+    // The window can be used: the next fetch succeeds.
     esplora.lstFile.setListIndex(0);
     QTest::keyClick(&esplora.lstFile, Qt::Key_Return);
     ASSERT_EQ(esplora.Tag(), u"File"_s);
@@ -67,7 +70,7 @@ TEST_F(CameraEFile, ClosingTheCameraDuringAFetchEndsItWithItsError)
     EXPECT_TRUE(esplora.isEnabled());
 }
 
-TEST_F(CameraEFile, AnewStartOfTheVideoDuringAFetchEndsIt)
+TEST_F(CameraEFile, ARestartOfTheVideoDuringAFetchEndsIt)
 {
     preleva();
     p.camera.Schermo.DblClick();

@@ -1,11 +1,11 @@
-// Every text of every window stands out from its ground.
+// The contrast of all texts of all windows.
 #include "tests/support/Contrasto.h"
 
 #include "tests/app/TutteLeFinestre.h"
 
 #include <gmock/gmock.h>
 
-TEST(ContrastoFinestre, EveryTextStandsOutFromItsGround)
+TEST(ContrastoFinestre, EveryTextHasEnoughContrast)
 {
     TutteLeFinestre tutte;
     tutte.perOgnuna([](Finestra &finestra, const QString &) {
@@ -13,7 +13,7 @@ TEST(ContrastoFinestre, EveryTextStandsOutFromItsGround)
     });
 }
 
-TEST(ContrastoFinestre, WhatIsPrintedOnTheVideoSurfaceStandsOut)
+TEST(ContrastoFinestre, TextOnTheVideoSurfaceHasEnoughContrast)
 {
     TutteLeFinestre tutte;
     const QPalette tavolozza = tutte.visione.camera.Schermo.palette();

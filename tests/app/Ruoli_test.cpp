@@ -1,8 +1,10 @@
-// What a screen reader says of pictures and labels that are clicked.
+// What a screen reader reports for pictures and labels that can be clicked.
 #include "tests/app/TutteLeFinestre.h"
 
 #include <QAccessible>
 #include <gmock/gmock.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -62,7 +64,7 @@ TEST(RuoliFinestre, AScreenReaderPressesWhatTheMousePresses)
     EXPECT_NE(tutte.visione.comandi(), QByteArray());
 }
 
-TEST(RuoliFinestre, ABoxTellsItsMark)
+TEST(RuoliFinestre, ACheckBoxReportsItsMark)
 {
     TutteLeFinestre tutte;
     frmImpCondizioni &dialogo = tutte.processor.impCondizioni;

@@ -1,9 +1,9 @@
-// The same of the simulated robot's window.
-#include "tests/support/Contrasto.h"
-#include "simulator/window/FinestraSimulatore.h"
+// Keyboard and contrast in the window of the simulated robot.
 #include "simulator/Simulatore.h"
 #include "simulator/robot/Stanza.h"
+#include "simulator/window/FinestraSimulatore.h"
 #include "tests/app/Tastiera.h"
+#include "tests/support/Contrasto.h"
 
 #include <QTest>
 #include <gmock/gmock.h>
@@ -23,7 +23,7 @@ struct TastieraSimulatore : testing::Test
 
 } // namespace
 
-TEST_F(TastieraSimulatore, WhateverTakesAClickIsReachedByTheKeyboard)
+TEST_F(TastieraSimulatore, WhatTakesAClickIsReachedByTheKeyboard)
 {
     EXPECT_THAT(irraggiungibili(finestra), testing::IsEmpty());
     QStringList nomi;
@@ -33,12 +33,12 @@ TEST_F(TastieraSimulatore, WhateverTakesAClickIsReachedByTheKeyboard)
     EXPECT_TRUE(nomi.contains(u"pulStacca"_s));
 }
 
-TEST_F(TastieraSimulatore, TheTabKeyFollowsTheReader)
+TEST_F(TastieraSimulatore, TheTabKeyFollowsTheReadingOrder)
 {
     EXPECT_THAT(fuoriOrdine(finestra), testing::IsEmpty());
 }
 
-TEST_F(TastieraSimulatore, EveryTextStandsOutFromItsGround)
+TEST_F(TastieraSimulatore, EveryTextHasEnoughContrast)
 {
     EXPECT_THAT(pocoLeggibili(finestra), testing::IsEmpty());
 }
@@ -55,13 +55,13 @@ TEST_F(TastieraSimulatore, TheArrowsMoveTheRobotAndWhatTheSpaceBarChooses)
     const QPointF cosa = sim.robot().stanza().cose().at(0).centro;
     const QImage senzaCosa = stanza->grab().toImage();
     QTest::keyClick(stanza, Qt::Key_Space);
-    EXPECT_NE(stanza->grab().toImage(), senzaCosa) << "what is chosen can be seen";
+    EXPECT_NE(stanza->grab().toImage(), senzaCosa) << "the choice is visible";
     QTest::keyClick(stanza, Qt::Key_Left);
     QTest::keyClick(stanza, Qt::Key_Up);
     EXPECT_EQ(sim.robot().stanza().cose().at(0).centro, cosa - QPointF(10, 10));
     EXPECT_EQ(QPointF(sim.robot().stato().x, sim.robot().stato().y), robot + QPointF(10, 1));
 
-    // Round to the robot.
+    // The space bar chooses one thing after the other, and then the robot again.
     for (qsizetype i = 0; i < sim.robot().stanza().cose().size(); ++i)
         QTest::keyClick(stanza, Qt::Key_Space);
     QTest::keyClick(stanza, Qt::Key_Left);

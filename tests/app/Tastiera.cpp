@@ -1,8 +1,8 @@
 #include "tests/app/Tastiera.h"
 
-#include "tests/support/Attesa.h"
 #include "controls/Grafica.h"
 #include "controls/Pulsanti.h"
+#include "tests/support/Attesa.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -29,7 +29,7 @@ QRect posto(const QWidget &controllo)
     return {controllo.mapTo(controllo.window(), QPoint()), controllo.size()};
 }
 
-// Above, or further left in the same line.
+// Whether uno comes before altro in reading order: above it, or further left in the same line.
 bool primaInLettura(const QWidget &uno, const QWidget &altro)
 {
     const QRect a = posto(uno);
@@ -49,7 +49,7 @@ void raccogli(const QMenu &menu, QList<QWidget *> &controlli)
     }
 }
 
-// Whether the mouse does something here by a click; parts of a control count as the control.
+// Whether a click on the control has an effect. The parts of a control count as the control.
 bool prendeClick(QWidget &controllo)
 {
     if (const auto *azionabile = dynamic_cast<Azionabile *>(&controllo))
@@ -62,7 +62,7 @@ bool prendeClick(QWidget &controllo)
     return qobject_cast<QAbstractButton *>(&controllo) ||
            qobject_cast<QAbstractItemView *>(&controllo) ||
            qobject_cast<QAbstractSlider *>(&controllo) || qobject_cast<QComboBox *>(&controllo) ||
-           // Of its own accord it would not take the focus.
+           // A plain widget that takes the focus was made to do so.
            controllo.focusPolicy() != Qt::NoFocus;
 }
 

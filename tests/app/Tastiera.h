@@ -1,4 +1,4 @@
-// What of a window the keyboard reaches.
+// Finds out what the keyboard reaches in a window.
 #pragma once
 
 #include <QHash>
@@ -9,19 +9,18 @@
 // Brings the window to the front, so that keys go to it.
 void portaAvanti(QWidget &finestra);
 
-// The controls that the Tab key goes through, in its order, from the one that stands first in
-// reading order; the list is empty where there is none. The focus ends where it was.
+// The controls that the Tab key reaches, in its order, from the first one in reading order. Empty
+// if there is none. The focus is the same afterwards.
 QList<QWidget *> giroDiTab(QWidget &finestra);
 
-// The controls whose action stands, enabled, in the menu that the Menu key opens; none where it
-// opens none.
+// The controls that have an enabled action in the menu of the Menu key. Empty if there is no menu.
 QList<QWidget *> nelMenu(QWidget &finestra);
 
-// What is shown and takes a click, and is reached by neither of the two nor has a key of its own:
-// conTasto names the key for each such control. The arrows of a spin bar count as conTasto of the
-// bar.
+// The names of the visible controls that react to a click but are reached neither by Tab nor by the
+// menu. Those in conTasto are left out: it gives the key of each control that has its own. For the
+// arrows of a spin bar use the name of the bar.
 QStringList irraggiungibili(QWidget &finestra, const QHash<QString, QString> &conTasto = {});
 
-// Where the Tab key goes back: to a control above, unless it stands further right, or to the left
-// in the same line.
+// The pairs of controls between which the Tab key goes back: to a control above that is not further
+// right, or to the left in the same line.
 QStringList fuoriOrdine(QWidget &finestra);

@@ -1,4 +1,4 @@
-// Everything that the mouse does, the keyboard does, in every window.
+// Everything that the mouse can do can be done with the keyboard, in every window.
 #include "tests/app/Tastiera.h"
 
 #include "controls/Messaggi.h"
@@ -7,18 +7,20 @@
 #include <QAbstractButton>
 #include <gmock/gmock.h>
 
+using namespace Qt::StringLiterals;
 using testing::IsEmpty;
 
 namespace {
 
-// What has a key that is its own, in the whole window or in the control named.
+// For each window its controls that have their own key, in the whole window or in the named
+// control.
 const QHash<QString, QHash<QString, QString>> conTasto = {
     {u"frmPrincipale"_s,
      {{u"imgFreccia(1)"_s, u"freccia su"_s},
       {u"imgFreccia(2)"_s, u"freccia a sinistra"_s},
       {u"imgFreccia(3)"_s, u"freccia a destra"_s},
       {u"imgFreccia(4)"_s, u"freccia giù"_s},
-      // They lie on ImgTesta, and a click on them is one on it; so is one on a colour.
+      // These lie on ImgTesta: a click on one of them, or on a colour, is a click on ImgTesta.
       {u"imgfr(0)"_s, u"menu, LED"_s},
       {u"imgfr(1)"_s, u"menu, LED"_s},
       {u"imgfr(2)"_s, u"menu, LED"_s},
@@ -42,7 +44,7 @@ const QHash<QString, QHash<QString, QString>> conTasto = {
 
 } // namespace
 
-TEST(TastieraFinestre, TheWalkFindsWhatTheKeyboardMisses)
+TEST(TastieraFinestre, TheCheckFindsWhatTheKeyboardDoesNotReach)
 {
     Finestra finestra(u"frmProva"_s, u"Prova"_s);
     Immagine disegno(u"imgProva"_s, &finestra);
@@ -65,7 +67,7 @@ TEST(TastieraFinestre, TheWalkFindsWhatTheKeyboardMisses)
     EXPECT_THAT(fuoriOrdine(finestra), IsEmpty());
 }
 
-TEST(TastieraFinestre, WhateverTakesAClickIsReachedByTheKeyboard)
+TEST(TastieraFinestre, WhatTakesAClickIsReachedByTheKeyboard)
 {
     TutteLeFinestre tutte;
     QStringList viste;
@@ -80,7 +82,7 @@ TEST(TastieraFinestre, WhateverTakesAClickIsReachedByTheKeyboard)
                                   u"frmNomeImmagine"_s, u"frmImmaginiAcquisite"_s}));
 }
 
-TEST(TastieraFinestre, TheTabKeyFollowsTheReader)
+TEST(TastieraFinestre, TheTabKeyFollowsTheReadingOrder)
 {
     TutteLeFinestre tutte;
     tutte.perOgnuna([](Finestra &finestra, const QString &) {

@@ -5,6 +5,8 @@
 #include <QSet>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 TEST(Titoli, HaveTheButtonsThatFitTheirWindows)
 {
     const QSet<QString> dialoghi = {u"frmOpzioni"_s, u"frmImpostaPorta"_s, u"frmValore"_s,

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using Visita = std::function<void(Finestra &, const QString &)>;
 
 namespace {
@@ -16,7 +17,7 @@ void mostrata(Finestra &finestra, const QString &stato, const Visita &fai)
     fai(finestra, stato);
 }
 
-// As the robot fills it.
+// A frame as the robot sends it.
 QImage scena()
 {
     return immaginePiena(qRgb(200, 200, 200));

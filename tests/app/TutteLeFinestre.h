@@ -1,20 +1,20 @@
-// All windows of the program, tied together as far as they need it to be shown.
+// All windows of the program, connected as far as is needed to show them.
 #pragma once
 
+#include "conditional/frmProcessor.h"
+#include "filebrowser/frmEsploraFile.h"
+#include "tests/conditional/OrologioFermo.h"
 #include "tests/movelists/BancoEditor.h"
 #include "tests/vision/BancoVisione.h"
-#include "filebrowser/frmEsploraFile.h"
-#include "conditional/frmProcessor.h"
-#include "tests/conditional/OrologioFermo.h"
 
 class TutteLeFinestre
 {
 public:
-    // The console is on the screen, connected to a robot that answers.
+    // Shows the console and connects it to a robot that answers.
     TutteLeFinestre();
 
-    // Does something with each window while it is shown with what it can show, once in each of its
-    // states: window, and the state's name.
+    // Calls fai for each window while it is shown with typical content, once in each of its states.
+    // The arguments are the window and the name of the state.
     void perOgnuna(const std::function<void(Finestra &, const QString &)> &fai);
     // The same with the console alone.
     void perLaConsole(const std::function<void(Finestra &, const QString &)> &fai);

@@ -1,14 +1,16 @@
-// The whole way: the console, a pseudo-terminal, the simulated robot with a storage of its own.
-#include "tests/support/Attesa.h"
-#include "tests/filebrowser/BancoEsploraFile.h"
+// The whole path: the console, a pseudo-terminal, and the simulated robot with its own storage.
 #include "link/ComandiTessaro.h"
-#include "simulator/robot/Memoria.h"
-#include "tests/support/Modali.h"
 #include "serial/PortaAsio.h"
 #include "simulator/Simulatore.h"
+#include "simulator/robot/Memoria.h"
+#include "tests/filebrowser/BancoEsploraFile.h"
+#include "tests/support/Attesa.h"
+#include "tests/support/Modali.h"
 
 #include <QDir>
 #include <QDirIterator>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -55,7 +57,7 @@ struct Albero : ::testing::Test
         console.Collega();
         ASSERT_EQ(console.BarraStato.Panels(1), u"Connesso"_s);
     }
-    // The toolbar's button, as the user presses it.
+    // Clicks the toolbar's button with that image.
     void premi(int immagine)
     {
         for (int i = 1; i <= 7; ++i) {
@@ -86,7 +88,7 @@ struct Albero : ::testing::Test
         esplora.pulHome.click();
         ASSERT_TRUE(fermo());
     }
-    // Fetches every file of the folder shown and compares it with the robot's.
+    // Fetches every file of the shown folder and compares it with the robot's.
     void prelevaTutti(const QString &dove)
     {
         for (const QString &nome : voci(esplora.lstFile)) {
@@ -108,7 +110,7 @@ struct Albero : ::testing::Test
 
 } // namespace
 
-TEST_F(Albero, WalkedToItsEndGivesEveryFileAsTheRobotHasIt)
+TEST_F(Albero, EveryFileOfTheTreeIsFetchedUnchanged)
 {
     scrivi(u"disk/leggimi.txt"_s, "ciao\r\n");
     scrivi(u"disk/vuoto"_s, {});
@@ -144,7 +146,7 @@ TEST_F(Albero, WalkedToItsEndGivesEveryFileAsTheRobotHasIt)
     entra(u"."_s);
     entra(u"disk"_s);
 
-    // All but the one file that no path of a single name reaches.
+    // All files but the one that no path of a single name can open.
     QStringList tutti;
     QDirIterator cammino(memoria.path(), QDir::Files, QDirIterator::Subdirectories);
     while (cammino.hasNext())
@@ -156,7 +158,7 @@ TEST_F(Albero, WalkedToItsEndGivesEveryFileAsTheRobotHasIt)
     EXPECT_TRUE(aspetta([&] { return robot.robot().memoria().aperti() == 0; }));
 }
 
-TEST_F(Albero, AFolderThatNoSingleNameReachesIsToldByTheRobot)
+TEST_F(Albero, AFolderThatNoSingleNameCanOpenIsReported)
 {
     scrivi(u"mmc/dati/in fondo.bin"_s, "x");
     scrivi(u"disk/a"_s, "a");
@@ -191,7 +193,7 @@ TEST_F(Albero, AFileThatTheRobotCannotReadLeavesTheWindowDisabledUntilItIsClosed
     EXPECT_EQ(cartella.leggi(u"a.txt"_s), "a");
 }
 
-TEST_F(Albero, TheFilesAreOnlyShownToWhoIsConnected)
+TEST_F(Albero, TheFilesAreShownOnlyDuringAConnection)
 {
     RispondiMessaggi messaggi;
     console.Mostra();
@@ -202,7 +204,7 @@ TEST_F(Albero, TheFilesAreOnlyShownToWhoIsConnected)
         QStringList{u"I file del ROBOT si possono vedere solo se si è collegati ad Tessaro"_s});
 }
 
-TEST_F(Albero, DisconnectingInTheMiddleOfAListingUnloadsTheWindow)
+TEST_F(Albero, DisconnectingDuringAListingUnloadsTheWindow)
 {
     for (int i = 0; i < 300; ++i)
         scrivi(u"disk/file%1"_s.arg(i), {});
@@ -214,7 +216,7 @@ TEST_F(Albero, DisconnectingInTheMiddleOfAListingUnloadsTheWindow)
     premi(6);
     EXPECT_FALSE(esplora.Visible());
     EXPECT_FALSE(console.COM.PortOpen());
-    // What was on its way goes with the line.
+    // The bytes that were on the way are lost with the line.
     robot.impostaBaud(0);
     robot.sgancia();
     ASSERT_TRUE(robot.riaggancia());
@@ -225,7 +227,7 @@ TEST_F(Albero, DisconnectingInTheMiddleOfAListingUnloadsTheWindow)
     EXPECT_EQ(esplora.lstFile.ListCount(), 300);
 }
 
-TEST_F(Albero, DisconnectingInTheMiddleOfAFetchUnloadsTheWindowAndWritesNothing)
+TEST_F(Albero, DisconnectingDuringAFetchUnloadsTheWindowAndWritesNothing)
 {
     scrivi(u"disk/grande.bin"_s, contenuto(20000, 1));
     apri();
@@ -239,7 +241,7 @@ TEST_F(Albero, DisconnectingInTheMiddleOfAFetchUnloadsTheWindowAndWritesNothing)
     EXPECT_TRUE(esplora.isEnabled());
 }
 
-TEST_F(Albero, ALineThatVanishesInTheMiddleOfAFetchLeavesItToTheDisconnection)
+TEST_F(Albero, IfTheLineIsLostDuringAFetchTheDisconnectionEndsIt)
 {
     scrivi(u"disk/grande.bin"_s, contenuto(20000, 1));
     apri();
@@ -255,7 +257,7 @@ TEST_F(Albero, ALineThatVanishesInTheMiddleOfAFetchLeavesItToTheDisconnection)
     EXPECT_FALSE(cartella.contiene(u"grande.bin"_s));
 }
 
-TEST_F(Albero, TheOtherWindowsAndTheAnimationGoOnDuringAFetchAtTheLinesSpeed)
+TEST_F(Albero, ConsoleAndAnimationWorkDuringAFetchAtTheSpeedOfTheLine)
 {
     scrivi(u"disk/grande.bin"_s, contenuto(1500, 1));
     apri();
@@ -266,7 +268,7 @@ TEST_F(Albero, TheOtherWindowsAndTheAnimationGoOnDuringAFetchAtTheLinesSpeed)
         const int prima = esplora.imgAttesa.Picture();
         ASSERT_TRUE(aspetta([&] { return esplora.imgAttesa.Picture() != prima; }));
     }
-    // The user drives the robot meanwhile.
+    // The user moves the robot meanwhile.
     robot.dimentica();
     console.opzBraccia.click();
     EXPECT_TRUE(console.opzBraccia.Value());
@@ -297,7 +299,7 @@ TEST_F(Albero, WrongLengthsDroppedAndDoubledBytesBreakNothing)
         gira(200);
     }
     robot.robot().guasti() = {};
-    // What was cut off is made up by telemetry, then all is well again.
+    // Telemetry completes the telegrams that were cut off; after that everything works again.
     esplora.close();
     premi(7);
     ASSERT_TRUE(aspetta([&] {
@@ -306,7 +308,7 @@ TEST_F(Albero, WrongLengthsDroppedAndDoubledBytesBreakNothing)
     }));
     esplora.close();
     ASSERT_TRUE(aspetta([&] { return console.tmrElabInput.accumulatore.vuoto(); }));
-    // A status that was still on its way ends the first listing early.
+    // A status that was still on the way can end the first listing too early.
     bool intero = false;
     for (int tentativo = 0; tentativo < 5 && !intero; ++tentativo) {
         esplora.close();

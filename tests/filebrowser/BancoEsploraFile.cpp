@@ -5,6 +5,8 @@
 #include <QImage>
 #include <QMouseEvent>
 
+using namespace Qt::StringLiterals;
+
 QByteArray jpeg(QSize misura, const QColor &colore)
 {
     QImage immagine(misura, QImage::Format_RGB32);

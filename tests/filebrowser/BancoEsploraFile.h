@@ -1,24 +1,24 @@
-// The file browser over the console's line and receive engine, with a line that the test holds.
+// The file browser with the console's receive engine, on a simulated port.
 #pragma once
 
+#include "console/frmPrincipale.h"
+#include "filebrowser/frmEsploraFile.h"
 #include "tests/support/Attesa.h"
 #include "tests/support/CartellaDiProva.h"
 #include "tests/support/PortaFinta.h"
 #include "tests/support/Scritte.h"
-#include "filebrowser/frmEsploraFile.h"
-#include "console/frmPrincipale.h"
 
 #include <gtest/gtest.h>
 
 // A JPEG file of that size, of one colour.
 QByteArray jpeg(QSize misura, const QColor &colore = Qt::darkCyan);
 
-// Telegrams as the robot's storage sends them.
+// Telegrams of the robot's storage: the status of channel k, an entry, a block of a file.
 QByteArray stato(int k, int x);
 QByteArray voce(int k, int x, const QByteArray &nome);
 QByteArray blocco(int k, const QByteArray &contenuto);
 
-// Two presses and releases at a row of the list.
+// Double-clicks a row of the list.
 void doppioClick(Elenco &lista, int riga);
 int rigaDi(const Elenco &lista, const QString &nome);
 QStringList voci(const Elenco &lista);
@@ -27,16 +27,16 @@ struct Banco : ::testing::Test
 {
     Banco();
 
-    // The robot sends; returns when all of it was taken from the line.
+    // The robot sends; returns when all bytes were read from the port.
     void robot(const QByteArray &byte);
-    // The same, and the engine is done with all that it waited for.
+    // The same, but returns when the engine has also processed all of them.
     void robotFinito(const QByteArray &byte);
     // What was written to the robot since the last call.
     QByteArray scritti();
     QString pannello() const { return console.BarraStato.Panels(3); }
     // Shows the window and answers its first listing with these folders and files.
     void apri(const QList<QByteArray> &cartelle, const QList<QByteArray> &file);
-    // Double-clicks a file and answers up to the open channel k.
+    // Double-clicks a file; the robot then reports channel k as open.
     void chiedi(const QString &nome, int k);
 
     CartellaDiProva cartella;

@@ -1,11 +1,13 @@
-// One request to the storage at a time: what comes meanwhile, what is given up, what comes too
-// late.
+// One request to the storage at a time: what arrives meanwhile, requests that are given up, late
+// answers.
 #include "tests/filebrowser/BancoEsploraFile.h"
 #include "tests/support/Modali.h"
 
 #include <QApplication>
 #include <QTest>
 #include <QTimer>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -25,7 +27,7 @@ struct Conversazione : Banco
         QEvent evento(QEvent::WindowActivate);
         QApplication::sendEvent(&esplora, &evento);
     }
-    // The top level, as the robot tells it on that channel.
+    // The entries of the top level on channel k, and the end of the listing.
     static QByteArray cima(int k)
     {
         return voce(k, 2, "foto") + voce(k, 1, "a.txt") + stato(k, 255);
@@ -60,7 +62,7 @@ struct Conversazione : Banco
 
 } // namespace
 
-TEST_F(Conversazione, ASecondClickOnTheHouseIsLeftAndTheListingIsWhole)
+TEST_F(Conversazione, ASecondClickOnHomeIsIgnoredAndTheListingIsComplete)
 {
     apri({}, {});
     premiCasa();
@@ -72,12 +74,12 @@ TEST_F(Conversazione, ASecondClickOnTheHouseIsLeftAndTheListingIsWhole)
     robotFinito(voce(1, 1, "a.txt") + stato(1, 255));
     cimaMostrata();
     EXPECT_EQ(scritti(), b({46, 1, 46, 1, 46, 1, 41, 1}));
-    // And then it asks again.
+    // Afterwards a click sends a request again.
     premiCasa();
     EXPECT_EQ(scritti(), b({40, 16, 0}));
 }
 
-TEST_F(Conversazione, AFolderOfAListingThatStillRunsIsNotEntered)
+TEST_F(Conversazione, AFolderIsNotOpenedWhileItsListingRuns)
 {
     esplora.Mostra();
     robotFinito(stato(1, 0) + voce(1, 2, "foto"));
@@ -92,7 +94,7 @@ TEST_F(Conversazione, AFolderOfAListingThatStillRunsIsNotEntered)
     EXPECT_EQ(scritti(), b({46, 1, 41, 1}) + b({40, 16, 4}) + "foto");
 }
 
-TEST_F(Conversazione, AFileOfAListingThatStillRunsIsNotFetched)
+TEST_F(Conversazione, AFileIsNotFetchedWhileItsListingRuns)
 {
     esplora.Mostra();
     robotFinito(stato(1, 0) + voce(1, 1, "a.txt"));
@@ -106,7 +108,7 @@ TEST_F(Conversazione, AFileOfAListingThatStillRunsIsNotFetched)
     EXPECT_EQ(pannello(), u"prima"_s);
 }
 
-TEST_F(Conversazione, ComingBackDuringAListingAsksForNothingMore)
+TEST_F(Conversazione, ComingBackDuringAListingSendsNothing)
 {
     esplora.Mostra();
     scritti();
@@ -135,7 +137,8 @@ TEST_F(Conversazione, ClosingTheWindowClosesTheChannelOfItsFetch)
 
 TEST_F(Conversazione, ClosingTheWindowBeforeTheChannelIsKnownClosesThemAll)
 {
-    // The robot takes commands in order: whatever the opening gives is closed by one of these.
+    // The robot executes commands in order: one of these closes the channel that it has just
+    // opened.
     esplora.Mostra();
     scritti();
     esplora.close();
@@ -159,7 +162,7 @@ TEST_F(Conversazione, ClosingTheWindowWithNothingRunningSendsNothing)
     EXPECT_EQ(scritti(), QByteArray());
 }
 
-TEST_F(Conversazione, WithThePortClosedMeanwhileClosingTheWindowSaysNothing)
+TEST_F(Conversazione, WithThePortClosedMeanwhileClosingTheWindowShowsNoMessage)
 {
     esplora.Mostra();
     robotFinito(stato(1, 0));
@@ -170,7 +173,7 @@ TEST_F(Conversazione, WithThePortClosedMeanwhileClosingTheWindowSaysNothing)
     EXPECT_EQ(messaggi.testi(), QStringList());
 }
 
-TEST_F(Conversazione, ReopenedDuringAFetchTheWindowIsListedAndTheBlockWritesNothing)
+TEST_F(Conversazione, ReopenedDuringAFetchTheWindowIsListedAndTheBlockIsNotWritten)
 {
     cartella.scrivi(u"a.txt"_s, "vecchio");
     apri({"foto"}, {"a.txt"});
@@ -189,7 +192,7 @@ TEST_F(Conversazione, ReopenedDuringAFetchTheWindowIsListedAndTheBlockWritesNoth
     EXPECT_EQ(cartella.leggi(u"a.txt"_s), "vecchio");
 }
 
-TEST_F(Conversazione, ReopenedDuringAListingTheOldOnesRestIsLeft)
+TEST_F(Conversazione, ReopenedDuringAListingTheRestOfTheOldOneIsIgnored)
 {
     esplora.Mostra();
     robotFinito(stato(1, 0) + voce(1, 2, "vecchia"));
@@ -202,7 +205,7 @@ TEST_F(Conversazione, ReopenedDuringAListingTheOldOnesRestIsLeft)
     EXPECT_EQ(scritti(), b({46, 1, 46, 1, 46, 1, 41, 1}));
 }
 
-TEST_F(Conversazione, ReopenedDuringAListingTheOldOnesEndIsLeft)
+TEST_F(Conversazione, ReopenedDuringAListingTheEndOfTheOldOneIsIgnored)
 {
     esplora.Mostra();
     robotFinito(stato(1, 0) + voce(1, 2, "vecchia"));
@@ -214,9 +217,9 @@ TEST_F(Conversazione, ReopenedDuringAListingTheOldOnesEndIsLeft)
     cimaMostrata();
 }
 
-TEST_F(Conversazione, ReopenedBeforeTheOpeningWasAnsweredTheListingIsWhole)
+TEST_F(Conversazione, ReopenedBeforeTheAnswerToTheOpeningTheListingIsComplete)
 {
-    // The robot gives the number that the closing freed once more.
+    // The robot uses the freed number once more.
     esplora.Mostra();
     riapri();
     robotFinito(stato(1, 0) + stato(1, 0) + cima(1));
@@ -224,7 +227,7 @@ TEST_F(Conversazione, ReopenedBeforeTheOpeningWasAnsweredTheListingIsWhole)
     EXPECT_EQ(scritti(), b({46, 1, 46, 1, 46, 1, 41, 1}));
 }
 
-TEST_F(Conversazione, ReopenedBeforeTheOpeningWasAnsweredTheLaterChannelCounts)
+TEST_F(Conversazione, ReopenedBeforeTheAnswerToTheOpeningTheLaterChannelIsUsed)
 {
     esplora.Mostra();
     riapri();
@@ -235,7 +238,7 @@ TEST_F(Conversazione, ReopenedBeforeTheOpeningWasAnsweredTheLaterChannelCounts)
     EXPECT_TRUE(scritti().endsWith(b({46, 2, 46, 2, 46, 2, 41, 2})));
 }
 
-TEST_F(Conversazione, ReopenedAfterAnAnswerThatNeverCameTheWindowWorks)
+TEST_F(Conversazione, ReopenedAfterAMissingAnswerTheWindowWorks)
 {
     esplora.Mostra();
     riapri();
@@ -243,7 +246,7 @@ TEST_F(Conversazione, ReopenedAfterAnAnswerThatNeverCameTheWindowWorks)
     cimaMostrata();
     doppioClick(esplora.lstFile, 0);
     scritti();
-    // Nor does the robot answer this.
+    // The robot does not answer this request either.
     riapri();
     robotFinito(stato(1, 0) + cima(1));
     cimaMostrata();
@@ -254,7 +257,7 @@ TEST_F(Conversazione, ReopenedAfterAnAnswerThatNeverCameTheWindowWorks)
     EXPECT_EQ(cartella.elenco(), QStringList());
 }
 
-TEST_F(Conversazione, WhatAnotherChannelTellsIsNotOurs)
+TEST_F(Conversazione, TelegramsOfAnotherChannelAreIgnored)
 {
     esplora.Mostra();
     robotFinito(stato(3, 0));
@@ -263,7 +266,7 @@ TEST_F(Conversazione, WhatAnotherChannelTellsIsNotOurs)
     EXPECT_EQ(scritti(), QByteArray());
     EXPECT_EQ(esplora.Tag(), u"Elenco"_s);
     EXPECT_EQ(esplora.lstCartelle.ListCount(), 0);
-    // A channel that the robot opened and nobody will read.
+    // The robot has opened a channel that is not needed: it is closed.
     robotFinito(stato(6, 0));
     EXPECT_EQ(scritti(), b({41, 6}));
     robotFinito(cima(3));
@@ -271,7 +274,7 @@ TEST_F(Conversazione, WhatAnotherChannelTellsIsNotOurs)
     EXPECT_EQ(scritti(), b({46, 3, 46, 3, 41, 3}));
 }
 
-TEST_F(Conversazione, AnEntryThatComesWithoutAListingIsLeft)
+TEST_F(Conversazione, AnEntryWithoutAListingIsIgnored)
 {
     apri({"foto"}, {"a.txt"});
     robotFinito(voce(1, 2, "tardi"));
@@ -279,7 +282,7 @@ TEST_F(Conversazione, AnEntryThatComesWithoutAListingIsLeft)
     EXPECT_EQ(scritti(), QByteArray());
 }
 
-TEST_F(Conversazione, AfterAFailureTheNextRequestIsTaken)
+TEST_F(Conversazione, AfterAFailureTheNextRequestIsSent)
 {
     esplora.Mostra();
     robotFinito(stato(1, 0) + voce(1, 2, "foto") + voce(1, 1, "a.txt") + stato(1, 5));
@@ -298,7 +301,7 @@ TEST_F(Conversazione, AfterAFailureTheNextRequestIsTaken)
     cimaMostrata();
 }
 
-TEST_F(Conversazione, WithThePortClosedTheHouseAsksEachTime)
+TEST_F(Conversazione, WithThePortClosedEachClickOnHomeShowsAMessage)
 {
     apri({"foto"}, {});
     console.COM.setPortOpen(false);
@@ -308,7 +311,7 @@ TEST_F(Conversazione, WithThePortClosedTheHouseAsksEachTime)
     EXPECT_EQ(messaggi.testi(), QStringList(2, u"Non sono collegato al robot"_s));
 }
 
-TEST_F(Conversazione, ABlockThatNobodyAskedForIsTakenAndWritesNothing)
+TEST_F(Conversazione, ABlockThatWasNotRequestedIsConsumedAndNotWritten)
 {
     cartella.scrivi(u"a.txt"_s, "vecchio");
     apri({"foto"}, {"a.txt"});
@@ -344,7 +347,7 @@ TEST_F(Conversazione, ABlockThatNobodyAskedForIsTakenAndWritesNothing)
     cimaMostrata();
 }
 
-TEST_F(Conversazione, TheBlockOfAFetchThatWasGivenUpIsNotTakenForTheNextOne)
+TEST_F(Conversazione, TheBlockOfAFetchThatWasGivenUpIsNotUsedForTheNextOne)
 {
     apri({}, {"a.txt", "b.txt"});
     chiedi(u"a.txt"_s, 4);
@@ -360,7 +363,7 @@ TEST_F(Conversazione, TheBlockOfAFetchThatWasGivenUpIsNotTakenForTheNextOne)
     EXPECT_EQ(cartella.elenco(), QStringList{u"b.txt"_s});
 }
 
-TEST_F(Conversazione, ClosedWhileABlockIsOnItsWayItWritesNothingAndSaysNothing)
+TEST_F(Conversazione, ClosedWhileABlockIsOnTheWayItWritesAndReportsNothing)
 {
     apri({}, {"a.txt"});
     chiedi(u"a.txt"_s, 4);
@@ -373,7 +376,7 @@ TEST_F(Conversazione, ClosedWhileABlockIsOnItsWayItWritesNothingAndSaysNothing)
     EXPECT_EQ(scritti(), QByteArray());
 }
 
-TEST_F(Conversazione, ReopenedWhileAPhotoIsRefusedTheNewListingGoesOn)
+TEST_F(Conversazione, ReopenedWhileAPhotoIsRefusedTheNewListingContinues)
 {
     apri({"foto"}, {"b.jpg"});
     chiedi(u"b.jpg"_s, 4);
@@ -424,12 +427,24 @@ TEST_F(Conversazione, TheTagCanBeWrittenFromOutside)
     ASSERT_TRUE(esplora.setProperty(tag, QString()));
     robotFinito(stato(1, 255));
     EXPECT_EQ(scritti(), QByteArray());
-    // Nothing is awaited: the next request is taken.
+    // Nothing is awaited any more, so the next request can begin.
     premiCasa();
     EXPECT_EQ(scritti(), b({40, 16, 0}));
 }
 
-TEST_F(Conversazione, AFetchWhoseBytesAreThrownAwayEndsWithItsError)
+TEST_F(Conversazione, AnyOtherTextInTheTagMeansThatNothingIsAwaited)
+{
+    esplora.Mostra();
+    robotFinito(stato(1, 0));
+    scritti();
+    ASSERT_TRUE(esplora.setProperty("Tag", u"elenco"_s));
+    EXPECT_EQ(esplora.property("Tag"), QString());
+    robotFinito(voce(1, 1, "a") + stato(1, 255));
+    EXPECT_EQ(esplora.lstFile.ListCount(), 0);
+    EXPECT_EQ(scritti(), QByteArray());
+}
+
+TEST_F(Conversazione, AFetchWhoseBytesAreDiscardedEndsWithItsError)
 {
     apri({"foto"}, {"a.txt"});
     chiedi(u"a.txt"_s, 4);
@@ -449,7 +464,7 @@ TEST_F(Conversazione, AFetchWhoseBytesAreThrownAwayEndsWithItsError)
     EXPECT_EQ(cartella.leggi(u"a.txt"_s), "ciao");
 }
 
-TEST_F(Conversazione, AListingWhoseBytesAreThrownAwayEndsWithTheSameError)
+TEST_F(Conversazione, AListingWhoseBytesAreDiscardedEndsWithTheSameError)
 {
     for (const bool aperta : {false, true}) {
         esplora.Mostra();
@@ -462,7 +477,7 @@ TEST_F(Conversazione, AListingWhoseBytesAreThrownAwayEndsWithTheSameError)
         EXPECT_EQ(esplora.Tag(), QString());
         EXPECT_FALSE(esplora.imgAttesa.Visible());
         EXPECT_EQ(scritti(), aperta ? b({41, 3}) : chiudiTutti());
-        // The waiting tick takes the next bytes for the rest of what is gone.
+        // The waiting tick takes the next bytes for the rest of the discarded telegram.
         robotFinito(b({42, 9, 4}));
         premiCasa();
         EXPECT_EQ(scritti(), b({40, 16, 0}));
@@ -473,14 +488,14 @@ TEST_F(Conversazione, AListingWhoseBytesAreThrownAwayEndsWithTheSameError)
     }
 }
 
-TEST_F(Conversazione, WithNothingRunningThrownAwayBytesAreNoError)
+TEST_F(Conversazione, WithNothingRunningDiscardedBytesAreNoError)
 {
     apri({"foto"}, {"a.txt"});
     console.BarraStato.setPanels(3, u"prima"_s);
     console.tmrElabInput.accumulatore.svuota();
     EXPECT_EQ(pannello(), u"prima"_s);
     EXPECT_EQ(scritti(), QByteArray());
-    // A fetch that failed stays as it was told.
+    // A fetch that has failed is not changed.
     doppioClick(esplora.lstFile, 0);
     robotFinito(stato(0, 2));
     scritti();
@@ -490,7 +505,7 @@ TEST_F(Conversazione, WithNothingRunningThrownAwayBytesAreNoError)
     EXPECT_EQ(scritti(), QByteArray());
 }
 
-TEST_F(Conversazione, BytesThatAreOnlyAddedToAreNotThrownAway)
+TEST_F(Conversazione, AddingToTheAccumulatorDiscardsNothing)
 {
     apri({}, {"a.txt"});
     chiedi(u"a.txt"_s, 4);

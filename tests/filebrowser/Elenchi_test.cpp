@@ -1,9 +1,11 @@
-// Walking the robot's folders.
+// The listings of the robot's folders.
 #include "tests/filebrowser/BancoEsploraFile.h"
 
 #include <QApplication>
 #include <QMouseEvent>
 #include <QTest>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -15,7 +17,8 @@ struct Elenchi : Banco
     {
         doppioClick(esplora.lstCartelle, rigaDi(esplora.lstCartelle, nome));
     }
-    // As the window system does when the user goes to another window of the program and comes back.
+    // What the window system does when the user goes to another window of the program and comes
+    // back.
     void torna()
     {
         altra.Mostra();
@@ -134,7 +137,7 @@ TEST_F(Elenchi, TheWordsOfTheTopLevelAreSentAsTheirPaths)
     EXPECT_EQ(esplora.lstCartelle.Tag(), QString());
 }
 
-TEST_F(Elenchi, ADotIsSentAsItStandsAndClearsThePrefix)
+TEST_F(Elenchi, ADotIsSentUnchangedAndClearsThePrefix)
 {
     apri({"foto"}, {});
     apriCartella(u"foto"_s);
@@ -199,7 +202,7 @@ TEST_F(Elenchi, ComingBackDuringAFetchLeavesItAlone)
     EXPECT_EQ(scritti(), QByteArray());
 }
 
-TEST_F(Elenchi, AStatusOfFailureIsToldAndClosesAllChannels)
+TEST_F(Elenchi, AStatusOfFailureIsReportedAndClosesAllChannels)
 {
     for (const int x : {1, 2, 3, 5, 24, 254}) {
         esplora.Mostra();
@@ -213,7 +216,7 @@ TEST_F(Elenchi, AStatusOfFailureIsToldAndClosesAllChannels)
     }
 }
 
-TEST_F(Elenchi, StatusFourIsTakenAndDoesNothing)
+TEST_F(Elenchi, StatusFourIsConsumedAndDoesNothing)
 {
     esplora.Mostra();
     scritti();
@@ -227,7 +230,7 @@ TEST_F(Elenchi, StatusFourIsTakenAndDoesNothing)
     EXPECT_EQ(scritti(), b({46, 1}));
 }
 
-TEST_F(Elenchi, WithTheWindowClosedEveryStatusIsTakenAndDoesNothing)
+TEST_F(Elenchi, WithTheWindowClosedEveryStatusIsConsumedAndDoesNothing)
 {
     for (const int x : {0, 2, 4, 255}) {
         robotFinito(stato(1, x) + b({31, x % 50}));
@@ -238,7 +241,7 @@ TEST_F(Elenchi, WithTheWindowClosedEveryStatusIsTakenAndDoesNothing)
     EXPECT_EQ(console.BarraStato.Panels(2), u"<31>"_s);
 }
 
-TEST_F(Elenchi, WithTheWindowClosedAnEntryIsTakenAndDoesNothing)
+TEST_F(Elenchi, WithTheWindowClosedAnEntryIsConsumedAndDoesNothing)
 {
     robotFinito(voce(1, 2, "foto") + b({31, 21}));
     EXPECT_EQ(console.lblTemperatura.Caption(), u"21°"_s);
@@ -253,7 +256,7 @@ TEST_F(Elenchi, TheEndWithoutAListingDoesNothing)
     EXPECT_EQ(scritti(), QByteArray());
 }
 
-TEST_F(Elenchi, TheSpareByteOfAnEntryIsTakenWithItWhateverItIs)
+TEST_F(Elenchi, TheUnusedByteOfAnEntryIsConsumedWhateverItIs)
 {
     esplora.Mostra();
     robotFinito(stato(1, 0));
@@ -264,7 +267,7 @@ TEST_F(Elenchi, TheSpareByteOfAnEntryIsTakenWithItWhateverItIs)
     EXPECT_EQ(console.lblTemperatura.Caption(), u"20°"_s);
 }
 
-TEST_F(Elenchi, AnEntryWithoutItsSpareByteIsTakenAndTheNextByteBeginsATelegram)
+TEST_F(Elenchi, AnEntryWithoutItsUnusedByteIsConsumedAndTheNextByteBeginsATelegram)
 {
     esplora.Mostra();
     robotFinito(stato(1, 0));
@@ -276,7 +279,7 @@ TEST_F(Elenchi, AnEntryWithoutItsSpareByteIsTakenAndTheNextByteBeginsATelegram)
     EXPECT_EQ(console.lblTemperatura.Caption(), u"33°"_s);
 }
 
-TEST_F(Elenchi, AnEntryShortOfItsNameWaitsForTheRest)
+TEST_F(Elenchi, AnIncompleteNameWaitsForItsRest)
 {
     esplora.Mostra();
     robotFinito(stato(1, 0));
@@ -288,7 +291,7 @@ TEST_F(Elenchi, AnEntryShortOfItsNameWaitsForTheRest)
     EXPECT_EQ(voci(esplora.lstFile), QStringList{u"abc"_s});
 }
 
-TEST_F(Elenchi, NamesKeepAllTheirBytesOnTheWayThere)
+TEST_F(Elenchi, NamesAreSentBackWithAllTheirBytes)
 {
     QByteArray tutti;
     for (int i = 1; i < 256; ++i)
@@ -345,7 +348,7 @@ TEST_F(Elenchi, TheTabKeyGoesFromTheFoldersToTheFilesToTheTopLevelsButton)
     EXPECT_EQ(scritti(), b({40, 16, 0}));
 }
 
-TEST_F(Elenchi, AClickBesideTheRowsLeavesTheChosenOneInSight)
+TEST_F(Elenchi, AClickBesideTheRowsKeepsTheSelection)
 {
     apri({}, {"a", "b"});
     esplora.lstFile.setListIndex(1);
@@ -355,7 +358,7 @@ TEST_F(Elenchi, AClickBesideTheRowsLeavesTheChosenOneInSight)
     EXPECT_TRUE(esplora.lstFile.item(1)->isSelected());
 }
 
-TEST_F(Elenchi, TheKeysWalkAListThatIsStillGrowing)
+TEST_F(Elenchi, TheKeysMoveInAListThatIsStillGrowing)
 {
     esplora.Mostra();
     QByteArray elenco = stato(1, 0);
@@ -387,7 +390,7 @@ TEST_F(Elenchi, ADoubleClickBesideTheRowsDoesNothing)
     EXPECT_TRUE(esplora.isEnabled());
 }
 
-TEST_F(Elenchi, ADoubleClickBesideTheRowsOrWithAnotherButtonLeavesTheChosenRowAlone)
+TEST_F(Elenchi, ADoubleClickBesideTheRowsOrWithAnotherButtonDoesNothing)
 {
     apri({"foto"}, {"a.jpg"});
     scritti();
@@ -411,7 +414,7 @@ TEST_F(Elenchi, ADoubleClickBesideTheRowsOrWithAnotherButtonLeavesTheChosenRowAl
     EXPECT_EQ(esplora.lstFile.ListCount(), 1);
 }
 
-TEST_F(Elenchi, ClosedInTheMiddleOfAListingTheRestIsTakenAndAsksForNothing)
+TEST_F(Elenchi, ClosedDuringAListingTheRestIsConsumedAndNothingIsSent)
 {
     esplora.Mostra();
     robotFinito(stato(2, 0) + voce(2, 2, "foto"));
@@ -427,14 +430,14 @@ TEST_F(Elenchi, ClosedInTheMiddleOfAListingTheRestIsTakenAndAsksForNothing)
     EXPECT_EQ(esplora.lstCartelle.ListCount(), 0);
 }
 
-TEST_F(Elenchi, ARobotThatStopsInTheMiddleLeavesTheWindowToTheUser)
+TEST_F(Elenchi, IfTheRobotStopsDuringAListingTheWindowCanBeUsed)
 {
     esplora.Mostra();
     robotFinito(stato(2, 0) + voce(2, 2, "foto"));
     robot(voce(2, 1, "mai finita").first(6));
     gira(50);
     EXPECT_TRUE(esplora.isEnabled());
-    // One request at a time; opening the window anew is a new one.
+    // Only one request runs at a time; a window that is opened again begins a new one.
     scritti();
     esplora.pulHome.click();
     EXPECT_EQ(scritti(), QByteArray());
@@ -445,7 +448,7 @@ TEST_F(Elenchi, ARobotThatStopsInTheMiddleLeavesTheWindowToTheUser)
     EXPECT_EQ(esplora.lstCartelle.ListCount(), 0);
 }
 
-TEST_F(Elenchi, ALongListingHasItsRowsInOrderAndInTheirPlaces)
+TEST_F(Elenchi, ALongListingHasItsRowsInOrderAndInTheRightPlaces)
 {
     esplora.Mostra();
     QByteArray elenco = stato(1, 0);
@@ -464,7 +467,7 @@ TEST_F(Elenchi, ALongListingHasItsRowsInOrderAndInTheirPlaces)
     EXPECT_EQ(scritti(), b({40, 1, 3}) + "299");
 }
 
-TEST_F(Elenchi, RowsAreLaidOutThoughTheListingNeverEnds)
+TEST_F(Elenchi, RowsAreLaidOutAlsoIfTheListingNeverEnds)
 {
     esplora.Mostra();
     robotFinito(stato(1, 0) + voce(1, 1, "a") + voce(1, 1, "b") + voce(1, 1, "c"));

@@ -1,6 +1,8 @@
-// How the window stands, and what an unloading leaves of it.
+// The layout of the window, and its state after it was unloaded.
 #include "tests/filebrowser/BancoEsploraFile.h"
 #include "tests/support/Modali.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -13,7 +15,7 @@ struct FinestraEsplora : Banco
         ASSERT_TRUE(aspetta([&] { return esplora.size() == QSize(larghezza, altezza); }));
         gira(3);
     }
-    // The rule, in layout units.
+    // Checks the layout rule, in layout units.
     void controlla()
     {
         const double larghezza = esplora.width() * 15.0;
@@ -54,13 +56,13 @@ TEST_F(FinestraEsplora, StartsWithThePhotoItsNameAndTheAnimationHidden)
     EXPECT_EQ(esplora.lstCartelle.Tag(), QString());
 }
 
-TEST_F(FinestraEsplora, StandsByTheRuleAtItsFirstShowing)
+TEST_F(FinestraEsplora, FollowsTheLayoutRuleAtItsFirstShowing)
 {
     apri({"foto"}, {});
     controlla();
 }
 
-TEST_F(FinestraEsplora, StandsByTheRuleAtEverySize)
+TEST_F(FinestraEsplora, FollowsTheLayoutRuleAtEverySize)
 {
     apri({"foto"}, {});
     for (const QSize &dimensioni :
@@ -70,7 +72,7 @@ TEST_F(FinestraEsplora, StandsByTheRuleAtEverySize)
     }
 }
 
-TEST_F(FinestraEsplora, StandsByTheRuleWithThePhotoAtEverySize)
+TEST_F(FinestraEsplora, FollowsTheLayoutRuleWithThePhotoAtEverySize)
 {
     apri({"foto"}, {"a.jpg"});
     doppioClick(esplora.lstFile, 0);
@@ -82,7 +84,7 @@ TEST_F(FinestraEsplora, StandsByTheRuleWithThePhotoAtEverySize)
     }
 }
 
-TEST_F(FinestraEsplora, TheListGivesItsRoomBackWhenThePhotoGoes)
+TEST_F(FinestraEsplora, TheListIsWiderAgainWhenThePhotoIsHidden)
 {
     apri({"foto"}, {"a.jpg", "b.txt"});
     const double senza = esplora.lstFile.Width();
@@ -93,7 +95,7 @@ TEST_F(FinestraEsplora, TheListGivesItsRoomBackWhenThePhotoGoes)
     EXPECT_EQ(esplora.lstFile.Width(), senza);
 }
 
-TEST_F(FinestraEsplora, TooSmallForTheRuleWhatCannotBeSetStaysAsItWas)
+TEST_F(FinestraEsplora, InATooSmallWindowInvalidSizesAreNotSet)
 {
     apri({"foto"}, {});
     const double altezza = esplora.lstFile.Height();
@@ -105,7 +107,7 @@ TEST_F(FinestraEsplora, TooSmallForTheRuleWhatCannotBeSetStaysAsItWas)
     EXPECT_EQ(esplora.imgFoto.Left(), 100 * 15 - esplora.imgFoto.Width() - 200);
 }
 
-TEST_F(FinestraEsplora, AtItsSmallestThePhotoLeavesRoomForNames)
+TEST_F(FinestraEsplora, AtTheSmallestSizeThePhotoLeavesRoomForNames)
 {
     apri({"foto"}, {"a.jpg"});
     doppioClick(esplora.lstFile, 0);
@@ -118,7 +120,7 @@ TEST_F(FinestraEsplora, AtItsSmallestThePhotoLeavesRoomForNames)
     EXPECT_TRUE(esplora.rect().contains(esplora.imgFoto.geometry()));
 }
 
-TEST_F(FinestraEsplora, NothingLiesOverAnythingElse)
+TEST_F(FinestraEsplora, NoControlOverlapsAnother)
 {
     apri({"foto"}, {"a.jpg"});
     doppioClick(esplora.lstFile, 0);
@@ -134,7 +136,7 @@ TEST_F(FinestraEsplora, NothingLiesOverAnythingElse)
     }
 }
 
-TEST_F(FinestraEsplora, AnUnloadingPutsTheDesignValuesBack)
+TEST_F(FinestraEsplora, UnloadingRestoresTheDesignValues)
 {
     apri({"foto"}, {"a.jpg"});
     const QSize misuraPrima = esplora.size();
@@ -153,7 +155,7 @@ TEST_F(FinestraEsplora, AnUnloadingPutsTheDesignValuesBack)
     EXPECT_EQ(esplora.size(), misuraPrima);
 }
 
-TEST_F(FinestraEsplora, WithThePortClosedAskingIsToldOnce)
+TEST_F(FinestraEsplora, WithThePortClosedOneMessageIsShown)
 {
     console.COM.setPortOpen(false);
     RispondiMessaggi messaggi;

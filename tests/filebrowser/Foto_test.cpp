@@ -5,11 +5,13 @@
 
 #include <QBuffer>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct LetturaFoto : ::testing::Test
 {
-    // The number of the error that reading that content gives, 0 for none.
+    // The number of the error when this content is read, 0 for none.
     int esito(const QByteArray &contenuto)
     {
         cartella.scrivi(u"prova.jpg"_s, contenuto);
@@ -18,7 +20,7 @@ struct LetturaFoto : ::testing::Test
     CartellaDiProva cartella;
 };
 
-// The header's two sides are overwritten with others.
+// The file with another width and height in its header.
 QByteArray conMisura(QByteArray byte, int larghezza, int altezza)
 {
     const qsizetype cornice = byte.indexOf(b({0xFF, 0xC0}));
@@ -29,7 +31,7 @@ QByteArray conMisura(QByteArray byte, int larghezza, int altezza)
 
 } // namespace
 
-TEST(NomeDiFoto, OnlyTheFourSmallCharactersAtTheEndMakeAPhoto)
+TEST(NomeDiFoto, OnlyTheEndingJpgInSmallLettersMakesAPhoto)
 {
     EXPECT_TRUE(nomeDiFoto(u"a.jpg"_s));
     EXPECT_TRUE(nomeDiFoto(u".jpg"_s));
@@ -44,12 +46,12 @@ TEST_F(LetturaFoto, GivesThePhotoInItsOwnSize)
     EXPECT_EQ(leggiFoto(cartella.percorso(u"prova.jpg"_s)).size(), QSize(320, 240));
 }
 
-TEST_F(LetturaFoto, FailsWhereThereIsNoFile)
+TEST_F(LetturaFoto, FailsIfThereIsNoFile)
 {
     EXPECT_THROW(leggiFoto(cartella.percorso(u"manca.jpg"_s)), Errore);
 }
 
-TEST_F(LetturaFoto, FailsWhereTheContentIsNoJpeg)
+TEST_F(LetturaFoto, FailsIfTheContentIsNoJpeg)
 {
     QByteArray png;
     QBuffer uscita(&png);
@@ -60,14 +62,14 @@ TEST_F(LetturaFoto, FailsWhereTheContentIsNoJpeg)
     EXPECT_EQ(esito(b({0xFF, 0xD8, 0xFF})), Errore::ImmagineNonValida);
 }
 
-TEST_F(LetturaFoto, FailsWhereTheHeaderClaimsMorePixelsThanACameraHas)
+TEST_F(LetturaFoto, FailsIfTheHeaderClaimsMorePixelsThanACameraHas)
 {
     EXPECT_EQ(esito(conMisura(jpeg({16, 16}), 65500, 65500)), Errore::ImmagineNonValida);
     EXPECT_EQ(esito(conMisura(jpeg({16, 16}), 4097, 16)), Errore::ImmagineNonValida);
     EXPECT_EQ(esito(conMisura(jpeg({16, 16}), 0, 16)), Errore::ImmagineNonValida);
 }
 
-TEST_F(LetturaFoto, CutAnywhereEitherFailsAsAPictureOrShowsWhatIsThere)
+TEST_F(LetturaFoto, AnIncompleteFileFailsOrShowsWhatItHas)
 {
     const QByteArray intera = jpeg({64, 48});
     for (qsizetype n = 0; n < intera.size(); n += 7) {

@@ -1,4 +1,4 @@
-// Which names a fetched file may have.
+// Which names a fetched file can have.
 #include "filebrowser/NomeSicuro.h"
 #include "tests/support/Scritte.h"
 
@@ -18,7 +18,7 @@ void rifiutati(const QStringList &nomi)
 
 } // namespace
 
-TEST(NomeSicuro, OrdinaryNamesPass)
+TEST(NomeSicuro, OrdinaryNamesAreAccepted)
 {
     for (const QString &nome :
          {u"foto001.jpg"_s, u"LEGGIMI"_s, u"perché.txt"_s, u".nascosto"_s, u"a b.c"_s,
@@ -26,7 +26,7 @@ TEST(NomeSicuro, OrdinaryNamesPass)
         EXPECT_TRUE(nomeSicuro(nome)) << nome.toStdString();
 }
 
-TEST(NomeSicuro, ListsAndProjectsAreTheUsersFilesAndPass)
+TEST(NomeSicuro, ListsAndProjectsAreAccepted)
 {
     for (const QString &nome : {u"lista.sqm"_s, u"ronda.vgp"_s, u".sqm"_s})
         EXPECT_TRUE(nomeSicuro(nome)) << nome.toStdString();
@@ -38,13 +38,13 @@ TEST(NomeSicuro, NamesThatLeadElsewhereAreRefused)
                u"C:\\a"_s, u"C:a"_s, u"a:flusso"_s});
 }
 
-TEST(NomeSicuro, NamesThatASystemDoesNotKeepAsTheyAreAreRefused)
+TEST(NomeSicuro, NamesThatASystemWouldChangeAreRefused)
 {
     rifiutati({u"a."_s, u"a "_s, u"..."_s, u" "_s, u"a\nb"_s, u"a\tb"_s, QString(QChar(0)),
                u"a\x7f"_s, u"a*"_s, u"a?"_s, u"a|b"_s, u"a<b"_s, u"a>b"_s, u"a\"b"_s});
 }
 
-TEST(NomeSicuro, ControlCharactersOfEitherHalfAreRefused)
+TEST(NomeSicuro, ControlCharactersAreRefused)
 {
     for (char16_t c = 0; c < 0x20; ++c)
         rifiutati({u"a"_s + QChar(c) + u"b"_s, QString(QChar(c))});
@@ -68,17 +68,17 @@ TEST(NomeSicuro, TheLinksToThePortsAreRefusedWhateverTheirNumber)
     rifiutati({u"COM3"_s, u"com12"_s, u"COM99"_s});
 }
 
-TEST(NomeSicuro, TheProgramsOwnFilesAreRefusedInAnyCase)
+TEST(NomeSicuro, TheProgramsOwnFilesAreRefusedInCapitalsAndSmallLetters)
 {
     const QString programma = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
     rifiutati({u"Porta COM"_s, u"PORTA com"_s, u"prog.dat"_s, u"Prog.dat"_s, u"Immagini.dat"_s,
                u"immagini.DAT"_s, programma, programma.toUpper()});
     EXPECT_TRUE(nomeSicuro(u"x"_s + programma));
-    // The simulated robot lies beside it.
+    // The simulated robot is a program in the same folder.
     rifiutati({u"tessaro-sim"_s, u"Tessaro-Sim.exe"_s});
 }
 
-TEST(NomeSicuro, WhatWouldBePartOfTheProgramAtItsNextStartIsRefused)
+TEST(NomeSicuro, FilesThatTheProgramWouldLoadAtItsNextStartAreRefused)
 {
     rifiutati({u"Qt6Core.dll"_s, u"version.DLL"_s, u"qt.conf"_s, u"QT.CONF"_s, u"qt6.conf"_s});
     rifiutati({u"libQt6Core.so"_s, u"libQt6Core.so.6"_s, u"libc.SO.6.2.1"_s});

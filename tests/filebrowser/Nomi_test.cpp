@@ -1,4 +1,4 @@
-// How names are shown that are too long, or that are no plain text.
+// How names are shown that are too long or contain special characters.
 #include "filebrowser/Nomi.h"
 
 #include "tests/filebrowser/BancoEsploraFile.h"
@@ -9,11 +9,13 @@
 #include <QTextDocument>
 #include <QToolTip>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Nomi : Banco
 {
-    // What the tip says when the mouse rests on the row; nothing where there is none.
+    // The text of the tool tip of a row, empty if there is none.
     QString suggerito(Elenco &lista, int riga)
     {
         QToolTip::hideText();
@@ -29,7 +31,7 @@ struct Nomi : Banco
 
 } // namespace
 
-TEST(Suggerimento, IsTheTextToTheLetter)
+TEST(Suggerimento, ShowsTheTextUnchanged)
 {
     for (const QString &testo : {u"a.jpg"_s, u"a & b"_s, u"<b>a</b>"_s, u"&lt;"_s, u"a   b"_s}) {
         ASSERT_TRUE(Qt::mightBeRichText(suggerimento(testo)));
@@ -40,7 +42,7 @@ TEST(Suggerimento, IsTheTextToTheLetter)
     EXPECT_EQ(suggerimento({}), QString());
 }
 
-TEST_F(Nomi, ALongNameIsCutAtTheListsEdgeAndReadInItsTip)
+TEST_F(Nomi, ALongNameIsShortenedAndShownInItsToolTip)
 {
     const QString lungo = u"un <b>nome</b> & molto  lungo "_s.repeated(6);
     const QByteArray byte = lungo.toLatin1();
@@ -54,7 +56,7 @@ TEST_F(Nomi, ALongNameIsCutAtTheListsEdgeAndReadInItsTip)
     }
 }
 
-TEST_F(Nomi, ARowIsOneLineWhateverTheNameHolds)
+TEST_F(Nomi, ARowIsOneLineWhateverTheNameContains)
 {
     apri({}, {"a.txt", "riga\nnuova\ttab\x81.txt"});
     const auto *righe = esplora.lstFile.itemDelegate();
@@ -64,7 +66,7 @@ TEST_F(Nomi, ARowIsOneLineWhateverTheNameHolds)
         u"riga\uFFFDnuova\uFFFDtab\uFFFD.txt"_s);
     EXPECT_EQ(esplora.lstFile.visualItemRect(esplora.lstFile.item(1)).height(),
               esplora.lstFile.visualItemRect(esplora.lstFile.item(0)).height());
-    // What is sent is the name itself.
+    // The name is sent unchanged.
     doppioClick(esplora.lstFile, 1);
     EXPECT_EQ(scritti(), b({40, 1, 19}) + "riga\nnuova\ttab\x81.txt");
 }

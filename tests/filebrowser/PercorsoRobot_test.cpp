@@ -6,7 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
-TEST(PercorsoRobot, TheThreeWordsOfTheTopLevelStandForTheirPlaces)
+TEST(PercorsoRobot, TheThreeWordsOfTheTopLevelHaveTheirOwnPaths)
 {
     EXPECT_EQ(percorsoCartella(u"disk"_s), QString());
     EXPECT_EQ(percorsoCartella(u"mmc"_s), u"../mmc"_s);
@@ -20,14 +20,14 @@ TEST(PercorsoRobot, AnyOtherNameIsItsOwnPath)
         EXPECT_EQ(percorsoCartella(nome), nome);
 }
 
-TEST(PercorsoRobot, TheNameWithASlashStandsBeforeTheFiles)
+TEST(PercorsoRobot, ThePrefixIsTheNameWithASlash)
 {
     EXPECT_EQ(prefissoCartella(u"foto"_s), u"foto/"_s);
     EXPECT_EQ(prefissoCartella(u"mmc"_s), u"mmc/"_s);
     EXPECT_EQ(prefissoCartella(u".."_s), u"../"_s);
 }
 
-TEST(PercorsoRobot, NothingStandsBeforeTheFilesOfTheDiskAndOfTheDot)
+TEST(PercorsoRobot, ThePrefixOfTheDiskAndOfTheDotIsEmpty)
 {
     EXPECT_EQ(prefissoCartella(u"disk"_s), QString());
     EXPECT_EQ(prefissoCartella(u"."_s), QString());

@@ -9,17 +9,19 @@
 #include <QTextDocument>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString erroreLettura = u"Errore nella lettura dei file!"_s;
 const QString scaricato = u"File scaricato correttamente!"_s;
 
-// A telegram behind the block: the block is taken once a byte beyond it has come.
+// A telegram after the block: a block is processed when a byte after it has arrived.
 const QByteArray seguito = b({31, 20});
 
 struct PrelievoDiFile : Banco
 {
-    // Offers one file, fetches it and lets the robot answer with that content on channel 4.
+    // Lists one file and fetches it; the robot sends that content on channel 4.
     void preleva(const QByteArray &nome, const QByteArray &contenuto)
     {
         apri({"foto"}, {nome});
@@ -73,7 +75,7 @@ TEST_F(PrelievoDiFile, EnterOnAFileFetchesItAsADoubleClickDoes)
     EXPECT_EQ(pannello(), u"Attendere..."_s);
 }
 
-TEST_F(PrelievoDiFile, ThePrefixStandsBeforeTheName)
+TEST_F(PrelievoDiFile, ThePrefixIsSentBeforeTheName)
 {
     apri({"foto"}, {});
     doppioClick(esplora.lstCartelle, 0);
@@ -120,9 +122,9 @@ TEST_F(PrelievoDiFile, ANameOf255BytesIsFetchedAndReplaced)
     }
 }
 
-TEST_F(PrelievoDiFile, ANameThatIsTooLongForTheDiskIsTold)
+TEST_F(PrelievoDiFile, ANameThatIsTooLongForTheDiskIsReported)
 {
-    // 255 characters that the disk keeps in two bytes each.
+    // On the disk each of these 255 characters takes two bytes.
     preleva(QByteArray(255, '\xe8'), "lungo");
     finito(erroreLettura);
     EXPECT_EQ(cartella.elenco(), QStringList());
@@ -150,7 +152,7 @@ TEST_F(PrelievoDiFile, AnEarlierFileOfThatNameIsReplaced)
     EXPECT_EQ(cartella.elenco(), QStringList{u"a.txt"_s});
 }
 
-TEST_F(PrelievoDiFile, TheBlockIsTakenOnlyOnceAByteBeyondItHasCome)
+TEST_F(PrelievoDiFile, TheBlockIsProcessedOnlyAfterAFurtherByte)
 {
     apri({}, {"a.txt"});
     chiedi(u"a.txt"_s, 4);
@@ -164,7 +166,7 @@ TEST_F(PrelievoDiFile, TheBlockIsTakenOnlyOnceAByteBeyondItHasCome)
     finito(scaricato);
 }
 
-TEST_F(PrelievoDiFile, TheSpareByteOfABlockIsTakenWithItWhateverItIs)
+TEST_F(PrelievoDiFile, TheUnusedByteOfABlockIsConsumedWhateverItIs)
 {
     apri({}, {"a.txt"});
     chiedi(u"a.txt"_s, 4);
@@ -205,7 +207,7 @@ TEST_F(PrelievoDiFile, AFetchedPhotoIsShownUnderItsName)
     EXPECT_LT(colore.blue(), 16);
 }
 
-TEST_F(PrelievoDiFile, ThePhotosTipIsItsNameToTheLetter)
+TEST_F(PrelievoDiFile, ThePhotosToolTipIsItsExactName)
 {
     preleva("gatti & cani, &lt;forse&gt;  due.jpg", jpeg({32, 32}));
     EXPECT_EQ(esplora.lblNomeFoto.Caption(), u"gatti & cani, &lt;forse&gt;  due.jpg"_s);
@@ -225,7 +227,7 @@ TEST_F(PrelievoDiFile, APhotoLargerThanItsPlaceIsShownWhole)
 
 TEST_F(PrelievoDiFile, APhotoSmallerThanItsPlaceIsEnlargedInItsProportions)
 {
-    // Twice as wide as high: bands above and below.
+    // Twice as wide as high: there are empty bands above and below.
     preleva("a.jpg", jpeg({40, 20}, Qt::green));
     const QImage vista = esplora.imgFoto.grab().toImage();
     for (const QPoint &punto :
@@ -245,7 +247,7 @@ TEST_F(PrelievoDiFile, ANameInCapitalsIsNoPhoto)
     EXPECT_EQ(esplora.lblNomeFoto.Caption(), QString());
 }
 
-TEST_F(PrelievoDiFile, AFileThatIsNoPhotoHidesTheOneBefore)
+TEST_F(PrelievoDiFile, AFileThatIsNoPhotoHidesThePreviousPhoto)
 {
     apri({}, {"a.jpg", "b.txt"});
     chiedi(u"a.jpg"_s, 4);
@@ -256,7 +258,7 @@ TEST_F(PrelievoDiFile, AFileThatIsNoPhotoHidesTheOneBefore)
     EXPECT_FALSE(esplora.lblNomeFoto.Visible());
 }
 
-TEST_F(PrelievoDiFile, APhotoThatIsNoneIsToldAndTheWorkGoesOn)
+TEST_F(PrelievoDiFile, AnInvalidPhotoIsReportedAndTheFetchEnds)
 {
     apri({}, {"a.jpg", "b.jpg"});
     chiedi(u"a.jpg"_s, 4);
@@ -340,7 +342,7 @@ TEST_F(PrelievoDiFile, ALinkThatLeadsOutOfTheFolderIsNotFollowed)
     EXPECT_EQ(altrove.leggi(u"vittima"_s), "intatta");
 }
 
-TEST_F(PrelievoDiFile, AFolderOfThatNameIsToldAndStays)
+TEST_F(PrelievoDiFile, AFolderOfThatNameIsReportedAndStays)
 {
     ASSERT_TRUE(QDir(cartella.percorso()).mkdir(u"a.txt"_s));
     preleva("a.txt", "ciao");
@@ -364,7 +366,7 @@ TEST_F(PrelievoDiFile, OnAFullDiskTheOldFileStaysWhole)
         EXPECT_EQ(cartella.leggi(u"a.txt"_s), "vecchio");
         EXPECT_EQ(cartella.elenco(), QStringList{u"a.txt"_s});
     }
-    // And what has room is written again.
+    // A file that has room is written again.
     esplora.Scarica();
     preleva("a.txt", "nuovo");
     finito(scaricato);
@@ -374,7 +376,7 @@ TEST_F(PrelievoDiFile, OnAFullDiskTheOldFileStaysWhole)
 TEST_F(PrelievoDiFile, WithoutTheRightToWriteTheOldFileStaysWhole)
 {
     if (!SenzaDiritti::possibile())
-        GTEST_SKIP() << "no folder is closed here";
+        GTEST_SKIP() << "the right to write cannot be taken away here";
     cartella.scrivi(u"a.txt"_s, "vecchio");
     {
         const SenzaDiritti senza(cartella.percorso());
@@ -394,7 +396,7 @@ TEST_F(PrelievoDiFile, ARefusedPhotoIsNotShownFromAnOlderFile)
     EXPECT_EQ(esplora.lblNomeFoto.Caption(), QString());
 }
 
-TEST_F(PrelievoDiFile, APathLongerThanTheCommandCanTellIsNotSent)
+TEST_F(PrelievoDiFile, APathThatIsTooLongForTheCommandIsNotSent)
 {
     apri({QByteArray(200, 'c')}, {});
     doppioClick(esplora.lstCartelle, 0);
@@ -410,7 +412,7 @@ TEST_F(PrelievoDiFile, APathLongerThanTheCommandCanTellIsNotSent)
     EXPECT_EQ(scritti().size(), 3 + 255);
 }
 
-TEST_F(PrelievoDiFile, ClosedInTheMiddleOfAFetchTheBlockIsTakenAndWrittenNowhere)
+TEST_F(PrelievoDiFile, ClosedDuringAFetchTheBlockIsConsumedAndNotWritten)
 {
     apri({"foto"}, {"a.txt"});
     chiedi(u"a.txt"_s, 4);
@@ -426,24 +428,25 @@ TEST_F(PrelievoDiFile, ClosedInTheMiddleOfAFetchTheBlockIsTakenAndWrittenNowhere
     EXPECT_EQ(esplora.Tag(), u"Elenco"_s);
 }
 
-TEST_F(PrelievoDiFile, ABlockThatIsStillComingLeavesNothingInAWindowOpenedAnew)
+TEST_F(PrelievoDiFile, ABlockThatStillArrivesChangesNothingInAReopenedWindow)
 {
     apri({"foto"}, {"a.txt"});
     chiedi(u"a.txt"_s, 4);
     robot(blocco(4, tuttiIByte(3000)).first(1500));
     esplora.close();
-    // Each look at the block steps the animation, whether or not anybody sees it.
+    // Each check of the incomplete block shows the next picture of the animation, also while the
+    // window is closed.
     gira(100);
     esplora.Mostra();
     EXPECT_EQ(esplora.imgAttesa.Picture(), 1);
     EXPECT_EQ(esplora.Tag(), u"Elenco"_s);
 }
 
-TEST_F(PrelievoDiFile, ClosedWhileAPhotoIsRefusedTheWindowOpensAnewAsItWas)
+TEST_F(PrelievoDiFile, ClosedWhileAPhotoIsRefusedTheWindowReopensWithItsDesignValues)
 {
     apri({"foto"}, {"b.jpg"});
     chiedi(u"b.jpg"_s, 4);
-    // The one moment between the telling and the window's being enabled.
+    // The only moment between the report and the enabling of the window.
     QTimer utente;
     int chiusure = 0;
     QObject::connect(&utente, &QTimer::timeout, &utente, [&] {
@@ -463,7 +466,7 @@ TEST_F(PrelievoDiFile, ClosedWhileAPhotoIsRefusedTheWindowOpensAnewAsItWas)
     EXPECT_FALSE(esplora.imgFoto.Visible());
 }
 
-TEST_F(PrelievoDiFile, ARobotThatStopsInTheMiddleIsWaitedForAndItsRestIsTaken)
+TEST_F(PrelievoDiFile, IfTheRobotStopsForAWhileTheFetchWaitsForTheRest)
 {
     apri({}, {"a.txt"});
     chiedi(u"a.txt"_s, 4);

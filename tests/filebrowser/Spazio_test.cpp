@@ -1,9 +1,10 @@
-// The file browser has room for its texts with every desktop's font.
+// The file browser has room for its texts with the usual font sizes of a desktop.
 #include "tests/filebrowser/BancoEsploraFile.h"
 #include "tests/support/Ritaglio.h"
 
 #include <gmock/gmock.h>
 
+using namespace Qt::StringLiterals;
 using testing::IsEmpty;
 
 namespace {
@@ -35,7 +36,7 @@ struct InMostra : Banco
 
 } // namespace
 
-TEST(Spazio, TheFileBrowserHasIt)
+TEST(Spazio, TheFileBrowserHasRoomForItsTexts)
 {
     for (const double punti : caratteriUsuali) {
         const ConCarattere carattere(punti);

@@ -1,11 +1,13 @@
-// The telegrams of the storage arriving in any pieces.
+// Telegrams of the storage that arrive in pieces.
 #include "tests/filebrowser/BancoEsploraFile.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 struct Pezzi : Banco
 {
-    // Sends the bytes cut at that place, with the line idle between.
+    // Sends the bytes in two pieces, with a pause between them.
     void spezzato(const QByteArray &byte, qsizetype taglio)
     {
         robot(byte.first(taglio));
@@ -73,7 +75,7 @@ TEST_F(Pezzi, AListingAndAFetchByteByByteGiveTheSame)
     EXPECT_TRUE(esplora.isEnabled());
 }
 
-TEST_F(Pezzi, AFailureCutAtEveryByteIsToldOnce)
+TEST_F(Pezzi, AFailureCutAtEveryByteIsReportedOnce)
 {
     for (qsizetype taglio = 1; taglio < 3; ++taglio) {
         esplora.Scarica();
@@ -84,7 +86,7 @@ TEST_F(Pezzi, AFailureCutAtEveryByteIsToldOnce)
     }
 }
 
-TEST_F(Pezzi, WithTheWindowClosedAnEntryCutAtEveryByteIsTaken)
+TEST_F(Pezzi, WithTheWindowClosedAnEntryCutAtEveryByteIsConsumed)
 {
     const QByteArray tutto = voce(5, 2, "foto") + b({31, 20});
     for (qsizetype taglio = 1; taglio < tutto.size(); ++taglio) {
@@ -95,19 +97,20 @@ TEST_F(Pezzi, WithTheWindowClosedAnEntryCutAtEveryByteIsTaken)
     EXPECT_EQ(scritti(), QByteArray());
 }
 
-TEST_F(Pezzi, ATelegramCutShortForGoodEatsWhatFollowsAndTheEngineGoesOn)
+TEST_F(Pezzi, AnIncompleteTelegramConsumesWhatFollowsAndTheEngineContinues)
 {
     apri({"foto"}, {"a.txt"});
     const QByteArray interi[] = {stato(5, 0), voce(5, 1, "abcdef"), blocco(5, "abcdef")};
     for (const QByteArray &intero : interi) {
         for (qsizetype taglio = 1; taglio < intero.size(); ++taglio) {
-            // Enough telemetry to fill any length that the cut one claims by now.
+            // Enough telemetry for any length that the cut telegram can have.
             QByteArray telemetria;
             for (int i = 0; i < 1000; ++i)
                 telemetria += b({31, 30});
             console.lblTemperatura.setCaption({});
             robot(intero.first(taglio) + telemetria);
-            // A block's length field may have been read from the telemetry: 7711 bytes.
+            // The length of a block may have been read from the telemetry: 31 + 256 * 30 = 7711
+            // bytes.
             while (!console.tmrElabInput.accumulatore.vuoto())
                 robot(telemetria);
             robotFinito(b({31, 30, 31, 30}));

@@ -21,7 +21,7 @@ class Copia : public testing::Test
 protected:
     Copia()
     {
-        // Each pixel tells where it stands.
+        // The value of each pixel is 1000 * column + row.
         for (int riga = 1; riga <= 60; ++riga)
             for (int colonna = 1; colonna <= 80; ++colonna)
                 pixel(colonna, riga) = 1000 * colonna + riga;
@@ -59,7 +59,7 @@ TEST_F(Copia, TakesTheAreaOnePixelToTheRightAndBelow)
                                    Punto{2, 2, 12022}));
 }
 
-TEST_F(Copia, GoesOnByTwoRows)
+TEST_F(Copia, CopiesTwoRowsAtEachCall)
 {
     acquisizione.inizia(pixel, 1, 1, 3, 5);
     EXPECT_FALSE(prosegui());
@@ -87,7 +87,7 @@ TEST_F(Copia, CopiesOnePixelOfAnAreaWithoutASize)
     EXPECT_THAT(punti, ElementsAre(Punto{1, 1, 5006}));
 }
 
-TEST_F(Copia, ACompleteOneCopiesNothingMore)
+TEST_F(Copia, ACompleteCopyCopiesNothingMore)
 {
     acquisizione.inizia(pixel, 4, 5, 0, 0);
     prosegui();
@@ -103,7 +103,7 @@ TEST_F(Copia, ReachesTheLastPixelOfTheFrame)
     EXPECT_EQ(punti.back().colore, 80060);
 }
 
-TEST_F(Copia, BeyondTheFrameItFails)
+TEST_F(Copia, FailsOutsideTheFrame)
 {
     acquisizione.inizia(pixel, 80, 1, 0, 0);
     EXPECT_THROW(prosegui(), Errore);

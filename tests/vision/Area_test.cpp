@@ -1,4 +1,4 @@
-// Rectangles on the screen as pixels of the frame.
+// Rectangles on the video surface as pixels of the frame.
 #include "vision/Area.h"
 
 #include "tests/support/ErroreDi.h"
@@ -25,23 +25,23 @@ TEST(AreaInFotogramma, IsTheRectangleDividedByTheZoom)
     attesa({10, 20, 6, 9}, 1, 10, 20, 6, 9);
 }
 
-TEST(AreaInFotogramma, BeginsAtOne)
+TEST(AreaInFotogramma, HasLeftAndTopOfAtLeastOne)
 {
     attesa({2, 3, 50, 40}, 10, 1, 1, 5, 4);
 }
 
-TEST(AreaInFotogramma, EndsWithTheFrame)
+TEST(AreaInFotogramma, IsCutToTheFrame)
 {
     attesa({700, 500, 600, 700}, 10, 70, 50, 10, 10);
     attesa({0, 0, 2000, 2000}, 10, 1, 1, 79, 59);
 }
 
-TEST(AreaInFotogramma, APointHasNoSize)
+TEST(AreaInFotogramma, IsOfSizeZeroForAPoint)
 {
     attesa({105, 203, 1, 1}, 10, 10, 20, 0, 0);
 }
 
-TEST(AreaInFotogramma, FailsWithoutAZoomAndFarOutside)
+TEST(AreaInFotogramma, FailsAtZoomZeroAndFarOutside)
 {
     EXPECT_EQ(erroreDi([] { areaInFotogramma({1, 1, 1, 1}, 0); }), Errore::DivisionePerZero);
     EXPECT_EQ(erroreDi([] { areaInFotogramma({0, 0, 2560, 1}, 10); }), Errore::Overflow);

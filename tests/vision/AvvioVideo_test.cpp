@@ -1,5 +1,5 @@
-// What comes in the middle of a start of the video: it waits for the robot twice, and the user need
-// not.
+// Events during a start of the video: the start waits for the robot twice, and the user can do
+// anything meanwhile.
 #include "tests/vision/BancoVisione.h"
 
 #include "tests/support/Attesa.h"
@@ -9,6 +9,8 @@
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -26,12 +28,13 @@ bool vuoto(const Superficie &superficie)
 class AvvioVideo : public testing::Test
 {
 protected:
-    // Acts from the event loop in the first or the second wait of the next start.
+    // Runs atto from the event loop in the first (1) or the second (2) wait of the next start.
     void nellAttesa(int quale, const std::function<void()> &atto, bool risponde = true)
     {
         dopo(b({0}), quale, atto, risponde);
     }
-    // Acts from the event loop after a write was made so many times.
+    // Runs atto from the event loop after scritta was written so many times. risponde: the robot
+    // answers each write.
     void dopo(const QByteArray &scritta, int volte, const std::function<void()> &atto,
               bool risponde = true)
     {
@@ -68,7 +71,7 @@ protected:
 
 } // namespace
 
-TEST_F(AvvioVideo, ClosedInItsFirstWaitNothingIsStarted)
+TEST_F(AvvioVideo, ClosingInTheFirstWaitStartsNothing)
 {
     banco.apriCamera();
     nellAttesa(1, [this] { camera.close(); });
@@ -77,7 +80,7 @@ TEST_F(AvvioVideo, ClosedInItsFirstWaitNothingIsStarted)
     chiusaESilenziosa();
 }
 
-TEST_F(AvvioVideo, ClosedInItsSecondWaitTheStopGoesOutLast)
+TEST_F(AvvioVideo, ClosingInTheSecondWaitSendsTheStopLast)
 {
     banco.apriCamera();
     nellAttesa(2, [this] { camera.close(); });
@@ -86,7 +89,7 @@ TEST_F(AvvioVideo, ClosedInItsSecondWaitTheStopGoesOutLast)
     chiusaESilenziosa();
 }
 
-TEST_F(AvvioVideo, ClosedWhileTheRobotIsSilentTheWaitEndsToo)
+TEST_F(AvvioVideo, ClosingEndsTheWaitForASilentRobotToo)
 {
     for (const int attesa : {1, 2}) {
         if (attesa == 1)
@@ -105,7 +108,7 @@ TEST_F(AvvioVideo, ClosedWhileTheRobotIsSilentTheWaitEndsToo)
     }
 }
 
-TEST_F(AvvioVideo, ClosedWhileARestartEmptiesTheLineNothingIsStarted)
+TEST_F(AvvioVideo, ClosingWhileARestartEmptiesTheLineStartsNothing)
 {
     banco.apriCamera();
     dopo(b({12}), 1, [this] { camera.close(); });
@@ -114,7 +117,7 @@ TEST_F(AvvioVideo, ClosedWhileARestartEmptiesTheLineNothingIsStarted)
     chiusaESilenziosa();
 }
 
-TEST_F(AvvioVideo, ShownByASecondPressAndClosedWhileItOpensItStaysClosed)
+TEST_F(AvvioVideo, ClosedDuringTheStartAfterASecondClickItStaysClosed)
 {
     for (const int attesa : {1, 2}) {
         if (attesa == 1)
@@ -131,7 +134,7 @@ TEST_F(AvvioVideo, ShownByASecondPressAndClosedWhileItOpensItStaysClosed)
     }
 }
 
-TEST_F(AvvioVideo, TheLineCameraOfAListShowsTheWindowThatOpensAndStartsNothingMore)
+TEST_F(AvvioVideo, TheListLineCameraDuringTheStartShowsTheWindowAndStartsNothing)
 {
     banco.collega();
     nellAttesa(1, [this] { camera.Mostra(); });
@@ -145,7 +148,7 @@ TEST_F(AvvioVideo, TheLineCameraOfAListShowsTheWindowThatOpensAndStartsNothingMo
     EXPECT_EQ(banco.comandi(), chiusura);
 }
 
-TEST_F(AvvioVideo, ClosedAndOpenedAgainInTheWaitOnlyTheSecondStartGoesOn)
+TEST_F(AvvioVideo, ClosedAndReopenedInTheWaitOnlyTheSecondStartContinues)
 {
     for (const int attesa : {1, 2}) {
         if (attesa == 1)
@@ -173,7 +176,7 @@ TEST_F(AvvioVideo, ClosedAndOpenedAgainInTheWaitOnlyTheSecondStartGoesOn)
     EXPECT_EQ(banco.comandi(), chiusura);
 }
 
-TEST_F(AvvioVideo, ADoubleClickInTheMiddleOfItStartsNoSecondOne)
+TEST_F(AvvioVideo, ADoubleClickDuringTheStartStartsNothing)
 {
     for (const int attesa : {1, 2}) {
         if (attesa == 1)
@@ -187,10 +190,11 @@ TEST_F(AvvioVideo, ADoubleClickInTheMiddleOfItStartsNoSecondOne)
     }
     nellAttesa(0, {});
     doppioClick();
-    EXPECT_EQ(banco.comandi(), b({12}) + prima + seconda) << "the next one does";
+    EXPECT_EQ(banco.comandi(), b({12}) + prima + seconda)
+        << "a later double click restarts the video";
 }
 
-TEST_F(AvvioVideo, DisconnectedInTheMiddleOfARestartNothingIsSentAfterTheEnd)
+TEST_F(AvvioVideo, DisconnectingDuringARestartSendsNothingAfterTheEnd)
 {
     const RispondiMessaggi messaggi;
     banco.apriCamera();
@@ -200,11 +204,11 @@ TEST_F(AvvioVideo, DisconnectedInTheMiddleOfARestartNothingIsSentAfterTheEnd)
     EXPECT_EQ(fatti, 1);
     EXPECT_EQ(banco.comandi(), b({12}) + prima + chiusura + b({4}));
     EXPECT_FALSE(camera.Visible());
-    EXPECT_TRUE(messaggi.testi().isEmpty()) << "he knows that he has disconnected";
+    EXPECT_TRUE(messaggi.testi().isEmpty()) << "the user has disconnected, no message is needed";
     EXPECT_EQ(banco.pannello3(), u"Disconnesso"_s);
 }
 
-TEST_F(AvvioVideo, DisconnectedWhileTheWindowOpensItSaysFallito)
+TEST_F(AvvioVideo, DisconnectedWhileTheWindowOpensItShowsFallito)
 {
     RispondiMessaggi messaggi;
     banco.collega();
@@ -219,7 +223,7 @@ TEST_F(AvvioVideo, DisconnectedWhileTheWindowOpensItSaysFallito)
     EXPECT_EQ(banco.comandi(), QByteArray());
 }
 
-TEST_F(AvvioVideo, ResizedInTheMiddleOfItThePictureComesInTheNewSize)
+TEST_F(AvvioVideo, ResizedDuringTheStartThePictureHasTheNewSize)
 {
     banco.apriCamera();
     nellAttesa(1, [this] { camera.resize(410, 310); });
@@ -231,7 +235,7 @@ TEST_F(AvvioVideo, ResizedInTheMiddleOfItThePictureComesInTheNewSize)
     EXPECT_EQ(Schermo.disegno().copy(Schermo.rect()), quadri(immagine, 5, Schermo.size()));
 }
 
-TEST_F(AvvioVideo, WithTheScaleTakenAwayInTheMiddleOfItTheCloseStopsTheRobotAllTheSame)
+TEST_F(AvvioVideo, ClosingStopsTheRobotAlsoAfterTheScaleWasSetToZero)
 {
     banco.apriCamera();
     nellAttesa(2, [this] {
@@ -252,7 +256,7 @@ TEST_F(AvvioVideo, ADoubleClickWhileTheWindowClosesStartsNothing)
     chiusaESilenziosa();
 }
 
-TEST_F(AvvioVideo, PressedWhileTheWindowClosesTheToolbarLeavesNoRequestBehind)
+TEST_F(AvvioVideo, AToolbarClickWhileTheWindowClosesLeavesNoRequest)
 {
     banco.apriCamera();
     dopo(b({28, 103}), 1, [this] { banco.premi(3); });
@@ -260,7 +264,7 @@ TEST_F(AvvioVideo, PressedWhileTheWindowClosesTheToolbarLeavesNoRequestBehind)
     chiusaESilenziosa();
     EXPECT_EQ(banco.comandi(), chiusura);
     camera.Mostra();
-    EXPECT_FALSE(camera.Visible()) << "a list does not open it";
+    EXPECT_FALSE(camera.Visible()) << "a list does not open the window";
 }
 
 TEST_F(AvvioVideo, AfterFallitoADoubleClickShowsThePicture)
@@ -273,7 +277,7 @@ TEST_F(AvvioVideo, AfterFallitoADoubleClickShowsThePicture)
     doppioClick();
     EXPECT_EQ(banco.comandi(), b({12}) + prima + seconda);
     EXPECT_EQ(camera.Tag(), u"10"_s);
-    EXPECT_TRUE(vuoto(Schermo)) << "nothing says Fallito any more";
+    EXPECT_TRUE(vuoto(Schermo)) << "Fallito is cleared";
     const QImage immagine = immagineACaso(3);
     banco.manda(immagine);
     EXPECT_EQ(Schermo.Tag().toInt(), Schermo.width() / 80);
@@ -281,7 +285,7 @@ TEST_F(AvvioVideo, AfterFallitoADoubleClickShowsThePicture)
               quadri(immagine, Schermo.width() / 80, Schermo.size()));
 }
 
-TEST_F(AvvioVideo, AfterFallitoADoubleClickInVainSaysFallitoAgain)
+TEST_F(AvvioVideo, AfterFallitoAFailedDoubleClickShowsFallitoAgain)
 {
     RispondiMessaggi risposte;
     banco.premi(3);
@@ -292,7 +296,7 @@ TEST_F(AvvioVideo, AfterFallitoADoubleClickInVainSaysFallitoAgain)
     EXPECT_EQ(risposte.visti().size(), 2);
 }
 
-TEST_F(AvvioVideo, ResizedWhileItWasOffThePictureComesInTheNewSize)
+TEST_F(AvvioVideo, ResizedWhileTheVideoWasOffThePictureHasTheNewSize)
 {
     banco.apriCamera();
     banco.porta.persa = true;

@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 #include <random>
 
+using namespace Qt::StringLiterals;
+
 qint32 coloreInArrivo(QRgb punto)
 {
     const int rosso = (qRed(punto) / 8) * 255 / 31;

@@ -1,37 +1,38 @@
-// The console with the vision windows above it, and pictures as the robot sends them.
+// The console with the vision windows, and pictures in the form in which the robot sends them.
 #pragma once
 
+#include "console/frmPrincipale.h"
 #include "tests/support/CartellaDiProva.h"
 #include "tests/support/PortaFinta.h"
 #include "vision/frmCamera.h"
-#include "console/frmPrincipale.h"
 
 #include <QImage>
 
-// The colour of a pixel that the robot's 16 bits for it give, worked out on its own.
+// The packed colour of a pixel after the robot's conversion to 16 bits, computed independently of
+// the program.
 qint32 coloreInArrivo(QRgb punto);
 // The 160 bytes of a row of the picture, counted from 0.
 QByteArray rigaVideo(const QImage &immagine, int riga);
 // The telegrams of all 60 rows.
 QByteArray telegrammiVideo(const QImage &immagine);
-// Any colours, no two frames alike.
+// A picture of random colours, another one for each seed.
 QImage immagineACaso(quint32 seme);
 // 80 by 60 of one colour.
 QImage immaginePiena(QRgb colore);
-// What is seen of a frame on a surface of that size at a zoom of s: 4800 boxes.
+// What a frame looks like on a surface of that size at zoom s: 4800 squares.
 QImage quadri(const QImage &immagine, int s, QSize superficie);
 
 class BancoVisione
 {
 public:
-    // immagini: the file of the stored pictures, none where it is null.
+    // immagini: the content of the file of the stored pictures; if it is null there is no file.
     explicit BancoVisione(std::unique_ptr<Porta> porta, const QByteArray &immagini = {});
     ~BancoVisione();
 
-    // Clicks the connect button; what the robot sends then is there or comes.
+    // Clicks the connect button. The robot has answered already or answers by itself.
     void collega();
     void scollega();
-    // Clicks the button of that picture of the toolbar, adding it where there is none.
+    // Clicks the toolbar's button with that image, and adds the button if there is none.
     void premi(int immagine);
     QString pannello3() const { return console.BarraStato.Panels(3); }
 
@@ -49,7 +50,7 @@ private:
                                             const QByteArray &immagini);
 };
 
-// The same on a line without a system behind it: whatever is written is answered by a temperature.
+// The same on a simulated port: each write is answered by a temperature.
 class BancoSuPortaFinta : public BancoVisione
 {
 public:
@@ -60,12 +61,12 @@ public:
     void collega();
     // Connected, and the video window open.
     void apriCamera();
-    // The robot sends these bytes; returns when they are taken.
+    // The robot sends these bytes; returns when the program has processed them.
     void manda(const QByteArray &byte);
     // A whole frame, or rows of one, counted from 0.
     void manda(const QImage &immagine);
     void mandaRighe(const QImage &immagine, int prima, int ultima);
-    // What was written since the last look, but the polls of the sensors.
+    // What was written since the last call, without the polls of the sensors.
     QByteArray comandi();
 
 private:

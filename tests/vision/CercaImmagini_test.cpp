@@ -1,4 +1,4 @@
-// The search on the screen: what is shown, and what a spoilt store does.
+// The search for stored pictures: what is shown, and the effects of a damaged file.
 #include "tests/vision/BancoVisione.h"
 
 #include "tests/support/Attesa.h"
@@ -7,11 +7,14 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString erroreRicerca = u"Errore nella ricerca dell'immagine!"_s;
 
-// The record of an area of the picture as the robot's colours give it, places counted from 1.
+// The record of an area of the picture, with the colours that arrive from the robot. Places count
+// from 1.
 QByteArray record(const QByteArray &nome, const QImage &immagine, QRect area)
 {
     QByteArray testo = '"' + nome + "\"," + QByteArray::number(area.width()) + ',' +
@@ -33,11 +36,7 @@ protected:
         banco.apriCamera();
         camera.resize(800, 600);
     }
-    QRectF trovata() const
-    {
-        const FormaInPixel &s = camera.shpImgRilevata;
-        return {s.Left(), s.Top(), s.Width(), s.Height()};
-    }
+    QRectF trovata() const { return camera.shpImgRilevata.rettangoloPixel(); }
 
     const QImage scena = immagineACaso(21);
     const QImage altra = immagineACaso(22);
@@ -62,13 +61,13 @@ TEST_F(CercaImmagini, TheActivePictureIsFramedAndNamed)
     const EtichettaInPixel &nome = camera.lblNomeImmagine;
     EXPECT_TRUE(nome.isVisible());
     EXPECT_EQ(nome.Caption(), u"Pallone"_s);
-    EXPECT_EQ(nome.Left(), 290);
-    EXPECT_EQ(nome.Top(), 340);
+    EXPECT_EQ(nome.leftPixel(), 290);
+    EXPECT_EQ(nome.topPixel(), 340);
     EXPECT_EQ(nome.font().pointSize(), 30);
     EXPECT_TRUE(camera.Schermo.rect().contains(nome.geometry()));
 }
 
-TEST_F(CercaImmagini, FrameAndNameAreSeenOnALightPictureAsOnADarkOne)
+TEST_F(CercaImmagini, FrameAndNameAreVisibleOnLightAndDarkPictures)
 {
     for (const QRgb sfondo : {0xFFFFFFU, 0x000000U, 0xFFD020U}) {
         QImage immagine = immaginePiena(sfondo);
@@ -79,7 +78,7 @@ TEST_F(CercaImmagini, FrameAndNameAreSeenOnALightPictureAsOnADarkOne)
         ASSERT_TRUE(camera.shpImgRilevata.isVisible());
         const QImage visto = camera.Schermo.grab().toImage();
         const auto grigio = [&](int x, int y) { return qGray(visto.pixel(x, y)); };
-        // Across the upper edge, and across the beginning of the name.
+        // Across the upper edge of the frame, then across the beginning of the name.
         int chiaro = 0;
         int scuro = 255;
         for (int y = 197; y < 204; ++y) {
@@ -95,7 +94,7 @@ TEST_F(CercaImmagini, FrameAndNameAreSeenOnALightPictureAsOnADarkOne)
     }
 }
 
-TEST_F(CercaImmagini, AFrameThatGaveASelectionIsSearchedToo)
+TEST_F(CercaImmagini, AFrameThatGivesASelectionIsSearchedToo)
 {
     QTest::mouseClick(&camera.Schermo, Qt::LeftButton, {}, {100, 100});
     banco.manda(scena);
@@ -103,7 +102,7 @@ TEST_F(CercaImmagini, AFrameThatGaveASelectionIsSearchedToo)
     EXPECT_TRUE(camera.shpImgRilevata.Visible());
 }
 
-TEST_F(CercaImmagini, ItGoesAwayWithTheNextFrameThatLacksIt)
+TEST_F(CercaImmagini, FrameAndNameAreHiddenByTheNextFrameWithoutThePicture)
 {
     banco.manda(scena);
     banco.manda(altra);
@@ -111,7 +110,7 @@ TEST_F(CercaImmagini, ItGoesAwayWithTheNextFrameThatLacksIt)
     EXPECT_FALSE(camera.lblNomeImmagine.Visible());
 }
 
-TEST_F(CercaImmagini, TheFirstActiveOneCounts)
+TEST_F(CercaImmagini, TheFirstActivePictureIsShown)
 {
     lstImgCamera.setItemData(0, -1);
     lstImgCamera.setItemData(2, -1);
@@ -123,7 +122,7 @@ TEST_F(CercaImmagini, TheFirstActiveOneCounts)
     EXPECT_EQ(trovata(), QRectF(50, 50, 60, 40));
 }
 
-TEST_F(CercaImmagini, WithoutAnActiveOneTheFileIsNotTouched)
+TEST_F(CercaImmagini, WithoutAnActivePictureTheFileIsNotRead)
 {
     lstImgCamera.setItemData(1, 0);
     ASSERT_TRUE(QFile::remove(u"Immagini.dat"_s));
@@ -132,7 +131,7 @@ TEST_F(CercaImmagini, WithoutAnActiveOneTheFileIsNotTouched)
     EXPECT_FALSE(camera.shpImgRilevata.Visible());
 }
 
-TEST_F(CercaImmagini, AFileThatVanishesIsToldAndWhatIsShownStays)
+TEST_F(CercaImmagini, AMissingFileIsReportedAndWhatIsShownStays)
 {
     banco.manda(scena);
     ASSERT_TRUE(QFile::remove(u"Immagini.dat"_s));
@@ -140,13 +139,13 @@ TEST_F(CercaImmagini, AFileThatVanishesIsToldAndWhatIsShownStays)
     EXPECT_EQ(banco.pannello3(), erroreRicerca);
     EXPECT_TRUE(camera.shpImgRilevata.Visible());
     EXPECT_TRUE(camera.lblNomeImmagine.Visible());
-    // The frame itself was painted, and the next one begins.
+    // The frame was painted nevertheless, and the next row begins a new frame.
     EXPECT_EQ(camera.Schermo.disegno().copy(camera.Schermo.rect()),
               quadri(altra, 10, camera.Schermo.size()));
     EXPECT_EQ(camera.fotogramma().Riga, 0);
 }
 
-TEST_F(CercaImmagini, AFileThatBecameShorterDoesNotBlockTheNextStoring)
+TEST_F(CercaImmagini, AFileThatIsTooShortCanBeReadAgainLater)
 {
     banco.cartella.scrivi(u"Immagini.dat"_s, "\"a\",1,1,5");
     banco.manda(scena);
@@ -161,7 +160,7 @@ TEST_F(CercaImmagini, TheColoursAreReadFromTheFileAtEveryFrame)
 {
     banco.manda(altra);
     ASSERT_FALSE(camera.shpImgRilevata.Visible());
-    // The size stays that of the entry read at the start.
+    // The size is still that of the entry read at the start.
     banco.cartella.scrivi(u"Immagini.dat"_s,
                           "\"a\",1,1,5\r" + record("Altra", altra, {40, 30, 20, 15}));
     banco.manda(altra);
@@ -169,7 +168,7 @@ TEST_F(CercaImmagini, TheColoursAreReadFromTheFileAtEveryFrame)
     EXPECT_EQ(camera.lblNomeImmagine.Caption(), u"Pallone"_s);
 }
 
-TEST_F(CercaImmagini, TheZoomOfTheMomentCounts)
+TEST_F(CercaImmagini, TheCurrentZoomIsUsed)
 {
     camera.resize(320, 300);
     banco.manda(scena);
@@ -177,7 +176,7 @@ TEST_F(CercaImmagini, TheZoomOfTheMomentCounts)
     EXPECT_EQ(camera.lblNomeImmagine.font().pointSize(), 12);
 }
 
-TEST_F(CercaImmagini, APictureAsWideOrAsHighAsTheFrameIsNeverFoundAndNothingIsTold)
+TEST_F(CercaImmagini, APictureAsWideOrAsHighAsTheFrameIsNeverFoundAndNothingIsReported)
 {
     for (const QSize misura : {QSize(80, 1), QSize(1, 60), QSize(80, 60)}) {
         const QByteArray voce = record("Tutto", scena, QRect(QPoint(1, 1), misura));
@@ -190,7 +189,7 @@ TEST_F(CercaImmagini, APictureAsWideOrAsHighAsTheFrameIsNeverFoundAndNothingIsTo
     }
 }
 
-TEST_F(CercaImmagini, AnEmptyFileIsToldAndTheVideoGoesOn)
+TEST_F(CercaImmagini, AnEmptyFileIsReportedAndTheVideoContinues)
 {
     banco.cartella.scrivi(u"Immagini.dat"_s, {});
     banco.manda(scena);
@@ -198,7 +197,7 @@ TEST_F(CercaImmagini, AnEmptyFileIsToldAndTheVideoGoesOn)
     EXPECT_EQ(camera.fotogramma().Riga, 0);
 }
 
-TEST_F(CercaImmagini, WhereTheFailureIsInALaterPictureAnEarlierOneIsFoundAllTheSame)
+TEST_F(CercaImmagini, AnEarlierPictureIsFoundAlsoIfALaterOneFails)
 {
     banco.cartella.scrivi(u"Immagini.dat"_s,
                           "\"a\",1,1,5\r" + record("Pallone", scena, {30, 20, 20, 15}));
@@ -212,7 +211,7 @@ class VociGuaste : public testing::TestWithParam<QByteArray>
 {
 };
 
-TEST_P(VociGuaste, AreToldOrPassedOverAndTheVideoGoesOn)
+TEST_P(VociGuaste, AreReportedOrIgnoredAndTheVideoContinues)
 {
     BancoSuPortaFinta banco("\"a\",1,1,5\r" + GetParam());
     banco.apriCamera();
@@ -233,7 +232,7 @@ INSTANTIATE_TEST_SUITE_P(
                     QByteArray("\"b\",80,60") + QByteArray(",0").repeated(4800),
                     QByteArray(5000, ','), QByteArray("\xFF\x00\x0D\x0A\x22,,,", 8)));
 
-TEST(StoreOf50Megabytes, IsReadAndTheVideoGoesOn)
+TEST(StoreOf50Megabytes, IsReadAndTheVideoContinues)
 {
     const QImage scena = immagineACaso(21);
     QByteArray file = "\"a\",1,1," + QByteArray(50'000'000, '7') + '\r';
@@ -245,7 +244,7 @@ TEST(StoreOf50Megabytes, IsReadAndTheVideoGoesOn)
     EXPECT_TRUE(banco.camera.shpImgRilevata.Visible());
 }
 
-TEST(CercaImmaginiGuaste, BehindARecordThatALineBreakHasSplitTheOthersAreFound)
+TEST(CercaImmaginiGuaste, RecordsAfterOneThatALineBreakHasSplitAreFound)
 {
     const QImage scena = immagineACaso(21);
     BancoSuPortaFinta banco("\"Nessuna\",2,1,77,88\r\"Pal\rla\",1,1,6\r" +
@@ -253,7 +252,8 @@ TEST(CercaImmaginiGuaste, BehindARecordThatALineBreakHasSplitTheOthersAreFound)
     Elenco &lstImgCamera = banco.console.lstImgCamera;
     ASSERT_EQ(lstImgCamera.ListCount(), 4);
     banco.apriCamera();
-    // The spoilt half is the one that the start makes active: the video goes on all the same.
+    // The start makes the second record active, which is the first half of the split one. The video
+    // continues nevertheless.
     banco.manda(scena);
     EXPECT_EQ(banco.camera.fotogramma().Riga, 0);
     lstImgCamera.setItemData(1, 0);

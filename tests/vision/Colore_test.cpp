@@ -15,12 +15,12 @@ qint32 colore(int b1, int b2)
 
 } // namespace
 
-TEST(Colore, AllBitsAreWhite)
+TEST(Colore, AllBitsSetAreWhite)
 {
     EXPECT_EQ(colore(0xFF, 0xFF), 255 + 255 * 256 + 255 * 65536);
 }
 
-TEST(Colore, NoBitIsBlack)
+TEST(Colore, NoBitsSetAreBlack)
 {
     EXPECT_EQ(colore(0, 0), 0);
 }
@@ -55,17 +55,17 @@ TEST(Colore, DivisionsTruncateForEveryPairOfBytes)
     }
 }
 
-TEST(Colore, BytesBehindThePixelAreNotRead)
+TEST(Colore, BytesAfterThePixelAreIgnored)
 {
     EXPECT_EQ(ColorePixel(QByteArrayLiteral("\xF8\x00\xFF\xFF")), 255);
 }
 
-TEST(Colore, OneByteIsNoPixel)
+TEST(Colore, OneByteFails)
 {
     EXPECT_THROW(ColorePixel(QByteArrayView("\xF8", 1)), Errore);
 }
 
-TEST(Colore, TheWindowSystemGetsTheSameChannels)
+TEST(Colore, QtGetsTheSameChannels)
 {
     EXPECT_EQ(rgb(0x123456), qRgb(0x56, 0x34, 0x12));
 }

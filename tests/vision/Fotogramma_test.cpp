@@ -1,7 +1,7 @@
 #include "vision/Fotogramma.h"
 
-#include "vision/Colore.h"
 #include "tests/support/ErroreDi.h"
+#include "vision/Colore.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@ namespace {
 
 constexpr int scala = 10;
 
-// 80 pixels; the first one tells the row.
+// A row of 80 pixels. The first byte is the number of the row.
 QByteArray riga(int numero)
 {
     QByteArray byte(160, '\0');
@@ -29,7 +29,7 @@ TEST(Fotogramma, TheSixtiethRowCompletesIt)
     EXPECT_EQ(fotogramma.Riga, 60);
 }
 
-TEST(Fotogramma, PixelsStandFromLeftToRightAndRowsFromTopToBottom)
+TEST(Fotogramma, PixelsGoFromLeftToRightAndRowsFromTopToBottom)
 {
     Fotogramma fotogramma;
     for (int i = 1; i <= 60; ++i)
@@ -51,7 +51,7 @@ TEST(Fotogramma, TheFirstByteOfTheNextTelegramIsIgnored)
         EXPECT_EQ(con.Pixel(colonna, 1), senza.Pixel(colonna, 1));
 }
 
-TEST(Fotogramma, ARowThatIsCutFailsAndCountsAllTheSame)
+TEST(Fotogramma, ARowThatIsTooShortFailsButCounts)
 {
     Fotogramma fotogramma;
     EXPECT_EQ(erroreDi([&] { fotogramma.aggiungi(riga(9).left(101), scala); }),
@@ -66,7 +66,7 @@ TEST(Fotogramma, AnEmptyRowFails)
     EXPECT_EQ(erroreDi([&] { fotogramma.aggiungi({}, scala); }), Errore::ChiamataNonValida);
 }
 
-TEST(Fotogramma, ARowBehindTheLastHasNoPlace)
+TEST(Fotogramma, ARowAfterTheLastFailsButCounts)
 {
     Fotogramma fotogramma;
     fotogramma.Riga = 60;
@@ -82,7 +82,7 @@ TEST(Fotogramma, TheRowCountStopsAtTheLimitOfAByte)
     EXPECT_EQ(fotogramma.Riga, 255);
 }
 
-TEST(Fotogramma, TheScaleGivesColumnsAndRows)
+TEST(Fotogramma, TheScaleSetsColumnsAndRows)
 {
     Fotogramma fotogramma;
     for (int i = 1; i < 30; ++i)

@@ -24,7 +24,7 @@ class MosaicoProva : public testing::TestWithParam<int>
 {
 };
 
-TEST_P(MosaicoProva, IsTheSameAsOneBoxForEachPixel)
+TEST_P(MosaicoProva, IsTheSameAsOneSquareForEachPixel)
 {
     const int lato = GetParam();
     const Matrice colori = aCaso(80, 60);
@@ -47,7 +47,7 @@ TEST(Mosaico, DrawsTheUpperLeftPartOnly)
     EXPECT_EQ(immagine.size(), QSize(40, 30));
 }
 
-TEST(Mosaico, ThereIsNothingToDrawWithoutASize)
+TEST(Mosaico, IsNullWithoutASize)
 {
     const Matrice colori = aCaso(80, 60);
     EXPECT_TRUE(mosaico(colori, 80, 60, 0).isNull());

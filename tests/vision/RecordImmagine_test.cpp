@@ -1,7 +1,7 @@
 #include "vision/RecordImmagine.h"
 
-#include "vision/ArchivioImmagini.h"
 #include "tests/support/ErroreDi.h"
+#include "vision/ArchivioImmagini.h"
 #include "vision/NomeDoppio.h"
 
 #include <QDir>
@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-TEST(Record, TheNameStandsBetweenTheQuotationMarks)
+TEST(Record, TheNameIsBetweenTheQuotationMarks)
 {
     EXPECT_EQ(nomeImmagine(u"\"Pallone\",2,1,5,6"_s), u"Pallone"_s);
 }
@@ -21,7 +21,7 @@ TEST(Record, ACommaInTheNameCutsIt)
     EXPECT_EQ(nomeImmagine(u"\"Palla, rossa\",2,1,5,6"_s), u"Pall"_s);
 }
 
-TEST(Record, ThereIsNoNameWithoutARecord)
+TEST(Record, AnInvalidRecordHasNoName)
 {
     EXPECT_EQ(nomeImmagine({}), QString());
     EXPECT_EQ(nomeImmagine(u"Pallone"_s), QString());
@@ -29,7 +29,7 @@ TEST(Record, ThereIsNoNameWithoutARecord)
     EXPECT_EQ(nomeImmagine(u"\"\",1,1,0"_s), QString());
 }
 
-TEST(Record, TheSizeStandsBehindTheFirstTwoCommas)
+TEST(Record, TheSizeFollowsTheFirstTwoCommas)
 {
     const Misure misure = misureImmagine(u"\"Pallone\",20,15,5,6"_s);
     EXPECT_EQ(misure.W, 20);
@@ -50,7 +50,7 @@ TEST(Record, AnEmptyRecordHasNoSize)
     EXPECT_EQ(misure.H, 0);
 }
 
-TEST(Record, OddSizesAreGivenAsTheyStand)
+TEST(Record, NegativeAndFractionalSizesAreNotChanged)
 {
     const Misure misure = misureImmagine(u"\"a\",-3,1.5"_s);
     EXPECT_EQ(misure.W, -3);
@@ -84,7 +84,7 @@ TEST(Record, TheFractionOfAColourIsCutOff)
     EXPECT_EQ(modello(2, 1), -2);
 }
 
-TEST(Record, WhereTheCommasRunOutTheReadingGoesOnAtTheStart)
+TEST(Record, WithTooFewCommasTheReadingContinuesAtTheStart)
 {
     Matrice modello(80, 60);
     leggiModello("\"a\",4,1,7", 4, 1, modello);
@@ -94,7 +94,7 @@ TEST(Record, WhereTheCommasRunOutTheReadingGoesOnAtTheStart)
     EXPECT_EQ(modello(4, 1), 1);
 }
 
-TEST(Record, GarbageIsReadAsNoughts)
+TEST(Record, AnEmptyRecordIsReadAsZeros)
 {
     Matrice modello(80, 60);
     leggiModello({}, 2, 2, modello);
@@ -119,29 +119,29 @@ TEST(Record, ALargerPictureThanTheFrameFails)
               Matrice::FuoriIntervallo);
 }
 
-TEST(Record, TheFirstOneHasNoLineEnd)
+TEST(Record, TheFirstRecordHasNoLineEnd)
 {
     EXPECT_EQ(aggiungiRecord({}, "Pallone", "1,1,5"), "\"Pallone\",1,1,5");
 }
 
-TEST(Record, TheSecondOneHasTheSeparatorInFront)
+TEST(Record, TheSecondRecordFollowsASeparator)
 {
     EXPECT_EQ(aggiungiRecord("\"Pallone\",1,1,5", "Tazza", "1,1,6"),
               "\"Pallone\",1,1,5\r\"Tazza\",1,1,6");
 }
 
-TEST(NomeDoppio, ABeginningOfAStoredNameIsThere)
+TEST(NomeDoppio, TheBeginningOfAStoredNameIsADuplicate)
 {
     EXPECT_TRUE(nomeDoppio("\"Pallone\",1,1,5", "Pal"));
     EXPECT_TRUE(nomeDoppio("\"Pallone\",1,1,5", "Pallone"));
 }
 
-TEST(NomeDoppio, ALongerNameIsNotThere)
+TEST(NomeDoppio, ALongerNameIsNoDuplicate)
 {
     EXPECT_FALSE(nomeDoppio("\"Pallone\",1,1,5", "Pallone1"));
 }
 
-TEST(NomeDoppio, CapitalsCount)
+TEST(NomeDoppio, CapitalsAndSmallLettersDiffer)
 {
     EXPECT_FALSE(nomeDoppio("\"Pallone\",1,1,5", "pallone"));
 }
@@ -151,21 +151,21 @@ TEST(NomeDoppio, FindsALaterNameOfTheSameLength)
     EXPECT_TRUE(nomeDoppio("\"Tazza\",1,1,5\r\"Palla\",1,1,5", "Palla"));
 }
 
-TEST(NomeDoppio, ClosingQuotationMarksCountToo)
+TEST(NomeDoppio, ClosingQuotationMarksAreExaminedToo)
 {
-    // The jump from the first name, which is longer, lands on its closing mark.
+    // The new name is shorter than the stored one, so the jump ends before the closing mark.
     EXPECT_TRUE(nomeDoppio("\"Tazzona\",1,1,5", ",1"));
 }
 
-TEST(NomeDoppio, TheClosingMarkOfANameOfTheSameLengthIsPassedOver)
+TEST(NomeDoppio, TheClosingMarkOfANameOfTheSameLengthIsSkipped)
 {
     EXPECT_FALSE(nomeDoppio("\"Tazza\",1,1,5", ",1,1,"));
 }
 
-TEST(NomeDoppio, AJumpTooFarMissesAName)
+TEST(NomeDoppio, ALongNameCanSkipAStoredOne)
 {
-    // Behind "Re" the jump of a name of eleven passes over the next opening mark and goes on from
-    // its closing one.
+    // The new name has eleven characters: the jump from "Re" skips the next opening mark and ends
+    // before its closing one.
     EXPECT_FALSE(nomeDoppio("\"Re\",1,1,5\r\"Pallonetto1\",1,1,5", "Pallonetto1"));
 }
 
@@ -204,7 +204,7 @@ TEST_F(FileImmagini, GivesTheRecordAtAnIndex)
     EXPECT_EQ(leggiRecord(1), "\"b\",1,1,6");
 }
 
-TEST_F(FileImmagini, AShortFileFailsAndIsClosedAllTheSame)
+TEST_F(FileImmagini, AFileThatIsTooShortFailsAndIsClosed)
 {
     scrivi("\"a\",1,1,5");
     EXPECT_EQ(erroreDi([] { leggiRecord(1); }), Errore::FineDelFile);
@@ -217,7 +217,7 @@ TEST_F(FileImmagini, AnEmptyFileHasNoRecord)
     EXPECT_EQ(erroreDi([] { leggiRecord(0); }), Errore::FineDelFile);
 }
 
-TEST_F(FileImmagini, AMissingFileIsToldAsSuch)
+TEST_F(FileImmagini, AMissingFileHasItsOwnError)
 {
     EXPECT_EQ(erroreDi([] { leggiRecord(0); }), Errore::FileNonTrovato);
 }
@@ -231,7 +231,7 @@ TEST_F(FileImmagini, EveryLineEndEndsARecord)
     EXPECT_EQ(erroreDi([] { leggiRecord(4); }), Errore::FineDelFile);
 }
 
-TEST_F(FileImmagini, ARecordThatALineBreakHasSplitIsReadAsFarAsItGoes)
+TEST_F(FileImmagini, ARecordThatALineBreakHasSplitIsReadAsTwo)
 {
     scrivi("\"a\",1,1,5\r\"Pal\rla\",1,1,6\r\"c\",1,1,7");
     EXPECT_EQ(leggiRecord(0), "\"a\",1,1,5");

@@ -1,5 +1,4 @@
-// The search written down step by step, as plainly as it can be said: what the real one is held
-// against.
+// The search written as plainly as possible, step by step. The tests compare Ricerca with it.
 #pragma once
 
 #include "vision/Matrice.h"
@@ -32,7 +31,8 @@ public:
             for (int colonna = 1; colonna <= 80; ++colonna)
                 Modello[colonna][riga] = m(colonna, riga);
 
-        // Both counters begin at the template's first pixel; a, b are the place in the frame.
+        // c, r: the place in the stored picture, from its first pixel; b, a: the place in the
+        // frame.
         int c = 1, r = 1, a, b, limiteA, limiteB;
 
         limiteA = 60 - H;

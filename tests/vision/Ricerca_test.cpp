@@ -11,7 +11,7 @@ namespace {
 
 constexpr qint32 lontano = 1000000;
 
-// Colours that grow by less than the tolerance from pixel to pixel.
+// Colours that grow from pixel to pixel by 3000, which is less than the tolerance.
 Matrice tuttiDiversi()
 {
     Matrice pixel(80, 60);
@@ -54,11 +54,11 @@ TEST(Ricerca, FindsAPictureWhereItIs)
     Matrice modello = ritaglio(pixel, 30, 20, 20, 15);
     ASSERT_TRUE(ricerca.cerca(modello, 20, 15));
     EXPECT_EQ(ricerca.riga(), 20);
-    // Three columns to the left the colours still lie within the tolerance.
+    // Three columns further left the colours are still within the tolerance.
     EXPECT_EQ(ricerca.colonna(), 27);
 }
 
-TEST(Ricerca, ThePictureMayDifferByTheToleranceToBothSides)
+TEST(Ricerca, AColourMayDifferByTheToleranceInBothDirections)
 {
     Matrice pixel = sfondo(lontano);
     pixel(40, 30) = Ricerca::Tolleranza;
@@ -70,7 +70,7 @@ TEST(Ricerca, ThePictureMayDifferByTheToleranceToBothSides)
     EXPECT_EQ(ricerca.riga(), 30);
 }
 
-TEST(Ricerca, ByOneMoreItIsAnotherColour)
+TEST(Ricerca, AColourMustNotDifferByMoreThanTheTolerance)
 {
     Matrice pixel = sfondo(lontano);
     pixel(40, 30) = Ricerca::Tolleranza + 1;
@@ -92,7 +92,7 @@ TEST(Ricerca, RedHardlyCounts)
 
 TEST(Ricerca, AFailedAttemptGoesBackToItsStart)
 {
-    // The first pixel fits already one column earlier.
+    // The first pixel already matches one column earlier.
     Matrice pixel = sfondo(lontano);
     pixel(10, 10) = 0;
     pixel(11, 10) = 0;
@@ -119,7 +119,7 @@ TEST(Ricerca, APictureLargerThanTheFrameFails)
     EXPECT_EQ(numeroErrore(ricerca, pixel, 81, 1), Errore::Overflow);
 }
 
-TEST(Ricerca, TheWidthIsNotLookedAtWhereThereAreNoRows)
+TEST(Ricerca, TheWidthIsIgnoredIfThereAreNoRows)
 {
     const Matrice pixel(80, 60);
     Ricerca ricerca(pixel);
@@ -135,10 +135,10 @@ TEST(Ricerca, TheLastColumnAndTheLastRowAreNotReached)
     EXPECT_FALSE(Ricerca(pixel).cerca(modello, 1, 1));
 }
 
-TEST(Ricerca, AnAttemptThatRunsOffTheRowGoesOnInTheNext)
+TEST(Ricerca, AnAttemptAtTheEndOfARowContinuesInTheNextRow)
 {
-    // Two pixels wide: the columns end at 78, where the attempt begins; its second pixel is
-    // looked for at the start of the next row, and the picture counts as found.
+    // For a picture two pixels wide the columns end at 78, where the attempt begins. Its second
+    // pixel is compared with the start of the next row, and the picture counts as found.
     Matrice pixel = sfondo(lontano);
     pixel(78, 10) = 0;
     pixel(1, 11) = 50000;
@@ -150,9 +150,9 @@ TEST(Ricerca, AnAttemptThatRunsOffTheRowGoesOnInTheNext)
     EXPECT_EQ(ricerca.riga(), 10);
 }
 
-TEST(Ricerca, AnAttemptIsCarriedIntoTheScanForTheNextPicture)
+TEST(Ricerca, AnAttemptContinuesInTheScanForTheNextPicture)
 {
-    // The first scan ends with an attempt begun at the last place that it looks at.
+    // The first scan ends during an attempt that began at its last place.
     Matrice pixel = sfondo(lontano);
     pixel(78, 59) = 0;
     pixel(1, 1) = 50000;
@@ -162,13 +162,13 @@ TEST(Ricerca, AnAttemptIsCarriedIntoTheScanForTheNextPicture)
     secondo(1, 1) = 50000;
     Ricerca ricerca(pixel);
     ASSERT_FALSE(ricerca.cerca(primo, 2, 1));
-    // Found at (1, 1), but the start is still that of the other picture.
+    // The match is at (1, 1), but the reported start is that of the other picture.
     ASSERT_TRUE(ricerca.cerca(secondo, 1, 1));
     EXPECT_EQ(ricerca.colonna(), 78);
     EXPECT_EQ(ricerca.riga(), 59);
 }
 
-TEST(Ricerca, ACarriedAttemptThatFailsSkipsWhatLiesBeforeItsStart)
+TEST(Ricerca, AContinuedAttemptThatFailsSkipsThePlacesBeforeItsStart)
 {
     Matrice pixel = sfondo(lontano);
     pixel(78, 59) = 0;
@@ -183,7 +183,7 @@ TEST(Ricerca, ACarriedAttemptThatFailsSkipsWhatLiesBeforeItsStart)
     EXPECT_FALSE(ricerca.cerca(secondo, 1, 1));
 }
 
-TEST(Ricerca, ACarriedStartTooLowForTheNextPictureRunsOutOfTheFrame)
+TEST(Ricerca, AContinuedAttemptTooFarDownForTheNextPictureLeavesTheFrame)
 {
     Matrice pixel = sfondo(lontano);
     pixel(78, 59) = 0;
@@ -199,21 +199,21 @@ TEST(Ricerca, ACarriedStartTooLowForTheNextPictureRunsOutOfTheFrame)
     EXPECT_EQ(numeroErrore(ricerca, secondo, 1, 10), Matrice::FuoriIntervallo);
 }
 
-TEST(Ricerca, APictureWithoutASizeRunsOutOfTheTemplateInADarkRow)
+TEST(Ricerca, APictureWithoutASizeFailsInARowOfMatchingPixels)
 {
     const Matrice pixel(80, 60);
     Ricerca ricerca(pixel);
     EXPECT_EQ(numeroErrore(ricerca, pixel, 0, 0), Matrice::FuoriIntervallo);
 }
 
-TEST(Ricerca, GivesWhatTheStepsTakenLiterallyGive)
+TEST(Ricerca, GivesTheSameAsTheSearchStepByStep)
 {
     std::mt19937 caso(20);
     const auto fra = [&](int da, int a) { return std::uniform_int_distribution<int>(da, a)(caso); };
     int trovati = 0;
     int falliti = 0;
     for (int prova = 0; prova < 6000; ++prova) {
-        // Few colours make for many attempts; steps about the tolerance make for close decisions.
+        // Few colours give many attempts; steps near the tolerance give close decisions.
         const int colori = fra(1, 4);
         const int passo = fra(0, 1) ? 10001 : 4000;
         Matrice pixel(80, 60);
@@ -230,7 +230,7 @@ TEST(Ricerca, GivesWhatTheStepsTakenLiterallyGive)
             Matrice modello = ritaglio(pixel, fra(1, 81 - W), fra(1, 61 - H), W, H);
             if (fra(0, 3) == 0)
                 modello(fra(1, W), fra(1, H)) = fra(-99999999, 99999999);
-            // Sizes that do not belong to the picture, as a spoilt file has them.
+            // Wrong sizes, as in a damaged file.
             if (fra(0, 9) == 0)
                 W = fra(-20, 90);
             if (fra(0, 9) == 0)
@@ -248,12 +248,12 @@ TEST(Ricerca, GivesWhatTheStepsTakenLiterallyGive)
             ASSERT_EQ(esito.riga, atteso.riga) << "run " << prova;
             trovati += esito.come == EsitoRicerca::Trovata;
             falliti += esito.come == EsitoRicerca::Fallita;
-            // A frame's search ends with the first picture found, and with a failure.
+            // The search of a frame ends with the first picture that is found and with a failure.
             if (esito.come != EsitoRicerca::NonTrovata)
                 break;
         }
     }
-    // The comparison says something only where all three ends occur.
+    // The comparison is useful only if all three results occur.
     EXPECT_GT(trovati, 1000);
     EXPECT_GT(falliti, 100);
 }

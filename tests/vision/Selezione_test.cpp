@@ -9,6 +9,8 @@
 #include <QWindow>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString erroreVideo =
@@ -20,7 +22,7 @@ protected:
     SceltaSulVideo()
     {
         banco.apriCamera();
-        // 80 times 10 and some more, so that a drag can end beyond the last column.
+        // Wider than 80 * 10 pixels, so that a drag can end beyond the last column.
         camera.resize(830, 640);
         EXPECT_EQ(Schermo.Tag(), u"10"_s);
     }
@@ -37,12 +39,9 @@ protected:
                            {});
         QApplication::sendEvent(&Schermo, &evento);
     }
-    QRectF rettangolo() const
-    {
-        return {shpSelezione.Left(), shpSelezione.Top(), shpSelezione.Width(),
-                shpSelezione.Height()};
-    }
-    // The record that the area gives, from the upper left pixel taken, counted from 1.
+    QRectF rettangolo() const { return shpSelezione.rettangoloPixel(); }
+    // The record of an area of size W by H whose first pixel is at (colonna, riga), counted from 1,
+    // with the colours of so many columns and rows.
     QString record(int W, int H, int colonna, int riga, int quanteColonne, int quanteRighe) const
     {
         QString testo = u"%1,%2"_s.arg(W).arg(H);
@@ -75,7 +74,7 @@ protected:
 
 } // namespace
 
-TEST_F(SceltaSulVideo, AtFirstThereIsNone)
+TEST_F(SceltaSulVideo, AtFirstThereIsNoSelection)
 {
     EXPECT_FALSE(shpSelezione.Visible());
     EXPECT_EQ(shpSelezione.Tag(), u"0"_s);
@@ -83,7 +82,7 @@ TEST_F(SceltaSulVideo, AtFirstThereIsNone)
     EXPECT_FALSE(nome.Visible());
 }
 
-TEST_F(SceltaSulVideo, APressShowsAPointAndADragOpensIt)
+TEST_F(SceltaSulVideo, APressShowsAPointAndADragEnlargesIt)
 {
     QTest::mousePress(&Schermo, Qt::LeftButton, {}, {100, 200});
     EXPECT_TRUE(shpSelezione.Visible());
@@ -95,7 +94,22 @@ TEST_F(SceltaSulVideo, APressShowsAPointAndADragOpensIt)
     EXPECT_EQ(shpSelezione.Tag(), u"True"_s);
 }
 
-TEST_F(SceltaSulVideo, ItIsSeenOnAWhitePictureToo)
+TEST_F(SceltaSulVideo, ItsPropertiesAreInPixels)
+{
+    QTest::mousePress(&Schermo, Qt::LeftButton, {}, {100, 200});
+    muovi({160, 290});
+    EXPECT_EQ(shpSelezione.property("Left"), 100.0);
+    EXPECT_EQ(shpSelezione.property("Top"), 200.0);
+    EXPECT_EQ(shpSelezione.property("Width"), 60.0);
+    EXPECT_EQ(shpSelezione.property("Height"), 90.0);
+    ASSERT_TRUE(shpSelezione.setProperty("Left", 30.0));
+    ASSERT_TRUE(shpSelezione.setProperty("Height", 40.0));
+    EXPECT_EQ(shpSelezione.geometry(), QRect(30, 200, 60, 40));
+    const Forma &forma = shpSelezione;
+    EXPECT_EQ(forma.Left(), 30 * Unita::perPixel) << "layout units, as of every control";
+}
+
+TEST_F(SceltaSulVideo, ItIsVisibleOnAWhitePicture)
 {
     banco.manda(immaginePiena(0xFFFFFF));
     QTest::mousePress(&Schermo, Qt::LeftButton, {}, {100, 200});
@@ -107,7 +121,7 @@ TEST_F(SceltaSulVideo, ItIsSeenOnAWhitePictureToo)
     EXPECT_LT(scuro, 120);
 }
 
-TEST_F(SceltaSulVideo, ADragUpOrLeftKeepsTheLastSizeThatWasOne)
+TEST_F(SceltaSulVideo, ADragUpOrLeftKeepsTheLastValidSize)
 {
     QTest::mousePress(&Schermo, Qt::LeftButton, {}, {100, 200});
     muovi({130, 240});
@@ -131,7 +145,7 @@ TEST_F(SceltaSulVideo, OnlyTheLeftButtonAloneDrags)
     EXPECT_EQ(shpSelezione.Tag(), u"True"_s);
 }
 
-TEST_F(SceltaSulVideo, TheNextFrameTurnsItIntoARecordOnePixelFurther)
+TEST_F(SceltaSulVideo, TheNextFrameGivesARecordShiftedByOnePixel)
 {
     trascina({100, 200}, {160, 290});
     banco.manda(immagine);
@@ -141,7 +155,7 @@ TEST_F(SceltaSulVideo, TheNextFrameTurnsItIntoARecordOnePixelFurther)
     EXPECT_EQ(nome.Tag(), record(6, 9, 11, 21, 6, 9));
 }
 
-TEST_F(SceltaSulVideo, ItTakesTheFrameInWhichItEndsAndNoLaterOne)
+TEST_F(SceltaSulVideo, ItUsesTheNextFrameAndNoLaterOne)
 {
     trascina({100, 100}, {700, 500});
     banco.manda(immagine);
@@ -150,7 +164,7 @@ TEST_F(SceltaSulVideo, ItTakesTheFrameInWhichItEndsAndNoLaterOne)
     EXPECT_EQ(nome.Tag(), record(60, 40, 11, 11, 60, 40));
 }
 
-TEST_F(SceltaSulVideo, TheDialogIsThereAfterTwoRowsAndTheTimerCopiesTheRest)
+TEST_F(SceltaSulVideo, TheDialogOpensAfterTwoRowsAndTheTimerCopiesTheRest)
 {
     trascina({100, 100}, {150, 190});
     nome.tmrAcquisizione.setInterval(0);
@@ -173,8 +187,8 @@ TEST_F(SceltaSulVideo, TheDialogShowsThePictureInTheMiddleOfItsArea)
     trascina({100, 100}, {160, 190});
     banco.manda(immagine);
     finisci();
-    EXPECT_EQ(nome.imgAcquisita.Left(), 36);
-    EXPECT_EQ(nome.imgAcquisita.Top(), 25);
+    EXPECT_EQ(nome.imgAcquisita.leftPixel(), 36);
+    EXPECT_EQ(nome.imgAcquisita.topPixel(), 25);
     const QImage visto = nome.imgAcquisita.disegno();
     for (int riga = 1; riga <= 9; ++riga) {
         for (int colonna = 1; colonna <= 6; ++colonna) {
@@ -187,18 +201,18 @@ TEST_F(SceltaSulVideo, TheDialogShowsThePictureInTheMiddleOfItsArea)
     EXPECT_EQ(visto.pixelColor(1, 10).alpha(), 0);
 }
 
-TEST_F(SceltaSulVideo, AClickGivesARecordWithoutASizeAndOneColour)
+TEST_F(SceltaSulVideo, AClickGivesARecordOfSizeZeroWithOneColour)
 {
     QTest::mouseClick(&Schermo, Qt::LeftButton, {}, {105, 203});
     banco.manda(immagine);
     finisci();
     EXPECT_EQ(nome.Tag(), record(0, 0, 11, 21, 1, 1));
-    // Nor does a later tick add to it.
+    // A later tick does not add to it.
     gira(20);
     EXPECT_EQ(nome.Tag(), record(0, 0, 11, 21, 1, 1));
 }
 
-TEST_F(SceltaSulVideo, TwoRowsAreCompleteBeforeTheDialogIsThere)
+TEST_F(SceltaSulVideo, TwoRowsAreCompleteWhenTheDialogOpens)
 {
     trascina({100, 100}, {130, 120});
     banco.manda(immagine);
@@ -207,7 +221,7 @@ TEST_F(SceltaSulVideo, TwoRowsAreCompleteBeforeTheDialogIsThere)
     EXPECT_EQ(nome.Tag(), record(3, 2, 11, 11, 3, 2));
 }
 
-TEST_F(SceltaSulVideo, InTheCornerItBeginsAtOne)
+TEST_F(SceltaSulVideo, InTheUpperLeftCornerItBeginsAtOne)
 {
     trascina({2, 3}, {52, 43});
     banco.manda(immagine);
@@ -223,7 +237,7 @@ TEST_F(SceltaSulVideo, BeyondTheEdgesItIsCutToTheFrame)
     EXPECT_EQ(nome.Tag(), record(10, 10, 71, 51, 10, 10));
 }
 
-TEST_F(SceltaSulVideo, FarBeyondTheEdgesTheVideoFailsUntilADoubleClick)
+TEST_F(SceltaSulVideo, ADragFarBeyondTheEdgesStopsTheVideoUntilADoubleClick)
 {
     trascina({100, 100}, {5000, 200});
     banco.manda(immagine);
@@ -236,7 +250,7 @@ TEST_F(SceltaSulVideo, FarBeyondTheEdgesTheVideoFailsUntilADoubleClick)
     EXPECT_EQ(camera.fotogramma().Riga, 0);
 }
 
-TEST_F(SceltaSulVideo, BehindTheLastColumnThereIsNothingToTake)
+TEST_F(SceltaSulVideo, AClickAfterTheLastColumnFails)
 {
     QTest::mouseClick(&Schermo, Qt::LeftButton, {}, {805, 203});
     banco.manda(immagine);
@@ -245,7 +259,7 @@ TEST_F(SceltaSulVideo, BehindTheLastColumnThereIsNothingToTake)
     EXPECT_FALSE(nome.tmrAcquisizione.Enabled());
 }
 
-TEST_F(SceltaSulVideo, WhileTheDialogIsThereNothingOnThePictureReplacesWhatIsNamed)
+TEST_F(SceltaSulVideo, WhileTheDialogIsOpenNothingReplacesTheAreaThatIsNamed)
 {
     trascina({100, 100}, {150, 190});
     banco.manda(immagine);
@@ -276,7 +290,7 @@ TEST_F(SceltaSulVideo, WhileTheDialogIsThereNothingOnThePictureReplacesWhatIsNam
                 QTest::keyClick(&Schermo, static_cast<Qt::Key>(tasto));
         },
         [this] { camera.resize(410, 320); },
-        // Nor does it come from outside.
+        // The Tag written from outside has no effect either.
         [this] { shpSelezione.setTag(u"True"_s); },
     };
     for (size_t i = 0; i < atti.size(); ++i) {
@@ -289,16 +303,16 @@ TEST_F(SceltaSulVideo, WhileTheDialogIsThereNothingOnThePictureReplacesWhatIsNam
         EXPECT_TRUE(nome.Visible()) << i;
         EXPECT_EQ(nome.Tag(), prima) << i;
         EXPECT_TRUE(nome.imgAcquisita.Visible()) << i;
-        EXPECT_EQ(nome.imgAcquisita.Left(), 37) << i;
+        EXPECT_EQ(nome.imgAcquisita.leftPixel(), 37) << i;
         EXPECT_EQ(shpSelezione.Tag(), u"False"_s) << i;
     }
-    // Nor is anything of it left when the dialog is gone.
+    // Nothing of this has an effect after the dialog was closed.
     nome.Scarica();
     banco.manda(immagine);
     EXPECT_FALSE(nome.Visible());
 }
 
-TEST_F(SceltaSulVideo, AClickUnderTheDialogIsNoneWhenTheDialogIsGoneBeforeTheNextFrame)
+TEST_F(SceltaSulVideo, AClickWhileTheDialogIsOpenIsIgnoredAlsoIfItClosesBeforeTheNextFrame)
 {
     trascina({100, 100}, {150, 190});
     banco.manda(immagine);
@@ -310,7 +324,7 @@ TEST_F(SceltaSulVideo, AClickUnderTheDialogIsNoneWhenTheDialogIsGoneBeforeTheNex
     EXPECT_EQ(shpSelezione.Tag(), u"False"_s);
 }
 
-TEST_F(SceltaSulVideo, APressUnderTheDialogIsNoneEvenIfItsReleaseComesLater)
+TEST_F(SceltaSulVideo, APressWhileTheDialogIsOpenIsIgnoredAlsoIfItsReleaseComesLater)
 {
     trascina({100, 100}, {150, 190});
     banco.manda(immagine);
@@ -320,14 +334,14 @@ TEST_F(SceltaSulVideo, APressUnderTheDialogIsNoneEvenIfItsReleaseComesLater)
     QTest::mouseRelease(&Schermo, Qt::LeftButton, {}, {300, 300});
     banco.manda(immagine);
     EXPECT_FALSE(nome.Visible());
-    // The next one is one again.
+    // The next selection has an effect again.
     trascina({100, 200}, {160, 290});
     banco.manda(immagine);
     finisci();
     EXPECT_EQ(nome.Tag(), record(6, 9, 11, 21, 6, 9));
 }
 
-TEST_F(SceltaSulVideo, ADragThatTheDialogInterruptsComesToNothing)
+TEST_F(SceltaSulVideo, ADragThatTheDialogInterruptsIsDropped)
 {
     trascina({100, 100}, {150, 190});
     QTest::mousePress(&Schermo, Qt::LeftButton, {}, {300, 300});
@@ -341,7 +355,7 @@ TEST_F(SceltaSulVideo, ADragThatTheDialogInterruptsComesToNothing)
     EXPECT_FALSE(nome.Visible());
 }
 
-TEST_F(SceltaSulVideo, WhatTheKeyboardDrawsWhileTheDialogComesComesToNothing)
+TEST_F(SceltaSulVideo, AKeyboardSelectionThatTheDialogInterruptsIsDropped)
 {
     portaTasti();
     trascina({100, 100}, {150, 190});
@@ -376,7 +390,7 @@ TEST_F(SceltaSulVideo, WithoutVideoNoRectangleAppears)
     EXPECT_EQ(shpSelezione.Tag(), u"True"_s);
 }
 
-TEST_F(SceltaSulVideo, ADisconnectionDuringTheCopyLeavesTheDialogToFinish)
+TEST_F(SceltaSulVideo, ADisconnectionDuringTheCopyLetsTheDialogFinish)
 {
     trascina({100, 100}, {500, 500});
     nome.tmrAcquisizione.setInterval(0);
@@ -395,7 +409,7 @@ TEST_F(SceltaSulVideo, ADisconnectionDuringTheCopyLeavesTheDialogToFinish)
               "\"Palla\"," + record(40, 40, 11, 11, 40, 40).toLatin1());
 }
 
-TEST_F(SceltaSulVideo, CancelledInTheMiddleOfTheCopyTheNextOneIsWhole)
+TEST_F(SceltaSulVideo, AfterACancelledCopyTheNextOneIsComplete)
 {
     trascina({100, 100}, {500, 500});
     nome.tmrAcquisizione.setInterval(0);
@@ -411,7 +425,7 @@ TEST_F(SceltaSulVideo, CancelledInTheMiddleOfTheCopyTheNextOneIsWhole)
     EXPECT_EQ(nome.Tag(), record(6, 9, 11, 21, 6, 9));
 }
 
-TEST_F(SceltaSulVideo, ADisconnectionWhileADuplicateNameIsToldIsSurvived)
+TEST_F(SceltaSulVideo, ADisconnectionDuringTheMessageOfADuplicateNameDoesNoHarm)
 {
     banco.cartella.scrivi(u"Immagini.dat"_s, "\"Palla\",1,1,5");
     trascina({100, 100}, {130, 130});
@@ -460,7 +474,7 @@ TEST_F(SceltaSulVideo, TheKeyboardSelectsWhatTheMouseSelects)
     EXPECT_EQ(nome.Tag(), conTasti);
 }
 
-TEST_F(SceltaSulVideo, EscLeavesTheOneThatTheKeyboardDraws)
+TEST_F(SceltaSulVideo, EscDropsTheSelectionThatTheKeyboardDraws)
 {
     portaTasti();
     QTest::keyClick(&Schermo, Qt::Key_Space);
@@ -472,10 +486,10 @@ TEST_F(SceltaSulVideo, EscLeavesTheOneThatTheKeyboardDraws)
     banco.manda(immagine);
     EXPECT_FALSE(nome.Visible());
     QTest::keyClick(&Schermo, Qt::Key_Right);
-    EXPECT_FALSE(shpSelezione.Visible()) << "the arrows point and draw nothing";
+    EXPECT_FALSE(shpSelezione.Visible()) << "the arrows only move the mark";
 }
 
-TEST_F(SceltaSulVideo, TheKeyboardPointsNowhereOutsideThePicture)
+TEST_F(SceltaSulVideo, TheKeyboardCannotLeaveThePicture)
 {
     portaTasti();
     for (int i = 0; i < 20; ++i) {

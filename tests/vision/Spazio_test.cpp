@@ -1,8 +1,8 @@
-// The windows of the camera have room for their texts with every desktop's font.
+// The vision windows have room for their texts with the usual font sizes of a desktop.
 #include "tests/support/Attesa.h"
-#include "tests/vision/BancoVisione.h"
 #include "tests/support/Ritaglio.h"
 #include "tests/support/Scritte.h"
+#include "tests/vision/BancoVisione.h"
 
 #include <gmock/gmock.h>
 
@@ -22,7 +22,7 @@ QByteArray record(const QByteArray &nome, int larghezza, int altezza)
 
 } // namespace
 
-TEST(Spazio, TheCameraAndItsDialogsHaveIt)
+TEST(Spazio, TheCameraAndItsDialogsHaveRoomForTheirTexts)
 {
     for (const double punti : caratteriUsuali) {
         const ConCarattere carattere(punti);

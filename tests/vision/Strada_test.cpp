@@ -1,14 +1,16 @@
-// The whole road: from the camera of the simulated robot over a pseudo-terminal to the pixels on
+// The whole path: from the camera of the simulated robot over a pseudo-terminal to the pixels on
 // the screen.
 #include "tests/vision/BancoVisione.h"
 
-#include "tests/support/Attesa.h"
 #include "serial/PortaAsio.h"
 #include "simulator/Simulatore.h"
 #include "simulator/robot/Telecamera.h"
+#include "tests/support/Attesa.h"
 
 #include <QTest>
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -17,12 +19,12 @@ class Strada : public testing::Test
 protected:
     Strada()
     {
-        // One picture in a folder: the camera sees it in every frame.
+        // With one picture in the folder the camera sees that picture in every frame.
         scena.save(immagini.percorso(u"scena.png"_s));
         QDir::setCurrent(banco.cartella.percorso());
         EXPECT_TRUE(robot.apri()) << robot.errore().toStdString();
         EXPECT_TRUE(robot.collegaPorta(banco.cartella.percorso(), 1));
-        // As fast as the line takes it: no row is still on its way when the robot stops.
+        // No speed limit: then no row is still on the way when the robot stops.
         robot.impostaBaud(0);
         EXPECT_TRUE(robot.robot().telecamera().impostaCartella(immagini.percorso()));
     }
@@ -32,8 +34,8 @@ protected:
     {
         return banco.camera.Schermo.disegno().copy(banco.camera.Schermo.rect());
     }
-    // On a line as fast as this one the first rows may come before the window is there; then the
-    // frames are out of step, and the user double-clicks.
+    // On such a fast line the first rows can arrive before the window is open. Then the frames are
+    // shifted, and the user double-clicks.
     bool aspettaScena()
     {
         qint64 da = robot.quantiInviati();
@@ -68,7 +70,7 @@ TEST_F(Strada, AFrameOfTheRobotsCameraIsOnTheScreenPixelByPixel)
     EXPECT_TRUE(robot.robot().stato().videoAttivo);
 }
 
-TEST_F(Strada, WhatIsSeenIsWhatWasDrawn)
+TEST_F(Strada, TheScreenShowsWhatWasDrawn)
 {
     banco.collega();
     banco.premi(3);
@@ -81,7 +83,7 @@ TEST_F(Strada, WhatIsSeenIsWhatWasDrawn)
     }
 }
 
-TEST_F(Strada, ADoubleClickInTheMiddleOfTheStreamBringsThePictureBack)
+TEST_F(Strada, ADoubleClickDuringTheVideoRestoresThePicture)
 {
     banco.collega();
     banco.premi(3);
@@ -94,10 +96,10 @@ TEST_F(Strada, ADoubleClickInTheMiddleOfTheStreamBringsThePictureBack)
     }
 }
 
-TEST_F(Strada, AtALinesPaceTheFirstFrameIsInStepAndADoubleClickMendsItAtOnce)
+TEST_F(Strada, AtTheSpeedOfALineTheFirstFrameIsRightAndADoubleClickRestoresItAtOnce)
 {
-    // A picture of its own, without a byte that begins a telegram: what was on its way when the
-    // robot stopped is passed over, whatever there is of it.
+    // A picture without a byte that begins a telegram: the rest of a row that was on the way when
+    // the robot stopped is skipped byte by byte.
     QImage righe(80, 60, QImage::Format_RGB32);
     for (int y = 0; y < 60; ++y)
         for (int x = 0; x < 80; ++x)
@@ -138,7 +140,7 @@ TEST_F(Strada, ClosingTheWindowStopsTheRobotsVideo)
     banco.camera.close();
     ASSERT_TRUE(aspetta([this] { return !robot.robot().stato().videoAttivo; }));
     EXPECT_FALSE(banco.camera.Visible());
-    // Telemetry goes on behind the rows that were still on their way.
+    // Telemetry still arrives after the rows that were on the way.
     robot.robot().impostaTemperatura(41);
     EXPECT_TRUE(aspetta([this] { return banco.console.lblTemperatura.Caption() == u"41°"_s; }));
 }
@@ -162,7 +164,7 @@ TEST_F(Strada, AnAreaIsStoredAndFoundAfterTheNextStart)
     const QByteArray record = banco.cartella.leggi(u"Immagini.dat"_s);
     EXPECT_TRUE(record.startsWith("\"Primo\",10,10,"));
 
-    // The second picture of a store is the active one: the next console finds it.
+    // The second record of the file is active at the start: the next console finds it.
     banco.camera.close();
     banco.scollega();
     BancoSuPortaFinta dopo(record + '\r' + record);
@@ -172,13 +174,13 @@ TEST_F(Strada, AnAreaIsStoredAndFoundAfterTheNextStart)
     dopo.manda(scena);
     EXPECT_TRUE(dopo.camera.shpImgRilevata.Visible());
     EXPECT_EQ(dopo.camera.lblNomeImmagine.Caption(), u"Primo"_s);
-    // Columns and rows are one further than where the drag began.
-    EXPECT_EQ(dopo.camera.shpImgRilevata.Left(), 21 * 8);
-    EXPECT_EQ(dopo.camera.shpImgRilevata.Top(), 11 * 8);
+    // Column and row are one more than where the drag began.
+    EXPECT_EQ(dopo.camera.shpImgRilevata.leftPixel(), 21 * 8);
+    EXPECT_EQ(dopo.camera.shpImgRilevata.topPixel(), 11 * 8);
     banco.collega();
 }
 
-TEST_F(Strada, GarbledLostAndCutRowsAreSurvivedAndADoubleClickMendsThePicture)
+TEST_F(Strada, AfterGarbledLostAndCutRowsADoubleClickRestoresThePicture)
 {
     banco.collega();
     banco.premi(3);

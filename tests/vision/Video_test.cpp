@@ -1,4 +1,4 @@
-// The owners of the camera's state, without a window.
+// The state of the video and of the selection, without a window.
 #include "vision/Selezione.h"
 #include "vision/Video.h"
 
@@ -34,7 +34,7 @@ TEST(Video, IsClosedAtFirstAndRunsAfterAStart)
     EXPECT_FALSE(video.abbandonato(avvio));
 }
 
-TEST(Video, AStartThatFailsTakesTheScaleAway)
+TEST(Video, AStartThatFailsSetsTheScaleToZero)
 {
     Video video;
     const Video::Avvio avvio = video.apri();
@@ -44,7 +44,7 @@ TEST(Video, AStartThatFailsTakesTheScaleAway)
     EXPECT_EQ(video.scala(), 0);
 }
 
-TEST(Video, OneStartAtATime)
+TEST(Video, RunsOneStartAtATime)
 {
     Video video;
     EXPECT_FALSE(video.riavvia()) << "closed";
@@ -59,7 +59,7 @@ TEST(Video, OneStartAtATime)
     EXPECT_FALSE(video.riavvia());
 }
 
-TEST(Video, AClosedStartNeverEnds)
+TEST(Video, AStartGivenUpByClosingHasNoEffect)
 {
     Video video = attivo();
     const auto avvio = video.riavvia();
@@ -75,7 +75,7 @@ TEST(Video, AClosedStartNeverEnds)
     EXPECT_FALSE(video.abbandonato(nuovo));
 }
 
-TEST(Video, TheRobotIsToStopUnlessNothingWasStarted)
+TEST(Video, ClosingStopsTheRobotUnlessTheStartHasFailed)
 {
     EXPECT_TRUE(attivo().chiudi());
     Video inAvvio;
@@ -141,7 +141,7 @@ TEST(StatoSelezione, IsDrawnFinishedAndTaken)
     EXPECT_TRUE(selezione.mai());
 }
 
-TEST(StatoSelezione, AReleaseAsksAlsoWhereNothingWasDrawn)
+TEST(StatoSelezione, AReleaseFinishesItAlsoIfNothingWasDrawn)
 {
     Selezione selezione;
     selezione.premi(false, false);
@@ -150,7 +150,7 @@ TEST(StatoSelezione, AReleaseAsksAlsoWhereNothingWasDrawn)
     EXPECT_TRUE(selezione.finita());
 }
 
-TEST(StatoSelezione, OneThatWaitsGoesOnWaitingWhileItIsDrawnAnew)
+TEST(StatoSelezione, AFinishedOneStaysFinishedWhileANewOneIsDrawn)
 {
     Selezione selezione;
     selezione.premi(true, false);
@@ -161,15 +161,15 @@ TEST(StatoSelezione, OneThatWaitsGoesOnWaitingWhileItIsDrawnAnew)
     EXPECT_TRUE(selezione.finita());
 }
 
-TEST(StatoSelezione, TheNamingDialogSwallowsPressAndRelease)
+TEST(StatoSelezione, PressAndReleaseAreIgnoredDuringTheNamingDialog)
 {
-    // Press and release each under the dialog or not.
+    // Whether the dialog is open at the press and at the release.
     for (const auto &[sotto, poi] : {std::pair(true, true), {true, false}, {false, true}}) {
         Selezione selezione;
         selezione.premi(true, sotto);
         selezione.rilascia(poi);
         EXPECT_EQ(selezione.stato(), Selezione::Stato::Nessuna) << sotto << poi;
-        // The next one counts.
+        // The next selection has an effect.
         selezione.premi(true, false);
         selezione.rilascia(false);
         EXPECT_TRUE(selezione.finita());

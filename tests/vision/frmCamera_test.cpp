@@ -1,4 +1,4 @@
-// The video window: its life, the road of rows, the zoom, the search on the screen.
+// The video window: opening, closing and restarting, the rows, the zoom.
 #include "tests/vision/BancoVisione.h"
 
 #include "tests/support/Attesa.h"
@@ -9,13 +9,15 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QByteArray avvio = b({10, 10, 128, 0, 11, 160, 0});
 const QString erroreVideo =
     u"Attenzione: errore nella visualizzazione delle immagini della videocamera!"_s;
 
-// What is drawn on the surface, as large as the surface is now.
+// The drawing, cut to the current size of the surface.
 QImage disegno(const Superficie &superficie)
 {
     return superficie.disegno().copy(superficie.rect());
@@ -51,7 +53,7 @@ TEST_F(Camera, TheToolbarOpensItAndStartsTheVideo)
     EXPECT_TRUE(vuoto(Schermo));
 }
 
-TEST_F(Camera, StandsWithItsFrameInTheMiddleOfTheScreensWidth)
+TEST_F(Camera, IsCentredOnTheScreenWithItsFrame)
 {
     for (int volta = 0; volta < 2; ++volta) {
         if (volta == 0)
@@ -61,13 +63,13 @@ TEST_F(Camera, StandsWithItsFrameInTheMiddleOfTheScreensWidth)
         const QRect schermo = camera.screen()->availableGeometry();
         EXPECT_NEAR(camera.frameGeometry().center().x(), schermo.center().x(), 1);
         EXPECT_TRUE(schermo.contains(camera.frameGeometry()));
-        // Moved away and closed it stands there again.
+        // After it was moved and closed it opens at the same place again.
         camera.move(3, 3);
         camera.close();
     }
 }
 
-TEST_F(Camera, AtItsFirstSizeTheBandAroundThePictureIsTheSameOnAllSides)
+TEST_F(Camera, AtItsFirstSizeTheMarginIsTheSameOnAllSides)
 {
     banco.apriCamera();
     EXPECT_EQ(Schermo.Tag(), u"8"_s);
@@ -82,7 +84,7 @@ TEST_F(Camera, AtItsFirstSizeTheBandAroundThePictureIsTheSameOnAllSides)
     EXPECT_EQ(dipinto, visto.rect().adjusted(banda, banda, -banda, -banda));
 }
 
-TEST_F(Camera, AZoomThatIsNoneIsLeftOut)
+TEST_F(Camera, AZoomThatIsOutOfRangeIsIgnored)
 {
     banco.apriCamera();
     for (const QString &testo : {u"99999"_s, u"-99999"_s}) {
@@ -94,7 +96,7 @@ TEST_F(Camera, AZoomThatIsNoneIsLeftOut)
     EXPECT_EQ(Schermo.Tag(), u"3"_s);
 }
 
-TEST_F(Camera, WhatIsWrittenIntoTheTagsHolds)
+TEST_F(Camera, WritingTheTagsTakesEffect)
 {
     banco.apriCamera();
     camera.setProperty("Tag", u"0"_s);
@@ -111,10 +113,10 @@ TEST_F(Camera, WhatIsWrittenIntoTheTagsHolds)
     EXPECT_EQ(camera.fotogramma().Riga, 4);
 }
 
-TEST_F(Camera, ShownWithoutTheToolbarItGoesAwayAtOnceAndTouchesNothing)
+TEST_F(Camera, ShownWithoutTheToolbarItClosesAtOnceAndChangesNothing)
 {
     banco.collega();
-    // Half a telegram waits for its other half.
+    // The accumulator holds half a telegram.
     banco.porta.arriva(b({32, 7}));
     ASSERT_TRUE(aspetta([this] { return banco.porta.inArrivo() == 0; }));
     camera.Mostra();
@@ -125,7 +127,7 @@ TEST_F(Camera, ShownWithoutTheToolbarItGoesAwayAtOnceAndTouchesNothing)
     EXPECT_EQ(banco.console.tmrElabInput.accumulatore.tutto(), b({32, 7}));
 }
 
-TEST_F(Camera, WithoutAConnectionItSaysFallito)
+TEST_F(Camera, WithoutAConnectionItShowsFallito)
 {
     RispondiMessaggi risposte;
     banco.premi(3);
@@ -157,7 +159,7 @@ TEST_F(Camera, ClosingStopsTheVideoAndAsksForTheState)
     EXPECT_EQ(camera.Tag(), u"0"_s);
 }
 
-TEST_F(Camera, ClosingEmptiesWhatWasOnItsWay)
+TEST_F(Camera, ClosingDiscardsWhatWasOnTheWay)
 {
     banco.apriCamera();
     banco.porta.scritto = nullptr;
@@ -179,7 +181,7 @@ TEST_F(Camera, DisconnectingUnloadsIt)
     EXPECT_EQ(banco.pannello3(), u"Disconnesso"_s);
 }
 
-TEST_F(Camera, OpenedAgainItBeginsAnew)
+TEST_F(Camera, OpenedAgainItBeginsAsAtFirst)
 {
     banco.apriCamera();
     const QString zoom = Schermo.Tag();
@@ -213,7 +215,7 @@ TEST_F(Camera, ResizingClearsThePicture)
     EXPECT_TRUE(vuoto(Schermo));
 }
 
-TEST_F(Camera, WhereVideoDidNotStartResizingChangesNothing)
+TEST_F(Camera, IfTheVideoDidNotStartResizingChangesNothing)
 {
     RispondiMessaggi risposte;
     banco.premi(3);
@@ -244,7 +246,7 @@ TEST_F(Camera, NothingIsPaintedBeforeTheLastRow)
     EXPECT_FALSE(vuoto(Schermo));
 }
 
-TEST_F(Camera, AFrameIsPaintedAsBoxesOneZoomAwayFromTheCorner)
+TEST_F(Camera, AFrameIsPaintedAsSquaresOneSquareAwayFromTheCorner)
 {
     banco.apriCamera();
     for (const int larghezza : {81 * 8, 800, 85, 200}) {
@@ -255,7 +257,7 @@ TEST_F(Camera, AFrameIsPaintedAsBoxesOneZoomAwayFromTheCorner)
     }
 }
 
-TEST_F(Camera, TheNextFrameTakesThePlaceOfTheLast)
+TEST_F(Camera, TheNextFrameReplacesTheLast)
 {
     banco.apriCamera();
     banco.manda(immagineACaso(1));
@@ -275,7 +277,7 @@ TEST_F(Camera, TelemetryBetweenTheRowsDoesNoHarm)
     EXPECT_EQ(banco.console.lblTemperatura.Caption(), u"9°"_s);
 }
 
-TEST_F(Camera, RowsForAClosedWindowAreDroppedWhole)
+TEST_F(Camera, RowsForAClosedWindowAreDropped)
 {
     banco.collega();
     banco.manda(telegrammiVideo(immagineACaso(1)) + b({31, 33}));
@@ -298,7 +300,7 @@ TEST_F(Camera, ALostRowShiftsAllLaterOnesUntilADoubleClick)
     EXPECT_EQ(disegno(Schermo), quadri(immagine, Schermo.Tag().toInt(), Schermo.size()));
 }
 
-TEST_F(Camera, ADoubleClickStopsEmptiesAndStarts)
+TEST_F(Camera, ADoubleClickStopsTheVideoEmptiesTheLineAndRestarts)
 {
     banco.apriCamera();
     banco.mandaRighe(immagineACaso(1), 0, 30);
@@ -308,7 +310,7 @@ TEST_F(Camera, ADoubleClickStopsEmptiesAndStarts)
     EXPECT_EQ(banco.pannello3(), u"Video partito"_s);
 }
 
-TEST_F(Camera, TheReleaseThatEndsADoubleClickAsksForAnAcquisitionLikeEveryRelease)
+TEST_F(Camera, TheReleaseAfterADoubleClickFinishesASelectionLikeEveryRelease)
 {
     banco.apriCamera();
     QTest::mouseDClick(&Schermo, Qt::LeftButton, {}, {300, 200});
@@ -317,11 +319,11 @@ TEST_F(Camera, TheReleaseThatEndsADoubleClickAsksForAnAcquisitionLikeEveryReleas
     EXPECT_EQ(camera.shpSelezione.Tag(), u"True"_s);
 }
 
-TEST_F(Camera, ADoubleClickInTheMiddleOfATickBeginsANewFrame)
+TEST_F(Camera, ADoubleClickDuringATickBeginsANewFrame)
 {
     banco.apriCamera();
-    // Many rows come at once: the tick takes them one after the other, and the click is served
-    // between two of them.
+    // Many rows arrive at once. The tick processes them one after the other, and the click is
+    // handled between two of them.
     bool fatto = false;
     QTimer occhio;
     QObject::connect(&occhio, &QTimer::timeout, &occhio, [&] {
@@ -367,7 +369,7 @@ TEST_F(Camera, NoNewFrameBeginsWhileVideoIsOffOrTheWindowHidden)
     EXPECT_EQ(camera.fotogramma().Riga, 0);
 }
 
-TEST_F(Camera, ACutRowIsToldAndTheCountGoesOn)
+TEST_F(Camera, ARowThatIsTooShortIsReportedAndCounted)
 {
     banco.apriCamera();
     camera.CalcolaRiga(rigaVideo(immagineACaso(1), 0));
@@ -376,7 +378,7 @@ TEST_F(Camera, ACutRowIsToldAndTheCountGoesOn)
     EXPECT_EQ(camera.fotogramma().Riga, 2);
 }
 
-TEST_F(Camera, AfterACutLastRowNoFrameIsCompleteUntilADoubleClick)
+TEST_F(Camera, AfterALastRowThatIsTooShortNoFrameIsCompleteUntilADoubleClick)
 {
     banco.apriCamera();
     banco.mandaRighe(immagineACaso(1), 0, 58);
@@ -392,12 +394,12 @@ TEST_F(Camera, AfterACutLastRowNoFrameIsCompleteUntilADoubleClick)
     EXPECT_EQ(disegno(Schermo), quadri(immagineACaso(2), Schermo.Tag().toInt(), Schermo.size()));
 }
 
-TEST_F(Camera, DisconnectingWhileTheRestartWaitsForTheRobotIsSurvived)
+TEST_F(Camera, DisconnectingWhileTheRestartWaitsForTheRobotClosesTheWindow)
 {
     banco.apriCamera();
     RispondiMessaggi risposte;
     bool fatto = false;
-    // The robot says nothing; the user loses patience.
+    // The robot does not answer, and the user disconnects.
     banco.porta.scritto = [this, &fatto](const QByteArray &byte) {
         if (fatto || byte != b({0}))
             return;
@@ -411,7 +413,7 @@ TEST_F(Camera, DisconnectingWhileTheRestartWaitsForTheRobotIsSurvived)
     EXPECT_EQ(banco.console.BarraPulsanti.Tag(), QString());
 }
 
-TEST_F(Camera, ClosingDuringTheRestartIsSurvived)
+TEST_F(Camera, ClosedDuringTheRestartItCanBeOpenedAgain)
 {
     banco.apriCamera();
     bool fatto = false;

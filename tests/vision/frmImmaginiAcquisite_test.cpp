@@ -11,6 +11,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QByteArray treImmagini = "\"Pallone\",2,2,255,65280,16711680,16777215\r"
@@ -29,7 +31,7 @@ protected:
     }
     void spunta(int riga)
     {
-        // Where the style draws the mark: at the row's beginning.
+        // The style draws the mark at the beginning of the row.
         const QRect dove = lista.visualItemRect(lista.item(riga));
         QTest::mouseClick(lista.viewport(), Qt::LeftButton, {},
                           {dove.left() + 10, dove.center().y()});
@@ -54,7 +56,7 @@ protected:
     FileGuasto() : ImmaginiAcquisite("\"a\",300,2,5\r\"b\",81,1,5\r\"c\",-1,1,5\rgarbage") {}
 };
 
-// The program ends with the box that tells the failure.
+// Clicks a row whose error ends the program; prints the text of the error's box.
 void clickFatale(Elenco &lista, int riga)
 {
     QTimer::singleShot(0, [] {
@@ -68,7 +70,7 @@ void clickFatale(Elenco &lista, int riga)
 
 } // namespace
 
-TEST_F(ImmaginiAcquisite, TheEighthPictureOfTheToolbarOpensItWithoutAConnection)
+TEST_F(ImmaginiAcquisite, TheToolbarsButtonWithImageEightOpensItWithoutAConnection)
 {
     banco.premi(8);
     EXPECT_TRUE(finestra.isVisible());
@@ -79,7 +81,7 @@ TEST_F(ImmaginiAcquisite, TheEighthPictureOfTheToolbarOpensItWithoutAConnection)
     EXPECT_EQ(lista.List(2), u"Mela"_s);
 }
 
-TEST_F(ImmaginiAcquisite, OnlyTheSecondPictureIsActiveAtTheStartAndNoMarkTellsIt)
+TEST_F(ImmaginiAcquisite, OnlyTheSecondPictureIsActiveAtTheStartAndNoCheckMarkShowsIt)
 {
     banco.premi(8);
     for (int i = 0; i < 3; ++i) {
@@ -88,7 +90,7 @@ TEST_F(ImmaginiAcquisite, OnlyTheSecondPictureIsActiveAtTheStartAndNoMarkTellsIt
     }
 }
 
-TEST_F(ImmaginiAcquisite, AClickShowsThePictureInBoxesOfTwo)
+TEST_F(ImmaginiAcquisite, AClickShowsThePictureInSquaresOfTwoPixels)
 {
     banco.premi(8);
     clicca(0);
@@ -102,7 +104,7 @@ TEST_F(ImmaginiAcquisite, AClickShowsThePictureInBoxesOfTwo)
     EXPECT_EQ(punto(2, 6).alpha(), 0);
 }
 
-TEST_F(ImmaginiAcquisite, TheNextClickClearsThePictureBefore)
+TEST_F(ImmaginiAcquisite, TheNextClickClearsThePreviousPicture)
 {
     banco.premi(8);
     clicca(0);
@@ -112,7 +114,7 @@ TEST_F(ImmaginiAcquisite, TheNextClickClearsThePictureBefore)
     EXPECT_EQ(punto(4, 2).alpha(), 0);
 }
 
-TEST_F(ImmaginiAcquisite, APictureWithoutASizeIsAnEmptyOne)
+TEST_F(ImmaginiAcquisite, APictureWithoutASizeIsEmpty)
 {
     banco.premi(8);
     clicca(0);
@@ -147,10 +149,10 @@ TEST_F(ImmaginiAcquisite, TheSpaceBarSetsTheMarkToo)
     EXPECT_EQ(lstImgCamera.ItemData(2), -1);
 }
 
-TEST_F(ImmaginiAcquisite, TheKeyboardAloneShowsAndActivates)
+TEST_F(ImmaginiAcquisite, TheKeyboardShowsAndActivatesPictures)
 {
     banco.premi(8);
-    // Where the first Tab leads.
+    // The first Tab goes to the list.
     QTest::keyClick(&finestra, Qt::Key_Tab);
     ASSERT_EQ(finestra.focusWidget(), &lista);
     EXPECT_EQ(lista.ListIndex(), -1);
@@ -162,7 +164,7 @@ TEST_F(ImmaginiAcquisite, TheKeyboardAloneShowsAndActivates)
     EXPECT_EQ(lstImgCamera.ItemData(0), -1);
 }
 
-TEST_F(ImmaginiAcquisite, OpenedAgainTheMarksAreGoneAndTheFlagsAreNot)
+TEST_F(ImmaginiAcquisite, OpenedAgainTheMarksAreClearedAndThePicturesStayActive)
 {
     banco.premi(8);
     spunta(0);
@@ -173,7 +175,7 @@ TEST_F(ImmaginiAcquisite, OpenedAgainTheMarksAreGoneAndTheFlagsAreNot)
     EXPECT_EQ(punto(2, 2).alpha(), 0);
 }
 
-TEST_F(ImmaginiAcquisite, ThePixelsAreThoseOfTheFileAsItIsNow)
+TEST_F(ImmaginiAcquisite, ThePixelsAreReadFromTheFileAtEachClick)
 {
     banco.premi(8);
     banco.cartella.scrivi(u"Immagini.dat"_s, "\"Pallone\",2,2,9,9,9,9");
@@ -189,14 +191,14 @@ TEST_F(SenzaFile, TheWindowHasOneRowWithoutAName)
     EXPECT_EQ(lista.List(0), QString());
 }
 
-TEST_F(SenzaFile, AClickEndsTheProgramWithTheReadersFailure)
+TEST_F(SenzaFile, AClickEndsTheProgramWithTheErrorOfTheReading)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     banco.premi(8);
     EXPECT_EXIT(clickFatale(lista, 0), testing::ExitedWithCode(1), "\\(53\\)");
 }
 
-TEST_F(ImmaginiAcquisite, AFileThatHasBecomeShorterEndsTheProgramWithTheReadersFailure)
+TEST_F(ImmaginiAcquisite, AFileThatHasBecomeTooShortEndsTheProgramWithTheErrorOfTheReading)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     banco.premi(8);
@@ -204,7 +206,7 @@ TEST_F(ImmaginiAcquisite, AFileThatHasBecomeShorterEndsTheProgramWithTheReadersF
     EXPECT_EXIT(clickFatale(lista, 1), testing::ExitedWithCode(1), "\\(62\\)");
 }
 
-TEST_F(FileGuasto, SizesThatAreNoBytesOrLargerThanAFrameAreAFailure)
+TEST_F(FileGuasto, SizesOutOfRangeEndTheProgram)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     banco.premi(8);

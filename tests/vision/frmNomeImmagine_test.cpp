@@ -11,12 +11,14 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class NomeImmagine : public testing::Test
 {
 protected:
-    // The dialog with a complete copy.
+    // Opens the dialog as it is after a complete copy.
     void pronto(const QString &record = u"2,1,5,6"_s)
     {
         nome.Mostra();
@@ -63,7 +65,7 @@ TEST_F(NomeImmagine, TheFirstLetterBecomesACapital)
     EXPECT_EQ(battuto(u"palla"_s), u"Palla"_s);
 }
 
-TEST_F(NomeImmagine, AndAgainAfterAllWasDeleted)
+TEST_F(NomeImmagine, TheFirstLetterBecomesACapitalAlsoAfterAllWasDeleted)
 {
     nome.Mostra();
     battuto(u"p"_s);
@@ -71,13 +73,13 @@ TEST_F(NomeImmagine, AndAgainAfterAllWasDeleted)
     EXPECT_EQ(battuto(u"tazza"_s), u"Tazza"_s);
 }
 
-TEST_F(NomeImmagine, CharactersThatNoFileNameMayHaveAreSwallowed)
+TEST_F(NomeImmagine, CharactersThatNoFileNameCanHaveAreRefused)
 {
     nome.Mostra();
     EXPECT_EQ(battuto(u"/\\:*?\"<>|a/b\\c:d*e?f\"g<h>i|j"_s), u"Abcdefghij"_s);
 }
 
-TEST_F(NomeImmagine, CommasAndBlanksPass)
+TEST_F(NomeImmagine, CommasAndBlanksAreAccepted)
 {
     nome.Mostra();
     EXPECT_EQ(battuto(u"palla, rossa 1"_s), u"Palla, rossa 1"_s);
@@ -105,7 +107,7 @@ TEST_F(NomeImmagine, TheFirstPictureIsARecordWithoutALineEnd)
     EXPECT_FALSE(nome.Visible());
 }
 
-TEST_F(NomeImmagine, TheSecondOneFollowsBehindACarriageReturn)
+TEST_F(NomeImmagine, TheSecondRecordFollowsACarriageReturn)
 {
     ok(u"Pallone"_s);
     ok(u"Tazza"_s);
@@ -161,7 +163,7 @@ TEST_F(NomeImmagine, OpenedAgainItIsAsAtFirst)
     EXPECT_EQ(nome.Tag(), QString());
 }
 
-TEST_F(NomeImmagine, ANameThatIsThereIsRefused)
+TEST_F(NomeImmagine, AStoredNameIsRefused)
 {
     ok(u"Pallone"_s);
     RispondiMessaggi risposte;
@@ -174,7 +176,7 @@ TEST_F(NomeImmagine, ANameThatIsThereIsRefused)
     EXPECT_EQ(file(), "\"Pallone\",2,1,5,6");
 }
 
-TEST_F(NomeImmagine, ALongerNameThanTheStoredOneIsTaken)
+TEST_F(NomeImmagine, ALongerNameThanTheStoredOneIsAccepted)
 {
     ok(u"Pallone"_s);
     ok(u"Pallone1"_s);
@@ -183,7 +185,7 @@ TEST_F(NomeImmagine, ALongerNameThanTheStoredOneIsTaken)
 
 TEST_F(NomeImmagine, ANameWithALineBreakIsStoredInOneLine)
 {
-    // Whatever the box lets through.
+    // Keeps the text box from removing the line breaks.
     const QSignalBlocker zitta(nome.txtNomeImmagine);
     for (const auto *testo : {u"Pal\rla", u"Taz\nza", u"Me\r\nla"})
         ok(QString::fromUtf16(testo));
@@ -199,7 +201,7 @@ TEST_F(NomeImmagine, ANameWithALineBreakIsStoredInOneLine)
     EXPECT_EQ(file().count('\r'), 2);
 }
 
-TEST_F(NomeImmagine, AFileThatALineBreakHasSpoiltKeepsAllThatItHolds)
+TEST_F(NomeImmagine, AFileThatALineBreakHasDamagedKeepsItsContent)
 {
     const QByteArray guasto = "\"a\",1,1,5\r\"Pal\rla\",1,1,6\r\"c\",1,1,7";
     banco.cartella.scrivi(u"Immagini.dat"_s, guasto);
@@ -208,7 +210,7 @@ TEST_F(NomeImmagine, AFileThatALineBreakHasSpoiltKeepsAllThatItHolds)
     EXPECT_EQ(file(), guasto + "\r\"Tazza\",2,1,5,6");
 }
 
-TEST_F(NomeImmagine, OnAFullDiskTheOldFileSurvivesInSilence)
+TEST_F(NomeImmagine, OnAFullDiskTheOldFileStaysAndNothingIsReported)
 {
     if (!DiscoPieno::possibile())
         GTEST_SKIP() << "no full disk here";
@@ -221,15 +223,15 @@ TEST_F(NomeImmagine, OnAFullDiskTheOldFileSurvivesInSilence)
     }
     EXPECT_FALSE(nome.Visible());
     EXPECT_EQ(file(), "\"Pallone\",2,1,5,6");
-    // And the next one can be stored.
+    // The next picture can be stored.
     ok(u"Mela"_s);
     EXPECT_EQ(file(), "\"Pallone\",2,1,5,6\r\"Mela\",2,1,5,6");
 }
 
-TEST_F(NomeImmagine, AFileThatCannotBeReadIsNotWrittenOver)
+TEST_F(NomeImmagine, AFileThatCannotBeReadIsNotOverwritten)
 {
     ok(u"Pallone"_s);
-    // Somebody left the file number open.
+    // The file number is in use for another file.
     Archivio::apri(1, u"prog.dat"_s, Archivio::Modo::Lettura);
     ok(u"Tazza"_s);
     Archivio::abbandona();
@@ -237,7 +239,7 @@ TEST_F(NomeImmagine, AFileThatCannotBeReadIsNotWrittenOver)
     EXPECT_EQ(file(), "\"Pallone\",2,1,5,6");
 }
 
-TEST_F(NomeImmagine, WhatCannotBeOpenedForReadingIsNotReplaced)
+TEST_F(NomeImmagine, AFileThatCannotBeOpenedIsNotReplaced)
 {
     if (!mettiIlleggibile(u"Immagini.dat"_s))
         GTEST_SKIP();
@@ -246,7 +248,7 @@ TEST_F(NomeImmagine, WhatCannotBeOpenedForReadingIsNotReplaced)
     EXPECT_FALSE(QFileInfo(u"Immagini.dat"_s).isFile());
 }
 
-TEST_F(NomeImmagine, AFolderOfThatNameIsLeftAlone)
+TEST_F(NomeImmagine, AFolderOfThatNameIsNotReplaced)
 {
     ASSERT_TRUE(QDir().mkdir(u"Immagini.dat"_s));
     ok(u"Pallone"_s);
@@ -254,12 +256,13 @@ TEST_F(NomeImmagine, AFolderOfThatNameIsLeftAlone)
     EXPECT_TRUE(QFileInfo(u"Immagini.dat"_s).isDir());
 }
 
-TEST_F(NomeImmagine, TheListOfPicturesIsFilledAnewFromWhatWasReadAtTheStart)
+TEST_F(NomeImmagine, TheListOfPicturesIsFilledAgainFromTheRecordsReadAtTheStart)
 {
     banco.acquisite.Mostra();
     banco.acquisite.lstImgAcquisite.AddItem(u"di troppo"_s);
     ok(u"Pallone"_s);
-    // Without a file at the start there is one empty entry, and the new picture is not there yet.
+    // Without a file at the start there is one empty entry, and the new picture is not in the list
+    // yet.
     ASSERT_EQ(banco.acquisite.lstImgAcquisite.ListCount(), 1);
     EXPECT_EQ(banco.acquisite.lstImgAcquisite.List(0), QString());
     EXPECT_EQ(banco.console.lstImgCamera.ListCount(), 1);
