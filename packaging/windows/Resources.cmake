@@ -5,24 +5,24 @@ if(NOT ICOTOOL)
     message(FATAL_ERROR "icotool makes the icon and is not here (Debian: icoutils)")
 endif()
 
-set(RISORSE_WINDOWS ${PROJECT_BINARY_DIR}/windows)
-file(MAKE_DIRECTORY ${RISORSE_WINDOWS})
-set(ICONA ${RISORSE_WINDOWS}/lumbra.ico)
-set(MANIFESTO ${RISORSE_WINDOWS}/lumbra.manifest)
+set(RESOURCES ${PROJECT_BINARY_DIR}/windows)
+file(MAKE_DIRECTORY ${RESOURCES})
+set(ICON ${RESOURCES}/lumbra.ico)
+set(MANIFEST ${RESOURCES}/lumbra.manifest)
 
-set(IMMAGINI ${PROJECT_BINARY_DIR}/art/png)
-set(PICCOLE ${IMMAGINI}/lumbra-16.png ${IMMAGINI}/lumbra-32.png ${IMMAGINI}/lumbra-48.png)
-set(GRANDE ${IMMAGINI}/lumbra-256.png)
+set(PICTURES ${PROJECT_BINARY_DIR}/art/png)
+set(SMALL ${PICTURES}/lumbra-16.png ${PICTURES}/lumbra-32.png ${PICTURES}/lumbra-48.png)
+set(LARGE ${PICTURES}/lumbra-256.png)
 add_custom_command(
-    OUTPUT ${ICONA}
-    COMMAND ${ICOTOOL} -c -o ${ICONA} ${PICCOLE} --raw=${GRANDE}
-    DEPENDS ${PICCOLE} ${GRANDE}
+    OUTPUT ${ICON}
+    COMMAND ${ICOTOOL} -c -o ${ICON} ${SMALL} --raw=${LARGE}
+    DEPENDS ${SMALL} ${LARGE}
     COMMENT "Making the icon"
     VERBATIM)
 
-configure_file(packaging/windows/lumbra.manifest.in ${MANIFESTO} @ONLY)
-configure_file(packaging/windows/lumbra.rc.in ${RISORSE_WINDOWS}/lumbra.rc @ONLY)
-set_source_files_properties(${RISORSE_WINDOWS}/lumbra.rc PROPERTIES
-    OBJECT_DEPENDS "${ICONA};${MANIFESTO}")
-target_sources(lumbra PRIVATE ${RISORSE_WINDOWS}/lumbra.rc)
+configure_file(packaging/windows/lumbra.manifest.in ${MANIFEST} @ONLY)
+configure_file(packaging/windows/lumbra.rc.in ${RESOURCES}/lumbra.rc @ONLY)
+set_source_files_properties(${RESOURCES}/lumbra.rc PROPERTIES
+    OBJECT_DEPENDS "${ICON};${MANIFEST}")
+target_sources(lumbra PRIVATE ${RESOURCES}/lumbra.rc)
 set_target_properties(lumbra PROPERTIES WIN32_EXECUTABLE ON)

@@ -2,8 +2,8 @@
 it, run it, let a condition start it, watch the camera, acquire two pictures, find one of them,
 fetch a photo, close with unsaved work. The robot's diary is the judge.
 
-day.py PROGRAM FOLDER DIARY PICTURES: the program's file, its folder, what the simulated robot
-writes, and where the pictures go."""
+day.py PROGRAM FOLDER DIARY PICTURES: the program's file, its folder, the robot's diary, the folder for
+pictures."""
 
 import hashlib
 import os
@@ -54,13 +54,13 @@ def aggiunta(riga):
 
 
 def guida():
-    """By hand: a key held until the robot goes, and the space bar."""
+    """Drives by hand: a key held until the robot moves, and the space bar."""
     s.tieni("Up", lambda: s.fatto("BaseAvanti v=1"), lambda: s.foto("guida", CONSOLE))
     s.tieni("space", lambda: s.fatto("BaseStop"))
 
 
 def imposta():
-    """The options, stored once: the file that they lie in holds the runner's default, too."""
+    """Stores the options once; their file holds the runner's default condition, too."""
     davanti(CONSOLE)
     s.premi(CONSOLE, "Accedi alle opzioni")
     attendi(OPZIONI, lambda: s.finestra(OPZIONI))
@@ -72,7 +72,7 @@ def imposta():
 
 
 def numero(voce, titolo, cosa):
-    """A number asked for by the value dialog."""
+    """Enters a number into the value dialog."""
     s.menu(SEQUOR, "Inserisci", voce)
     attendi(titolo, lambda: s.finestra(titolo))
     s.in_primo_piano(titolo)
@@ -84,7 +84,7 @@ def numero(voce, titolo, cosa):
 
 
 def costruisci():
-    """A list by doing: what is done on the console becomes lines."""
+    """Builds a list by doing: what is done on the console becomes lines."""
     apri("Accedi all'editor delle mosse Sequor", SEQUOR)
     davanti(CONSOLE)
     s.premi(CONSOLE, "Pronuncia frase")
@@ -99,7 +99,8 @@ def costruisci():
     numero("Frase", "Inserisci il numero della frase desiderata", "12")
     s.menu(SEQUOR, "Inserisci", "Testa", "Destra (2 st)")
     aggiunta("Testa destra 2")
-    assert righe() == ["Frase 1", "Foto", "Testa sinistra 2", "Pausa 700", "Frase 12", "Testa destra 2"], righe()
+    assert righe() == ["Frase 1", "Foto", "Testa sinistra 2", "Pausa 700", "Frase 12",
+                       "Testa destra 2"], righe()
 
     s.menu(SEQUOR, "File", "Salva")
     s.file("Salva con nome", os.path.join(cartella, "giornata.sqm"))
@@ -111,7 +112,7 @@ def costruisci():
 
 
 def lista_fatta(volte):
-    """The robot has done the list's lines this many times, in their order."""
+    """Waits until the robot has done the list's lines this many times, in their order."""
     fatte = ["Riproduci n=67", "ScattaFoto", "TestaSinistra n=2", "Riproduci n=78",
              "TestaDestra n=2"]
     for cosa in fatte:
@@ -134,7 +135,7 @@ def esegui():
 
 
 def vigila():
-    """A condition on the temperature, which the robot has: the list starts by itself."""
+    """Sets a condition on the robot's temperature: the list starts by itself."""
     apri("Accedi al Vigilio", VIGILIO)
     s.menu(VIGILIO, "Opzioni", "Deseleziona le liste una volta eseguite")
     trovate = []
@@ -166,7 +167,7 @@ def vigila():
 
 
 def guarda():
-    """The camera, and two pictures cut out of what it shows."""
+    """Opens the camera, and cuts two pictures out of what it shows."""
     apri("Accedi alla visione della Videocamera di Tessaro", CAMERA)
     s.attendi_robot("AvviaVideo partenza")
     for nome, da, a in (("quadro", (0.24, 0.05), (0.5, 0.3)), ("palla", (0.5, 0.72), (0.74, 0.96))):
@@ -194,7 +195,7 @@ def guarda():
 
 
 def ritrova():
-    """The second picture is looked for from the next start on."""
+    """From the next start on the second picture is searched for, and found."""
     apri("Accedi alla visione della Videocamera di Tessaro", CAMERA)
     attendi("the picture found", lambda: s.testo(CAMERA, "label", "Palla"))
     s.foto("ritrovata", CAMERA)
@@ -204,12 +205,12 @@ def ritrova():
 
 
 def preleva():
-    """A photo from the robot's storage, the same byte for byte."""
+    """Fetches a photo from the robot's storage, which must be the same byte for byte."""
     apri("Esplora i file all'interno di Tessaro", RISORSE)
     presa = os.path.join(cartella, "salotto.jpg")
 
     def fatto():
-        # While the listing still runs a double click does nothing.
+        # A double click does nothing while the listing runs.
         s.clic(s.controllo(RISORSE, "list item", "salotto.jpg"), dx=0.05, volte=2)
         return entro(5, lambda: os.path.exists(presa))
 
@@ -228,7 +229,7 @@ def impronta(percorso):
 
 
 def chiudi(processo):
-    """Work that is not saved: the question comes, Cancel keeps all, No lets it go."""
+    """Closes with unsaved work: the program asks, Cancel keeps everything, No discards the work."""
     apri("Accedi all'editor delle mosse Sequor", SEQUOR)
     s.menu(SEQUOR, "Inserisci", "Base", "Stop")
     aggiunta("Stop")

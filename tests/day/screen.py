@@ -1,5 +1,5 @@
-"""The screen as its user meets it: windows and controls found as a screen reader finds them (AT-SPI),
-keys and clicks made by the X server (xdotool), pictures (import)."""
+"""The screen as its user meets it: windows and controls are found as a screen reader finds them
+(AT-SPI), keys and clicks come from the X server (xdotool), pictures from import."""
 
 import os
 import subprocess
@@ -19,11 +19,11 @@ CAMERA = "Videocamera"
 RISORSE = "Esplora Risorse"
 
 BARRA_TITOLO, CORNICE = 19, 1  # pixels around a window, for its picture
-PAZIENZA = 60.0  # seconds that a condition may take before the day is given up
+PAZIENZA = 60.0  # seconds that a condition may take before the day fails
 
 
 def attendi(cosa, condizione):
-    """Waits until the condition gives something true, and gives that back."""
+    """Waits until the condition returns something true, and returns that."""
     esito = entro(PAZIENZA, condizione)
     if not esito:
         raise TimeoutError(f"Waited in vain: {cosa}")
@@ -31,13 +31,13 @@ def attendi(cosa, condizione):
 
 
 def entro(secondi, condizione):
-    """The same, for so many seconds at most: what came last."""
+    """The same, for so many seconds at most; returns the last result."""
     fine = time.monotonic() + secondi
     esito = None
     while time.monotonic() < fine:
         try:
             esito = condizione()
-        except (RuntimeError, LookupError, NotImplementedError):  # a window that is just going away
+        except (RuntimeError, LookupError, NotImplementedError):  # a window that is just closing
             esito = None
         except Exception as errore:  # GLib's error of the accessibility bus
             if "atspi_error" not in repr(errore) and "GError" not in type(errore).__name__:
@@ -55,9 +55,9 @@ def xdotool(*argomenti):
 
 
 def area_di(oggetto):
-    """Where it stands on the screen: left, top, width, height in pixels."""
+    """The place of an object on the screen: left, top, width, height in pixels."""
     area = oggetto.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-    # The program tells its own, magnified pixels.
+    # The program counts in its own, magnified pixels.
     return [round(lato * SCALA) for lato in (area.x, area.y, area.width, area.height)]
 
 
@@ -68,10 +68,10 @@ class Schermo:
         self.cartella_foto = cartella_foto
         self.stazione = 0
 
-    # What stands on the screen.
+    # What is on the screen.
 
     def applicazione(self):
-        # Asked anew each time: what is known of it goes stale when its windows come and go.
+        # Asked for anew each time: what is cached is wrong as soon as windows come and go.
         for app in pyatspi.Registry.getDesktop(0):
             if app is not None and app.name == self.programma:
                 app.clear_cache()
@@ -79,14 +79,14 @@ class Schermo:
         return None
 
     def finestra(self, titolo):
-        """The shown window whose title begins so."""
+        """The shown window whose title begins with this."""
         for finestra in self.applicazione() or []:
             if finestra.name.startswith(titolo) and mostrato(finestra):
                 return finestra
         return None
 
     def controllo(self, titolo, ruolo, nome=None, quale=0):
-        """A shown control of a window, by its role and its name (None: any); waits for it."""
+        """Waits for a shown control of a window, by its role and its name; None is any."""
 
         def cerca():
             trovati = []
@@ -105,10 +105,10 @@ class Schermo:
 
         attendi(f"{titolo!r} in front", davanti)
 
-    # What its user does.
+    # What the user does.
 
     def vai(self, controllo, dx=0.5, dy=0.5):
-        """Moves the pointer over a control, to a part of its width and height."""
+        """Moves the pointer over a control, to these fractions of its width and height."""
         x, y, larghezza, altezza = area_di(controllo)
         xdotool("mousemove", x + int(larghezza * dx), y + int(altezza * dy))
 
@@ -117,20 +117,19 @@ class Schermo:
         xdotool("click", "--repeat", volte, "--delay", 60, 1)
 
     def premi(self, titolo, nome):
-        """Clicks what bears this name: a button, a box, an option, a picture, a label."""
+        """Clicks what has this name: a button, a box, an option, a picture, a label."""
         self.clic(self.controllo(titolo, None, nome))
 
     def menu(self, titolo, *voci):
-        """Takes an entry of a menu, through its submenus."""
+        """Chooses an entry of a menu, through its submenus."""
         for passo, voce in enumerate(voci):
             if passo:
                 self.foto("menu")
             self.clic(self.controllo(titolo, "menu item", voce))
 
     def tieni(self, tasto, fatto, intanto=None):
-        """Holds a key until something is done. A release that comes while the console waits for
-        the robot leaves the key latched, and the next press only frees it: then the user presses
-        again."""
+        """Holds a key until something has happened. A release while the console waits for the robot
+        leaves the key latched, and the next press only frees it: then it is pressed again."""
         for _ in range(10):
             xdotool("keydown", tasto)
             esito = entro(2, fatto)
@@ -158,7 +157,7 @@ class Schermo:
         attendi(f"dialog {titolo!r} gone", lambda: not self.finestra(titolo))
 
     def scegli_gradi(self, quanti):
-        """Chooses in the one combo box of the condition dialog that holds degrees."""
+        """Chooses a temperature in the condition dialog, in the combo box that shows 25."""
         trovate = []
         raccogli(self.finestra(CONDIZIONE), "combo box", None, trovate)
         self.clic(next(casella for casella in trovate if casella.name == "25"))
@@ -167,8 +166,8 @@ class Schermo:
         self.tasti("Return")
 
     def foto(self, nome, *finestre):
-        """A picture of the screen, and one of these windows (or titles), their frames included,
-        for the manual."""
+        """Takes a picture of the screen and, for the manual, one of these windows (or titles) with
+        their frames."""
         self.stazione += 1
         intera = f"{self.cartella_foto}/{self.stazione:02}-{nome}.png"
         subprocess.run(["import", "-window", "root", intera], check=True)
@@ -194,7 +193,7 @@ class Schermo:
             return file.read().splitlines()
 
     def fatto(self, cosa):
-        """How often the robot's diary says so."""
+        """How many times the robot's diary says so."""
         return sum(cosa in riga for riga in self.diario())
 
     def attendi_robot(self, cosa, volte=1):

@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
-"""Holds the manual against the sources, so that it does not rot: every message that it explains is
-one that the program can show, every message of the program is explained, phrases and sounds are the
-program's, links and pictures are well named.
+"""Compares the manual with the sources: every message that it explains is one that the program can
+show, every message of the program is explained, phrases and sounds are the program's, links and
+pictures exist.
 
-test_manual.py FOLDER: the folder of the sources. Prints each fault; the exit status is 1 with any.
+test_manual.py FOLDER: the folder of the sources. Prints each fault; then the exit
+status is 1.
 """
 import re
 import sys
@@ -13,10 +14,10 @@ FOLDERS = "base controls serial shell link console movelists vision filebrowser 
 VOCABULARY = "link/FrasiSuoni.cpp"
 MESSAGES = "09-i-messaggi.md"
 PHRASES = "12-frasi-e-suoni.md"
-# What the tour takes pictures of.
+# The pictures that the day takes for the manual.
 PICTURES = set("avvio console guida sequor valore corsa vigilio condizione camera nome ritrovata "
                "risorse domanda opzioni".split())
-# A text may be put together of pieces; shorter ones would fit into anything.
+# A message may be built of several literals; a shorter piece would fit into almost any text.
 SHORTEST_PIECE = 4
 GAP = "…"
 
@@ -30,20 +31,20 @@ ALL_SHOWN = {"base/Errore.cpp", "serial/PermessiPorta.cpp"}
 
 
 def code(path):
-    """The file without comments, its neighbouring strings joined."""
+    """The file without comments, with neighbouring literals joined."""
     text = TOKEN.sub(lambda m: m[0] if m[1] is not None or m[2] else " ",
                      path.read_text(encoding="utf-8"))
     return NEIGHBOURS.sub("", text)
 
 
 def pieces(literal):
-    """What of a literal stands between its places and its line ends."""
+    """The pieces of a literal between its placeholders and its line ends."""
     plain = re.sub(r"\\(.)", lambda m: "\n" if m[1] == "n" else m[1], literal)
     return [piece for piece in re.split(r"%\d|\n", plain) if piece]
 
 
 def built(text, literals):
-    """Whether a text is a literal, or is put together of some."""
+    """Whether a text is a literal, or consists of several."""
     if text in literals:
         return True
     reached = {0}
@@ -60,7 +61,7 @@ def first_column(chapter):
 
 
 def anchors(chapter):
-    """The names that a page gives its headings."""
+    """The anchors of a page's headings."""
     titles = re.findall(r"^#+ (.+)$", chapter, re.M)
     return {re.sub(r"[^\w\- ]", "", title.lower()).replace(" ", "-") for title in titles}
 

@@ -1,6 +1,7 @@
-"""Rules of the whole source that no single test program sees: what ends the program, who makes boxes,
-that no failure of a handler crosses Qt's dispatch, and that no include runs upward or in a circle.
-test_rules.py ROOT"""
+"""Rules of the whole source that no single test program can check: what ends the program, who makes
+boxes, that no failure of a handler crosses Qt's dispatch, that no include runs upward or in a
+circle.
+test_rules.py ROOT: the folder of the sources."""
 
 import pathlib
 import re
@@ -8,10 +9,11 @@ import sys
 import unittest
 
 RADICE = pathlib.Path(sys.argv.pop() if len(sys.argv) > 1 else ".")
-CARTELLE = ["base", "controls", "controls/look", "serial", "shell", "link", "movelists", "conditional", "filebrowser", "vision", "console"]
+CARTELLE = ["base", "controls", "controls/look", "serial", "shell", "link", "movelists",
+            "conditional", "filebrowser", "vision", "console"]
 
-# The floors: what each folder may include besides itself and the drawings. The simulated robot and the
-# program share the look and the drawings, and nothing of the wire.
+# The floors: what each folder may include, the drawings aside. The simulated robot and the program
+# share the look and the drawings, and nothing of the line.
 BASE = {"base"}
 CONTROLS = BASE | {"controls", "controls/look"}
 SERIAL = CONTROLS | {"serial"}
@@ -41,19 +43,20 @@ FLOORS = {
 }
 INCLUSO = re.compile(r'^#include "([^"]+)/([^/"]+)"', re.M)
 
-# Handlers run in one of these; what fails in them is dealt with there.
+# Functions that run handlers and deal with what fails in them.
 RIPARI = ["eseguiGestore", "passaErrori", "provaPassata"]
-# Roads that Qt takes into our code, besides slots: what it calls on its own.
+# Functions that Qt calls, besides slots.
 ENTRATE = re.compile(r"^(\w*Event|event|eventFilter|doAction|sizeHint|displayText|validate|"
                      r"rowsInserted|rowsAboutToBeRemoved|reset|moveCursor|selectionCommand)$")
-# Looked at: another class has a function of that name that can fail, or this call cannot fail there.
+# Calls that a person has checked: a function of that name in another class can fail, or this call
+# cannot fail at this place.
 VISTE = {
     ("Accessibile.cpp", "doAction", "azione"),
     ("Controllo.h", "mousePressEvent", "premuto"),
     ("Cornice.cpp", "paintEvent", "titolo"),
     ("Elenco.cpp", "mousePressEvent", "premuto"),
     ("Finestra.cpp", "event", "attiva"),
-    ("Pulsanti.cpp", "eventFilter", "passo"),  # it asks for the limits first
+    ("Pulsanti.cpp", "eventFilter", "passo"),  # it checks the limits first
     ("Pulsanti.cpp", "connect", "passo"),
     ("TastoTenuto.cpp", "eventFilter", "finito"),
     ("TastoTenuto.cpp", "eventFilter", "premuto"),
@@ -68,7 +71,7 @@ def sorgenti():
 
 
 def nudo(testo):
-    """The code without comments, and with empty strings."""
+    """The code without comments and with empty strings."""
     testo = re.sub(r"//[^\n]*", "", testo)
     testo = re.sub(r"/\*.*?\*/", "", testo, flags=re.S)
     testo = re.sub(r"'(\\.|[^'\\])'", "' '", testo)
@@ -76,7 +79,7 @@ def nudo(testo):
 
 
 def chiusa(testo, inizio):
-    """The place after the bracket that closes the one at inizio."""
+    """The place after the bracket that closes the one at `inizio`."""
     apre = testo[inizio]
     chiude = {"(": ")", "{": "}", "[": "]"}[apre]
     aperte = 0
@@ -95,7 +98,7 @@ DEFINIZIONE = re.compile(r"(?<![\w.>])((?:\w+::)*~?\w+)\s*\(")
 
 
 def funzioni(testo):
-    """Name and body of each function that is defined in it."""
+    """Name and body of each function that the text defines."""
     for trovata in DEFINIZIONE.finditer(testo):
         nome = trovata.group(1).split("::")[-1]
         if nome in PAROLE:
@@ -112,7 +115,7 @@ def funzioni(testo):
 
 
 def senza_ripari(corpo):
-    """What is left of a body when all that runs in a shelter is taken away."""
+    """What remains of a body without everything that runs inside try or a function of RIPARI."""
     while True:
         riparo = re.search(r"\b(" + "|".join(RIPARI) + r")\s*\(", corpo)
         if not riparo:
@@ -166,14 +169,14 @@ class Regole(unittest.TestCase):
                 self.assertEqual(fatti, [], file)
 
     def test_no_handler_for_a_failure_closes_files(self):
-        # To close writes what is waiting, and may fail itself; abbandona() cannot.
+        # Closing writes what is still in the buffer, and may fail itself; abbandona() cannot.
         for file, testo in self.testi.items():
             for inizio in re.finditer(r"\bcatch\s*\([^)]*\)\s*\{", testo):
                 corpo = testo[inizio.end() - 1:chiusa(testo, inizio.end() - 1)]
                 self.assertNotIn("Archivio::chiudi", senza_ripari(corpo), file)
 
     def inclusi(self):
-        """Each source of the program and of the simulated robot, with the headers it includes."""
+        """Each source of the program and of the simulated robot, with its includes."""
         for cartella in FLOORS:
             for file in sorted([*(RADICE / cartella).glob("*.cpp"), *(RADICE / cartella).glob("*.h")]):
                 yield cartella, file, INCLUSO.findall(file.read_text())
@@ -218,7 +221,7 @@ class Regole(unittest.TestCase):
                 nomi[file.name] = file
 
     def fallibili(self):
-        """Names of functions that an error can leave, by what they throw and what they call."""
+        """Names of functions that can throw, by what they throw and what they call."""
         nomi = {nome for _, nome, corpo in self.funzioni
                 if re.search(r"\bthrow\b", senza_ripari(corpo))}
         while True:
@@ -247,7 +250,7 @@ class Regole(unittest.TestCase):
         self.assertEqual(scoperte, [], "run it in eseguiGestore, or raise an Evento")
 
     def eventi(self):
-        """Events shelter their handlers themselves."""
+        """Names of events, which run their handlers in eseguiGestore themselves."""
         return {nome for testo in self.testi.values()
                 for nome in re.findall(r"\bEvento<[^;{}]*>\s+(\w+)\s*;", testo)}
 

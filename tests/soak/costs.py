@@ -1,4 +1,5 @@
-"""What one act costs in memory: each done some hundred times, the memory in use after each block."""
+"""What one act costs in memory: each act is done some hundred times, and the memory in use is asked
+for after each block."""
 
 import time
 
@@ -37,7 +38,7 @@ class Misure:
 
     def misura(self, nome, atto):
         try:
-            atto()  # what is made once, is made
+            atto()  # makes what is made only once
             valori = [self.in_uso()]
             for _ in range(BLOCCHI):
                 for _ in range(VOLTE):
@@ -51,13 +52,13 @@ class Misure:
         self.p.dettagli(self.righe[-1])
 
     def in_uso(self):
-        time.sleep(1)  # what goes away later, is gone
+        time.sleep(1)  # what is deleted later is gone by then
         return self.p.testimone.in_uso()
 
-    # The hands alone: a screen reader's questions cost memory too.
+    # With keys and clicks only: a screen reader's questions cost memory too.
 
     def posto(self, titolo, nome, ruolo=None):
-        """Where a control is, from its window's corner; asked once."""
+        """The place of a control in its window, in pixels; asked for once."""
         chiave = titolo, nome
         if chiave not in self.u.posti:
             def cerca():

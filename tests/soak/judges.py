@@ -1,24 +1,25 @@
-"""What must hold at every moment, whatever the user does: each judge takes what was seen and gives
-the complaint, or None. None of them looks for itself, so that each can be shown both."""
+"""What must hold at every moment, whatever the user does. Each judge takes what was observed and
+returns a complaint, or None. No judge observes anything itself, so that tests can show it both a
+good and a bad case."""
 
 import re
 
 from line import SESSIONE
 
 FATALE = "Il programma verrà chiuso."
-# A list that a condition starts and that cannot be read ends the program: these are its errors.
+# If a list that a condition starts cannot be read, the program ends with one of these errors.
 LISTA_ILLEGGIBILE = ("(53)", "(62)")
 
 
 def rapporto(testo):
-    """A log of the sanitizers: what they found, or that they fell over themselves."""
+    """What a log of the sanitizers says: what they found, or that they failed themselves."""
     trovato = re.search(r"ERROR: |runtime error: |Sanitizer has encountered a fatal error|"
                         r"Tracer caught signal|Sanitizer:DEADLYSIGNAL|CHECK failed", testo)
     return testo[trovato.start():][:400] if trovato else None
 
 
 def perdite(segni):
-    """What the program's end left behind: the leak check was begun and came to its end."""
+    """Judges the marks that the program's end left: the leak check must have begun and ended."""
     if "begun" not in segni:
         return "the leak check was not begun"
     if "ended" not in segni:
@@ -27,34 +28,34 @@ def perdite(segni):
 
 
 def senza_padre(sopra, capo, finestre):
-    """A box or a dialog: the window that it says it stands above, its client's leader (Qt names
-    that where there is no parent), the program's windows."""
+    """Judges a box or a dialog by the window that it names as its parent, its client's leader
+    (which Qt names if there is no parent) and the program's windows."""
     if not sopra:
-        return "it stands above no window"
+        return "it has no parent window"
     if sopra == capo:
-        return "it stands above the program's leader, which is no window"
+        return "its parent is the program's leader, which is no window"
     if sopra not in finestre:
-        return f"it stands above {sopra:#x}, which is no window of the program"
+        return f"its parent is {sopra:#x}, which is no window of the program"
     return None
 
 
 def sessione_chiusa(comandi):
-    """The robot's side: the last session that was opened has been closed. An earlier one may have
-    lost its closing on a line that lost all."""
+    """Whether the robot has seen the end of the last session that was opened. The end of an earlier
+    one may have been lost on a line that loses everything."""
     sessione = [c[0] for c in comandi if c[0] in SESSIONE]
     return 3 not in sessione or sessione[-1] == 4
 
 
 def porta_chiusa_prima(diario, ora):
-    """Whether the program had closed its port before that moment, in ms of the robot's clock, and
-    not opened it again: an attempt that fails closes it, and then there is no session to end."""
+    """Whether the program had closed its port before that moment (ms of the robot's clock) and not
+    opened it again. A failed attempt closes it, and then there is no session to end."""
     vicende = re.findall(r"^ *(\d+) +Porta (aperta|chiusa) dal programma$", diario, re.M)
     return bool(vicende) and vicende[-1][1] == "chiusa" and int(vicende[-1][0]) < ora
 
 
 class Perdita:
-    """When a robot's line loses all: from, to, in ms since the robot's start, as the robot's own
-    clock has it. What is sent then may never come."""
+    """The time in which a robot's line loses everything, in ms of the robot's clock, which begins
+    with the robot. What is sent then may never arrive."""
 
     TOLLERANZA = 2000
 
@@ -62,14 +63,14 @@ class Perdita:
         self.da, self.a = da, da + per
 
     def inghiotte(self, prima, dopo):
-        """Whether it may have swallowed what was sent between these two moments."""
+        """Whether it may have lost what was sent between these two moments."""
         return prima <= self.a + self.TOLLERANZA and dopo >= self.da - self.TOLLERANZA
 
 
 def fine(esito, chiesta, fatale, comandi, vigilio):
-    """The program has ended: its status, whether the user had closed the console, the text of a box
-    that told the end, the robot's commands (None where the robot was not there to see), whether the
-    runner was ever seen started."""
+    """Judges the end of the program: its exit status, whether the user had closed the console, the
+    text of the box that announced the end, the commands that the robot got (None if there was no
+    robot), whether the runner was ever opened."""
     if fatale and not (vigilio and any(n in fatale for n in LISTA_ILLEGGIBILE)):
         return f"an error that nobody handled: {fatale}"
     if fatale and esito == 0:
@@ -84,7 +85,7 @@ def fine(esito, chiesta, fatale, comandi, vigilio):
 
 
 def lista(byte):
-    """A list file: its count, and so many whole lines."""
+    """Judges a list file: a count, and that many whole lines."""
     testa = re.match(rb" ?(-?\d+) \r\n", byte)
     if not testa:
         return f"no count: {byte[:20]!r}"
@@ -97,7 +98,7 @@ def lista(byte):
 
 
 def distanza(una, altra):
-    """How much two pictures of one size differ, 0 to 255."""
+    """How much two pictures of the same size differ, 0 to 255."""
     return sum(abs(a - b) for a, b in zip(una, altra)) / max(len(una), 1)
 
 
@@ -112,8 +113,8 @@ def premuto(vista, riposo, premuta):
 
 
 def stop(comandi, prima, secondi, intoppo, limite=1.0):
-    """After a click on STOP or a space: the commands that have come, how many there were before,
-    how long it took, how long the machine itself had stood still meanwhile."""
+    """Judges what followed a click on STOP or a space: the commands that have arrived, how many
+    there were before, how many seconds it took, for how many of them the machine itself was late."""
     if (19, 65, 0) not in comandi[prima:]:
         return f"no STOP within {secondi:.1f} s"
     if secondi - intoppo > limite:

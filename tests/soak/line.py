@@ -1,10 +1,10 @@
-"""The wire as the console writes it, told from the command table alone: cutting recorded bytes into
-commands, and the commands that a line of a list asks for. Shares nothing with the simulated robot's
-own recogniser, so that each checks the other."""
+"""What the console writes to the line, by the table of commands alone: cuts recorded bytes into
+commands, and says which commands a line of a list asks for. Shares nothing with the simulated
+robot's recogniser, so that each checks the other."""
 
 LED = {"Vs": 8, "Vd": 128, "Rs": 4, "Rd": 64, "Gs": 2, "Gd": 32, "Bs": 1, "Bd": 16}
 
-# Second byte of the family 19: the values that the console can send.
+# By the second byte of the family 19: the values that the console can send.
 ATTUATORI = {
     2: {0, *range(1, 38, 4)},
     3: {1},
@@ -16,7 +16,7 @@ ATTUATORI = {
     38: set(LED.values()),
     65: {0, 1, 2},
     66: {1, 2},
-    67: {16, 17, 18, 19},  # 19: a turn that was typed, which is none of the list
+    67: {16, 17, 18, 19},  # 19: a typed text that is no entry of the combo box
     68: {16, 17, 18, 19},
     73: {4, 8},
     97: set(range(67, 223)),
@@ -29,7 +29,7 @@ ATTUATORI = {
     161: {1, 2},
 }
 
-# None stands for any value.
+# None is any value.
 FISSI = {
     1: (1,),
     3: (3, 1, 1),
@@ -51,11 +51,11 @@ REAZIONI = {41, 44, 46}  # what the program sends because the robot said somethi
 
 
 class ByteSbagliato(Exception):
-    """Bytes that are no command of the table, or one with a value that nobody can ask for."""
+    """Bytes that are no command of the table, or a command with a value that it cannot have."""
 
 
 def lunghezza(byte):
-    """The length of the command at the beginning; 0 while it is not whole."""
+    """The length of the command at the beginning; 0 as long as it is not complete."""
     primo = byte[0]
     if primo in FISSI:
         schema = FISSI[primo]
@@ -79,7 +79,7 @@ def lunghezza(byte):
 
 
 class Ascolto:
-    """Follows the recording of the line: the commands that went to the robot, as they come."""
+    """Follows the recording of the line: the commands to the robot, as they arrive."""
 
     def __init__(self, file):
         self.file = file
@@ -88,7 +88,7 @@ class Ascolto:
         self.comandi = []
         self.byte = 0
         self.ultimo = None
-        self.silenzio = 0  # ms, the longest that nothing came from the program
+        self.silenzio = 0  # the longest time without a byte from the program, in ms
 
     def aggiorna(self):
         try:
@@ -182,7 +182,7 @@ def comandi_della_riga(riga):
 
 
 def comandi_della_lista(righe):
-    """All commands of a run. A "Ripeti" repeats what stands between the one before it and itself."""
+    """All commands of a run. A "Ripeti" repeats the lines since the "Ripeti" before it."""
     fatti, blocco = [], []
     for riga in righe:
         if riga.startswith("Ripeti"):

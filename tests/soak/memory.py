@@ -1,11 +1,11 @@
-"""What the program holds of memory, round by round, and whether it grows."""
+"""How much memory the program holds, and whether that grows."""
 
 import os
 import select
 
 
 class Testimone:
-    """Asks the library that was loaded before the program."""
+    """Asks the library witness.c, which is loaded before the program."""
 
     def __init__(self, cartella):
         self.nomi = [os.path.join(cartella, nome) for nome in ("domande", "risposte")]
@@ -20,19 +20,19 @@ class Testimone:
     def chiedi(self, cosa):
         os.write(self.domande, cosa)
         if not select.select([self.risposte], [], [], 120)[0]:
-            raise TimeoutError("The program does not tell its memory")
+            raise TimeoutError("The program does not say how much memory it holds")
         return int(os.read(self.risposte, 64).split()[-1])
 
     def in_uso(self):
         return self.chiedi(b"m")
 
     def pagina(self):
-        """By whom it is held, into the sanitizers' log."""
+        """Writes into the sanitizers' log who holds the memory."""
         return self.chiedi(b"p")
 
 
 def discendente(pid, nome):
-    """The process of that name among those that this one started, at any remove; None so far."""
+    """The process of that name among the descendants of this one; None if there is none yet."""
     try:
         with open(f"/proc/{pid}/comm", encoding="utf-8") as file:
             if file.read().strip() == nome:
@@ -48,7 +48,7 @@ def discendente(pid, nome):
 
 
 def attesa_del_processore(*processi):
-    """Seconds that the first threads of these have been ready to run and have not run."""
+    """How many seconds the first threads of these processes were ready to run and did not."""
     somma = 0
     for pid in processi:
         try:
@@ -69,8 +69,8 @@ def residente(pid):
 
 
 def pendenza(valori):
-    """Growth for each round: the median of the slopes between all pairs, so that a round that
-    happens to hold more or less does not tilt it."""
+    """Growth a round: the median of the slopes between all pairs, which single rounds that happen
+    to hold more or less do not change."""
     pendenze = sorted((b - a) / (j - i)
                       for i, a in enumerate(valori) for j, b in enumerate(valori) if j > i)
     if not pendenze:

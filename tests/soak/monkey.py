@@ -1,9 +1,9 @@
 """The monkey: random but real input to whatever window of the program is open, for a whole round.
 Clicks, double clicks, right clicks and drags at random points, keys held and repeated, the wheel,
 Alt+Tab to another program and back, windows minimised, moved and closed, the robot silent now and
-then, the cable out. What must hold meanwhile is said in judges.py.
+then, the cable out. judges.py says what must hold meanwhile.
 
-A round's choices follow from its seed: to repeat one, --rounds monkey --seed with the round's own."""
+A round's choices follow from its seed; --rounds monkey --seed N repeats the round of seed N."""
 
 import glob
 import os
@@ -27,7 +27,7 @@ from user import Guaio
 
 NOME_IMMAGINE = "Dai un nome all'immagine"
 FILE = ("Apri", "Salva con nome")  # the titles of the file dialogs
-VISTE = ("Vista a elenco", "Vista dettagliata")  # there, the chosen one is held down by Qt
+VISTE = ("Vista a elenco", "Vista dettagliata")  # in them Qt holds the chosen one down
 FRECCE = {
     "Controlla la base": ("Su", "Sinistra", "Destra", "Giù", "Alza il bacino", "Abbassa il bacino"),
     "Controlla le braccia": ("Alza il braccio sinistro", "Alza il braccio destro",
@@ -48,15 +48,15 @@ TASTI = ["Up", "Down", "Left", "Right", "space"] * 4 + [
 PERICOLOSI = ["Delete", "F2", "F10", "Menu"]
 TESTI = ("1", "5", "12", "150", "0", "7qz", "qz", "99", "3", "200", "qqzz9", "60000")
 
-# What the robot suffers from in a round.
+# Options of the simulated robot: its fault in a round.
 MALI = [[], [], [], ["--ritardo", "400"], ["--persi", "0.02"], ["--sporchi", "0.02"],
         ["--troncati", "0.05"], ["--baud", "9600"], ["--perdi-linea"], ["--silenzio"]]
 
-DURATA = (100, 200)  # seconds that a round's monkey is at work
-PAZIENZA_RISPOSTA = 60.0  # seconds within which the program answers a screen reader
+DURATA = (100, 200)  # seconds that a round lasts
+PAZIENZA_RISPOSTA = 60.0  # seconds that the program may take to answer a screen reader
 PAZIENZA_FINE = 240.0
 PAZIENZA_RILASCIO = 6.0
-ATTESA_LUNGA = 30.0  # s: no wait for the robot lasts longer
+ATTESA_LUNGA = 30.0  # seconds; no wait for the robot lasts longer
 
 
 class Scimmia:
@@ -83,7 +83,7 @@ class Scimmia:
         fine = time.monotonic() + 60 * self.minuti
         self.x = ServitoreX()
         self.x.ripetizione(True)
-        # It draws nothing, so that Qt's own bus is no concern of it.
+        # A program without Qt: it does not appear on the accessibility bus.
         self.altro = subprocess.Popen([sys.executable, os.path.join(
             os.path.dirname(__file__), "other_program.py")])
         try:
@@ -93,7 +93,7 @@ class Scimmia:
                 inizio = self.p.adesso()
                 try:
                     self.giro(seme, min(fine, time.monotonic() + 3600))
-                except Exception as errore:  # a judge's own crash is a failure too
+                except Exception as errore:  # a fault of the script itself is a failure too
                     self.p.guaio(f"monkey round, --rounds monkey --seed {seme}, from second "
                                  f"{inizio:.0f} of registro.txt, {self.atti} acts done: "
                                  f"{type(errore).__name__} {errore}", errore)
@@ -106,7 +106,7 @@ class Scimmia:
             self.altro.wait()
 
     def abbandona(self):
-        """After a failure: the next round begins with another program."""
+        """Ends the program after a failure, so that the next round begins with a new one."""
         self.x.lascia_tutto()
         self.p.termina_programma()
         self.riprende()
@@ -117,7 +117,7 @@ class Scimmia:
         self.caso = self.p.caso = self.u.caso = random.Random(seme)
         self.p.dettagli(f"monkey round, seed {seme}")
         self.prepara()
-        # Learning the looks may have taken what time there was.
+        # Learning the looks may have taken all the time there was.
         fine = max(min(fine, time.monotonic() + self.caso.uniform(*DURATA)), time.monotonic() + 30)
         while time.monotonic() < fine:
             self.robot_passo()
@@ -129,7 +129,7 @@ class Scimmia:
         self.termina()
         self.stacca(subito=False, intera=True)
 
-    # The stage.
+    # The beginning of a round.
 
     def prepara(self):
         for nome in os.listdir(self.u.disco):
@@ -155,7 +155,7 @@ class Scimmia:
             file.write(testo)
 
     def nasci(self):
-        """A program's life begins."""
+        """Starts the program."""
         self.u.avvisi_ammessi = ("",)
         self.u.posti.clear()
         self.parti.clear()
@@ -169,7 +169,7 @@ class Scimmia:
         self.p.avvia_programma()
 
     def impara(self):
-        """How the arrows look at rest and pressed, and where the labels rest: shown by hand."""
+        """Presses each arrow and label once, to learn how it looks at rest and pressed."""
         if self.mali:
             self.stacca(subito=False, intera=True)
             self.p.avvia_robot("scimmia-impara", [])
@@ -185,7 +185,7 @@ class Scimmia:
         for nome in TARGHE:
             x, y, w, h = self.posto(nome)
             self.premuta_a_mano(console, x, y, w, h)
-            self.u.attendi("the label's rest", lambda: self.posto(nome))
+            self.u.attendi("the label at rest", lambda: self.posto(nome))
             self.targhe[nome] = self.posto(nome)[0]
         self.misura_console = console.area[2:]
         if self.premuti():
@@ -195,7 +195,7 @@ class Scimmia:
             self.attacca()
 
     def posto(self, nome):
-        """Where a control of the console is, from the window's corner."""
+        """The place of a control in the console, in pixels; None if it is not shown."""
         console = self.console()
         trovati = []
         raccogli(self.u.finestra(CONSOLE), None, nome, trovati)
@@ -243,7 +243,7 @@ class Scimmia:
         self.dice(f"robot {self.numero_robot}: {' '.join(opzioni) or 'sound'}")
 
     def stacca(self, subito, intera):
-        """The robot goes; what it was sent is judged."""
+        """Ends the robot, and judges what it was sent."""
         self.riprende()
         if self.p.robot:
             self.p.ferma_robot(subito=subito)
@@ -264,7 +264,7 @@ class Scimmia:
         self.u.ascolto = None
 
     def robot_passo(self):
-        """What was begun with the robot comes to its end."""
+        """Ends a silence or an interruption of the line when its time is over."""
         adesso = time.monotonic()
         if self.muto_fino and adesso > self.muto_fino:
             self.riprende()
@@ -293,7 +293,7 @@ class Scimmia:
             self.stacca(subito=self.caso.random() < 0.5, intera=False)
             self.staccato_fino = time.monotonic() + secondi
 
-    # What holds all the time.
+    # What must hold all the time.
 
     def vigila(self):
         if self.u.processo.poll() is not None:
@@ -308,7 +308,7 @@ class Scimmia:
         self.visti = dialoghi
         adesso = time.monotonic()
         if self.chiesta and adesso > self.chiesta + ATTESA_LUNGA and not dialoghi:
-            self.chiesta = 0.0  # the closing was called off
+            self.chiesta = 0.0  # the user answered Cancel
         if adesso > self.ultimo_rapporto + 3:
             self.ultimo_rapporto = adesso
             self.giudica_rapporti()
@@ -318,10 +318,10 @@ class Scimmia:
     def giudica_padri(self, finestre):
         for dialogo in (f for f in finestre if f.dialogo):
             lamento = judges.senza_padre(dialogo.sopra, dialogo.capo, self.x.del_programma())
-            # The naming of a picture outlives the video window that it came from.
+            # The dialog that names a picture may outlive the video window that opened it.
             if not lamento or (dialogo.titolo == NOME_IMMAGINE and self.x.nostra(dialogo.sopra)):
                 continue
-            # It may be going away, or its parent.
+            # It may be closing, or its parent may.
             time.sleep(0.5)
             ancora = [f for f in self.x.finestre() if f.numero == dialogo.numero]
             if ancora and judges.senza_padre(ancora[0].sopra, ancora[0].capo,
@@ -351,7 +351,7 @@ class Scimmia:
                 raise Guaio(f"report of the sanitizers, {os.path.basename(nome)}: {lamento}")
 
     def giudica_risposta(self):
-        """The program's event loop is there: a screen reader is answered."""
+        """The program's event loop runs: it answers a screen reader."""
         inizio = time.monotonic()
 
         def vivo():
@@ -365,13 +365,13 @@ class Scimmia:
         self.ultima_risposta = time.monotonic()
 
     def giudica_fine(self):
-        """The program has ended."""
+        """Judges the end of the program."""
         self.fini += 1
         self.x.lascia_tutto()
         comandi = None
         if self.p.robot and not self.nella_perdita(20):
             self.riprende()
-            # What was written before the end still arrives.
+            # What was written before the end may still arrive.
             fine = time.monotonic() + 10
             while time.monotonic() < fine:
                 self.u.ascolto.aggiorna()
@@ -394,7 +394,7 @@ class Scimmia:
             raise Guaio(f"the end of the program: {lamento}")
 
     def nella_perdita(self, secondi):
-        """Whether the robot's line may have lost what was sent in the last seconds."""
+        """Whether the line may have lost what was sent in these last seconds."""
         ora = 1000 * (time.monotonic() - self.nato)
         return bool(self.perdita and self.perdita.inghiotte(ora - 1000 * secondi, ora))
 
@@ -408,7 +408,7 @@ class Scimmia:
                     lamento = None
                 if not lamento:
                     break
-                time.sleep(0.5)  # it may just be written
+                time.sleep(0.5)  # it may be being written just now
             if lamento:
                 raise Guaio(f"list file {os.path.basename(nome)}: {lamento}")
 
@@ -456,7 +456,7 @@ class Scimmia:
                      if f.titolo.startswith(CONSOLE) and not f.dialogo and not f.scavalca), None)
 
     def lista_attiva(self):
-        """Whether the editor may be taking the console's deeds; a minimised one counts as open."""
+        """Whether the console's commands may go into the editor's list, minimised or not."""
         for finestra in self.u.applicazione() or []:
             if finestra.name.startswith(SEQUOR):
                 da_vedere = [finestra]
@@ -477,12 +477,13 @@ class Scimmia:
         return bool(sessione) and sessione[-1] != 4
 
     def libera(self):
-        """No box, no list, no menu."""
+        """Whether there is no box, no pop-up list and no menu."""
         return not any(f.dialogo or f.scavalca and "TOOLTIP" not in f.tipo
                        for f in self.x.finestre())
 
     def pronta(self):
-        """The console in front in base mode, the port open, nothing open that takes the input."""
+        """Brings the console to the front in base mode, with the port open and nothing else that
+        takes the input. Returns the console and the place of STOP, or None if that fails."""
         if self.p.robot and not self.muto_fino and self.libera() and not self.sessione_aperta():
             self.collega()
             self.entro(12, self.sessione_aperta)
@@ -529,8 +530,8 @@ class Scimmia:
         if not spazio and self.x.sotto_il_puntatore(px, py) != console.numero:
             return
         come = ("space" if spazio else "click") + (", robot silent" if muto else "")
-        # A key that was let go while its command waited leaves the latch closed, by design: then
-        # the next press only frees it, and the one after acts.
+        # A key that was released while its command waited leaves the latch closed, by design: the
+        # next press only frees it, and the one after that acts.
         self.u.ascolto.aggiorna()
         azioni = [c for c in self.u.ascolto.comandi if c[0] == 19]
         if len(azioni) != getattr(self, "azioni_viste", -1):
@@ -542,7 +543,7 @@ class Scimmia:
             if not lamento:
                 self.prove_stop[come] += 1
                 return
-            # Not judged if something came between.
+            # Not judged if something came in between.
             if (self.u.processo.poll() is not None or not self.libera() or
                     self.x.attiva() != console.numero or not self.sessione_aperta() or
                     self.nella_perdita(30)):
@@ -582,7 +583,7 @@ class Scimmia:
             time.sleep(0.02)
 
     def fermi(self):
-        """Seconds that the program, the robot and this script were ready to run and could not."""
+        """How many seconds the program, the robot and this script were ready to run and could not."""
         return memory.attesa_del_processore(self.p.pid, self.p.robot.pid, os.getpid())
 
     # What the monkey does.
@@ -600,7 +601,7 @@ class Scimmia:
         atto()
 
     def scegli_finestra(self):
-        """A window that is shown; what lies above, more often."""
+        """A window that is shown; more often one that is above the others."""
         finestre = [f for f in self.x.finestre() if "TOOLTIP" not in f.tipo]
         if not finestre:
             return None
@@ -610,7 +611,7 @@ class Scimmia:
         return self.caso.choice(finestre)
 
     def parti_di(self, finestra):
-        """The places of a window's controls, from its corner."""
+        """The places of a window's controls, in pixels from its corner."""
         chiave = (finestra.titolo, finestra.area[2:])
         if chiave not in self.parti or self.caso.random() < 0.04:
             def cerca():
@@ -626,7 +627,7 @@ class Scimmia:
         return self.parti[chiave]
 
     def punto(self, finestra=None):
-        """A point of a window, on the screen, with the window; None where nothing may be clicked."""
+        """A window and a point of it; None if a click there would not reach the program."""
         finestra = finestra or self.scegli_finestra()
         if not finestra:
             return None
@@ -658,7 +659,7 @@ class Scimmia:
         self.clic(volte=self.caso.choice((2, 2, 2, 3)))
 
     def destro(self):
-        if not self.file_aperto():  # its menu deletes and renames
+        if not self.file_aperto():  # the file dialog's menu deletes and renames
             self.clic(self.caso.choice((3, 3, 3, 2)), self.caso.choice((1, 1, 2)))
 
     def trascina(self):
@@ -720,7 +721,7 @@ class Scimmia:
             self.x.tocca(segno, tempo=0)
 
     def altrove(self):
-        """Another program comes to the front; a key or a button may be held meanwhile."""
+        """Another program comes to the front for a while; a key may be held meanwhile."""
         altra = self.x.altra()
         tasto = self.caso.choice((None, None, self.un_tasto()))
         if tasto == "F4":  # with Alt it would close the window
@@ -769,12 +770,12 @@ class Scimmia:
         if self.caso.random() < 0.5:
             self.x.chiudi(finestra.numero)
         elif self.x.attiva() == finestra.numero:
-            # It may go before the key comes, and the console be the one that is closed.
+            # If it goes before the key arrives, the console is closed instead.
             self.chiesta = time.monotonic()
             self.x.tocca("Alt_L", "F4")
 
     def esci(self):
-        """Closes the console; a box or a list that is not saved may keep it open."""
+        """Closes the console; a box or an unsaved list may keep it open."""
         console = self.console()
         if console:
             self.dice("close the console")
@@ -782,7 +783,7 @@ class Scimmia:
             self.x.chiudi(console.numero)
 
     def titolo(self):
-        """A press on a title bar, at times a drag; the buttons there are other acts."""
+        """A press on a title bar, sometimes a drag. The buttons there have acts of their own."""
         finestra = self.scegli_finestra()
         if not finestra or finestra.scavalca:
             return
@@ -817,7 +818,7 @@ class Scimmia:
         self.clic_nella_console(nome)
 
     def collega(self):
-        """Most of the time there is a connection; the port's number has gone astray meanwhile."""
+        """Connects; mostly restores the port's number before, which the monkey may have changed."""
         if self.caso.random() < 0.8:
             self.scrivi_file("Porta COM", "1\r\n")
         self.clic_nella_console("Connetti ad Tessaro")
@@ -854,8 +855,7 @@ class Scimmia:
             self.leggi_avviso()
 
     def rispondi(self):
-        """Takes away what stands above: a menu, a question (Escape would call the end off), a
-        dialog."""
+        """Closes what is in front: a menu, a question (Escape would cancel the end), a dialog."""
         finestre = [f for f in self.x.finestre() if "TOOLTIP" not in f.tipo]
         riquadro = self.u.riquadro()
         if any(f.scavalca for f in finestre):
@@ -870,5 +870,5 @@ class Scimmia:
     def racconta(self):
         return [f"monkey: rounds, acts          {self.giri}, {self.atti}",
                 f"monkey: ends of the program   {self.fini}",
-                f"monkey: looks for the pressed {self.giudizi}",
+                f"monkey: checks for a pressed  {self.giudizi}",
                 *[f"monkey: STOP by {come}: {quante}" for come, quante in self.prove_stop.items()]]

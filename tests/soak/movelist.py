@@ -1,4 +1,4 @@
-"""The list as it must be: the script's own model, held against the editor's rows and the file."""
+"""The list as it must be: a model to compare the editor's rows and the file with."""
 
 
 class Lista:

@@ -1,4 +1,4 @@
-"""A small window of another program, for the soak's user to turn to and come back from."""
+"""A small window of another program, so that the monkey can leave the program and come back."""
 
 from Xlib import X
 from Xlib.display import Display

@@ -1,5 +1,5 @@
-"""The rounds of the soak: a robot with a fault, the user's work with it, the fault's own hour, and
-the judgement of the line when the robot has gone."""
+"""The rounds of the soak: a robot with a fault, the user's work with it, what is particular to the
+fault, and the judgement of the line when the robot has gone."""
 
 import os
 import signal
@@ -16,7 +16,7 @@ NON_RIUSCITO = "Collegamento non riuscito!"
 SENZA_PORTA = "La porta non esiste"
 GRADI = (22, 23, 24, 26, 27)
 
-# Name, options of the simulated robot, whether what the robot says comes spoilt.
+# Name, options of the simulated robot, whether what the robot says arrives damaged.
 FASI = [
     ("none", [], False),
     ("dropped bytes", ["--persi", "0.03"], True),
@@ -39,14 +39,14 @@ FASI = [
 
 
 class Giri:
-    """What the soak's rounds are made of."""
+    """The steps of a round."""
 
     def __init__(self, casa, out, caso, utente, dettagli):
         self.casa, self.out, self.caso, self.u, self.dettagli = casa, out, caso, utente, dettagli
         self.robot = None
         self.base = ""
         self.nato = 0.0  # when the robot was started
-        self.perdita = None  # when its line loses all
+        self.perdita = None  # the time in which its line loses everything
         self.temperatura = 0
         self.da_svuotare = False
         self.byte = 0
@@ -74,7 +74,7 @@ class Giri:
         self.perdita = None
         self.u.ascolto = Ascolto(base + ".linea")
         self.u.attese = []
-        # Not a wait of the user's: there may be no program just now.
+        # Not with the user's wait, which fails if there is no program.
         fine = time.monotonic() + PAZIENZA
         while not (os.path.exists(os.path.join(self.u.disco, "COM1")) and
                    os.path.exists(base + ".diario")):
@@ -83,8 +83,8 @@ class Giri:
             time.sleep(0.05)
 
     def prepara_collegamenti(self):
-        """Each port number is a link of ours: to nothing as long as there is no robot. No port of
-        the machine's own is ever opened, whatever number comes up."""
+        """Makes a link for each port number, which leads nowhere as long as there is no robot. So
+        no real port of the machine is ever opened, whatever number the monkey types."""
         for numero in range(1, 100):
             if not os.path.islink(os.path.join(self.u.disco, f"COM{numero}")):
                 self.scollega_porta(numero)
@@ -99,15 +99,15 @@ class Giri:
 
     def ferma_robot(self, subito=False):
         if self.robot:
-            # First, so that the number is never without a link, nor leads to another's line.
+            # Before the robot ends: the number always has a link, and never one to a foreign line.
             self.scollega_porta(1)
             self.robot.send_signal(signal.SIGKILL if subito else signal.SIGTERM)
             self.robot.wait(timeout=60)
             self.robot = None
 
     def giudica_linea(self, intera=True):
-        """The recording of a robot that has gone: wholly commands, and those that were asked for;
-        the robot's own diary has understood all."""
+        """Judges the recording of a robot that has ended: it must consist of whole commands, those
+        that were asked for, and the robot's diary must have understood all of them."""
         self.u.ascolto.aggiorna()
         self.u.giudica_comandi(interrotta=not intera)
         if self.u.ascolto.coda and intera:
@@ -128,7 +128,7 @@ class Giri:
         self.u.dice("connect")
         for _ in range(4):
             self.u.clic_console("Connetti ad Tessaro")
-            # The end of the attempt: connected, or the button on offer again after the box.
+            # The attempt ends connected, or with the button enabled again after the box.
             quanti = len(self.u.avvisi)
             if self.u.attendi("the attempt's end", lambda: self.u.collegato() or
                               NON_RIUSCITO in self.u.avvisi[quanti:]) and self.u.collegato():
@@ -151,7 +151,7 @@ class Giri:
         self.u.attendi("disconnected", lambda: self.u.stato() == "Non connesso")
         quando = prima, self.ora_del_robot()
         self.u.posti.pop(CONSOLE, None)
-        # An earlier session may have been given up while the line lost all, its byte 4 too.
+        # An earlier session may have been given up while the line lost everything, byte 4 too.
         if not self.u.entro(PAZIENZA, lambda: sessione_chiusa(self.u.ascolto.comandi)):
             if not (self.perdita and self.perdita.inghiotte(*quando)):
                 raise Guaio("waited in vain: byte 4")
@@ -161,7 +161,7 @@ class Giri:
         return 1000 * (time.monotonic() - self.nato)
 
     def aspetta_la_rinuncia(self):
-        """The robot is gone: the program finds out by itself."""
+        """Waits until the program notices that the robot is gone."""
         self.u.dice("the program gives the connection up")
         self.u.attendi("given up", lambda: self.u.stato() == "Non connesso", 240)
         self.u.posti.pop(CONSOLE, None)
@@ -186,8 +186,8 @@ class Giri:
             return
         self.collega()
         if self.da_svuotare:
-            # What is left of a spoilt telegram is waited for beyond the disconnection; the camera's
-            # window empties it.
+            # The rest of a damaged telegram is waited for even after disconnecting; the camera's
+            # window discards it.
             u.camera()
         self.da_svuotare = sporca or nome == "lost line"
         if not sporca:
@@ -243,10 +243,10 @@ class Giri:
         return f"lista{self.caso.randint(1, 4)}.sqm"
 
     def giro_muto(self):
-        """A robot that says nothing: no connection comes about, and all else works."""
+        """With a robot that says nothing there is no connection, and everything else works."""
         u = self.u
         self.collega_invano(NON_RIUSCITO)
-        u.attendi("the button on offer", lambda: not u.collegato() and u.stato() == "Non connesso")
+        u.attendi("the button enabled", lambda: not u.collegato() and u.stato() == "Non connesso")
         self.ferma_robot()
         self.giudica_linea()
         u.guida_scollegata()
@@ -264,7 +264,7 @@ class Giri:
         u.giudica_file()
 
     def disco_pieno(self):
-        """Saves that the disk has no room for, over an old file; then again with room."""
+        """Saves over an old file without room on the disk, then again with room."""
         u = self.u
         nome = self.nome_lista()
         if nome not in u.su_disco:
@@ -300,7 +300,7 @@ class Giri:
         self.u.camera()
 
     def stacco(self, numero):
-        """The cable goes while nothing is done; the program finds out, or the user is faster."""
+        """The cable is out while nothing runs; the program notices, or the user disconnects first."""
         u = self.u
         u.dice("unplugged")
         self.ferma_robot(subito=self.caso.random() < 0.5)
@@ -314,8 +314,8 @@ class Giri:
             u.attendi("disconnected", lambda: u.stato() == "Non connesso")
             u.posti.pop(CONSOLE, None)
         if self.caso.random() < 0.5:
-            # The port is not there: the program says so, says it is connected, then gives up.
-            # Its polls, too, say that there is no robot.
+            # Without a port the program says so, shows that it is connected, and then gives up. Its
+            # polls report that there is no robot, too.
             u.avvisi_ammessi = (NON_COLLEGATO,)
             self.collega_invano(SENZA_PORTA)
             u.attendi("given up", lambda: "Disconnesso" in u.etichette(CONSOLE) and
@@ -326,7 +326,7 @@ class Giri:
         self.riattacca(numero)
 
     def stacco_in_corsa(self, numero):
-        """The cable goes while a list runs."""
+        """The cable is pulled out while a list runs."""
         u = self.u
         u.dice("unplugged in a run")
         u.attese += comandi_della_lista(u.lista.righe)
@@ -343,23 +343,23 @@ class Giri:
         self.riattacca(numero)
 
     def linea_persa(self):
-        """For a while nothing gets through, either way; a search for the robot, its return."""
+        """No byte arrives on either side for a while; the program searches for the robot."""
         u = self.u
-        u.dice("the line loses all")
+        u.dice("the line loses everything")
 
         def tace():
             gia = u.ascolto.quanti(27)
             return not u.entro(1.5, lambda: u.ascolto.quanti(27) > gia)
 
-        # On a busy machine it may be over before one looks.
+        # On a busy machine it may be over before anybody looks.
         u.attendi("the silence", lambda: u.ascolto.silenzio > 10000 or tace())
         u.modifica()
-        # The keep-alive may give up in this time or find the robot again.
+        # Meanwhile the keep-alive may give up or find the robot again.
         torna = u.ascolto.quanti(27)
         u.attendi("the line's return", lambda: u.ascolto.quanti(27) > torna + 2 or
                   not u.collegato(), 240)
         if not u.collegato():
-            # Byte 4 got lost on the line: the robot does not know.
+            # Byte 4 was lost on the line: the robot still believes in its session.
             u.posti.pop(CONSOLE, None)
             u.avvisi_ammessi = (NON_RIUSCITO,)
             self.collega()

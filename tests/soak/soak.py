@@ -3,7 +3,7 @@ silent, drops, doubles and garbles bytes, loses the line, goes away and comes ba
 that is full. What must hold all along: no crash, no report of the sanitizers, no memory that grows,
 no list line that gets lost, no byte to the robot that nobody asked for.
 
-soak.py HOUSE OUT MINUTES [--seed N] [--rounds KIND]: the folder made by the script beside this, the
+soak.py HOME OUT MINUTES [--seed N] [--rounds KIND]: the folder that the script soak makes, the
 folder for what is kept, how long."""
 
 import argparse
@@ -28,10 +28,10 @@ from screen import CONSOLE, mostrato
 from monkey import Scimmia
 from user import Guaio
 
-# Growth that is still none, bytes a round, the median of the slopes over the second half. In use:
-# what the boxes and the accessibility bus hold at the end of a round is some ten kB more or less from
-# round to round. Resident: judged of a program without the sanitizers only; theirs keep the origin
-# of each block for ever, so that it creeps up while what is in use stands still.
+# Limits of growth, in bytes a round: the median of the slopes over the second half. In use: boxes
+# and the accessibility bus hold some ten kB more or less from round to round. Resident: judged only
+# without the sanitizers, which keep the origin of each block for ever, so that it grows while the
+# memory in use does not.
 CRESCITA_IN_USO = 16 * 1024
 CRESCITA_RESIDENTE = 256 * 1024
 
@@ -51,8 +51,8 @@ class Prova(Giri):
         self.crescite = [0.0, 0.0]
         self.originale = os.path.join(casa, "lumbra")
         self.scimmia = self.misuratore = None
-        self.controllato = True  # by the sanitizers
-        self.pid = 0  # the program's own
+        self.controllato = True  # whether it runs under the sanitizers
+        self.pid = 0  # of the program
         self.rapporti_letti = set()
 
     def adesso(self):
@@ -75,7 +75,7 @@ class Prova(Giri):
 
     def avvia_programma(self):
         self.testimone = memory.Testimone(self.casa)
-        # What the user did to it in an earlier life is none of this one's.
+        # The user of an earlier run may have changed or replaced it.
         programma = os.path.join(self.u.disco, "lumbra")
         if not filecmp.cmp(self.originale, programma):
             os.remove(programma)
@@ -88,7 +88,7 @@ class Prova(Giri):
             self.testimone.ambiente(),
             SOAK_SEGNI=self.file_segni,
             LD_PRELOAD=os.path.join(self.casa, "witness.so"),
-            # A small quarantine: freed memory comes back, so that growth is the program's own.
+            # With a small quarantine freed memory is used again, so that growth is the program's.
             ASAN_OPTIONS=f"{comune}:verify_asan_link_order=0:detect_leaks=1:quarantine_size_mb=1:"
                          "thread_local_quarantine_size_kb=64:malloc_context_size=15:"
                          "detect_stack_use_after_return=1" +
@@ -134,18 +134,18 @@ class Prova(Giri):
             try:
                 u.davanti(aperte[-1])
                 u.tasti("alt+F4")
-            except Guaio:  # something stands before it: the next round takes that
+            except Guaio:  # another window is in front: the next pass closes that one
                 u.tasti("Escape")
             time.sleep(1)
         u.lista.nuova()
         self.da_svuotare = True
         u.entro(200, lambda: u.stato() == "Non connesso", 1)
         if u.stato() != "Non connesso":
-            raise Guaio("the program does not come back")
+            raise Guaio("the program does not come back to rest")
         u.su_disco = {n: u.contenuto(n) for n in os.listdir(u.disco) if n.endswith(".sqm")}
 
     def svolgi(self, minuti):
-        """The rounds of work, in one life of the program."""
+        """The rounds of work, with one and the same process."""
         self.prepara_collegamenti()
         self.avvia_programma()
         fine = time.monotonic() + 60 * minuti
@@ -172,7 +172,7 @@ class Prova(Giri):
                 self.guaio(f"round {numero} ({fase[0]}): boxes not expected: {strani}")
 
     def finisci(self):
-        """The user ends the program; its exit status and the sanitizers' word."""
+        """The user ends the program; judges its exit status and its leak check."""
         u = self.u
         u.ascolto = None
         u.davanti(CONSOLE)
@@ -185,7 +185,7 @@ class Prova(Giri):
             self.guaio(lamento)
 
     def segni(self):
-        """What the program's end left behind of the leak check."""
+        """The marks that the leak check left at the end of the program."""
         try:
             with open(self.file_segni, encoding="ascii") as file:
                 return file.read().split()
@@ -229,7 +229,7 @@ class Prova(Giri):
                   f"duration                  {minuti:.1f} min",
                   f"rounds                    {len(self.fasi_fatte)}",
                   f"phases                    {len(set(self.fasi_fatte) - {'monkey'})} of {len(self.fasi)}",
-                  f"the user's deeds          {self.u.azioni}",
+                  f"the user's acts           {self.u.azioni}",
                   f"commands, bytes to robot  {self.comandi}, {self.byte}",
                   f"message boxes             {sum(avvisi.values())}",
                   *[f"  {quanti:4}  {testo}" for testo, quanti in avvisi.items()],
@@ -246,19 +246,19 @@ class Prova(Giri):
 
 def principale():
     lettore = argparse.ArgumentParser()
-    lettore.add_argument("house")
+    lettore.add_argument("home")
     lettore.add_argument("out")
     lettore.add_argument("minutes", type=float)
     lettore.add_argument("--seed", type=int, default=random.SystemRandom().randrange(10 ** 6))
-    # The page costs memory itself: for the search of a growth that was found.
+    # For the search of a growth that was found; the page itself costs memory.
     lettore.add_argument("--page", type=int, default=0, help="each so many rounds the sanitizers' "
-                         "log tells who holds the memory")
+                         "log gets a page that says who holds the memory")
     lettore.add_argument("--rounds", choices=("all", "work", "monkey", "costs"), default="all",
                          help="work and, for the last quarter, the monkey; one of the two; or what "
                          "each act costs in memory")
     lettore.add_argument("--phases", default="", help="only these phases, with commas")
     o = lettore.parse_args()
-    prova = Prova(o.house, o.out, o.seed, o.page, o.phases)
+    prova = Prova(o.home, o.out, o.seed, o.page, o.phases)
     signal.signal(signal.SIGTERM, lambda *_: sys.exit("stopped from outside"))
     prova.dettagli(f"seed {o.seed}")
     print(f"seed {o.seed}", flush=True)
@@ -272,7 +272,7 @@ def principale():
         if o.rounds == "costs":
             prova.misuratore = Misure(prova)
             prova.misuratore.svolgi()
-    except (Exception, SystemExit) as errore:  # whatever it is, the table is told
+    except (Exception, SystemExit) as errore:  # whatever it is, the table is printed
         prova.guaio(f"{type(errore).__name__} {errore}", errore)
         prova.termina_programma()
     prova.ferma_robot()

@@ -1,4 +1,4 @@
-"""What the user of the soak does by hand and with a list, each deed judged at once."""
+"""What the user of the soak does by hand and with a list; every act is judged at once."""
 
 import os
 
@@ -66,7 +66,7 @@ class Lavori(Utente):
         self.lista = Lista()
         self.su_disco = {}  # what each list file must hold
         self.attese = []  # the commands that the robot must have been sent, in order
-        self.sporca = False  # bytes from the robot are spoilt in this phase
+        self.sporca = False  # bytes from the robot arrive damaged in this phase
 
     def dice(self, testo):
         self.azioni += 1
@@ -81,7 +81,7 @@ class Lavori(Utente):
         self.giudica_comandi()
 
     def giudica_comandi(self, interrotta=False):
-        """What has come is what was asked for, to the value and in order."""
+        """What has arrived must be what was asked for, in value and order."""
         self.ascolto.aggiorna()
         venute = [self.giudicabile(c) for c in self.ascolto.azioni()]
         if venute != self.attese[:len(venute)]:
@@ -94,11 +94,11 @@ class Lavori(Utente):
                         f"{self.attese[len(venute):][:3]}")
 
     def giudicabile(self, comando):
-        """A file's name that came spoilt goes out spoilt."""
+        """The same for all names of files: a name that arrived damaged is sent damaged."""
         return (40, 1) if self.sporca and comando[:2] == (40, 1) else comando
 
     def dimentica_il_resto(self):
-        """After an interruption: what the robot did not get is not waited for any more."""
+        """After an interruption, no longer waits for what the robot did not get."""
         self.giudica_comandi(interrotta=True)
         del self.attese[len(self.ascolto.azioni()):]
 
@@ -121,8 +121,8 @@ class Lavori(Utente):
         self.clic_console("Controlla la base")
 
     def tasto(self, tasto, riga):
-        """A key that is held until the robot has its command. A release that came while the console
-        was waiting for the robot has left the key latched: then the next press only frees it."""
+        """Holds a key until the robot has its command. A release that comes while the console waits
+        for the robot leaves the key latched: then the next press only frees it."""
         self.dice(f"key {tasto}: {riga}")
         self.attese += comandi_della_riga(riga)
         self.davanti(CONSOLE)
@@ -135,7 +135,7 @@ class Lavori(Utente):
         raise Guaio(f"key {tasto} did nothing")
 
     def guida_scollegata(self):
-        """Without a robot each command is answered by one box, and nothing goes out."""
+        """Without a robot each command brings one box, and nothing is sent."""
         for nome, bottone, riga in self.caso.sample(CONSOLE_CLIC[:9], 2):
             self.dice(f"console, not connected: {riga}")
             prima = self.avvisi.count(NON_COLLEGATO)
@@ -154,7 +154,7 @@ class Lavori(Utente):
         return [elenco.getChildAtIndex(i).name for i in range(elenco.childCount)]
 
     def giudica_lista(self, dopo):
-        """The editor's rows are the model's."""
+        """The editor's rows must be the model's."""
         if not self.entro(PAZIENZA, lambda: self.righe() == self.lista.righe):
             raise Guaio(f"list after {dopo}: {self.prova(self.righe)}, must be {self.lista.righe}")
 
@@ -169,7 +169,7 @@ class Lavori(Utente):
         self.chiusura(SEQUOR, () if self.lista.salvata or not self.lista.righe else SALVARE_LISTA)
 
     def inserimento(self, attivo):
-        """Ticks the box that turns the console's deeds into lines, or unticks it."""
+        """Ticks or unticks the box that turns the console's commands into lines."""
         testo = "Inserisci comandi nella lista "
         voluto = testo + ("(Attivato)" if attivo else "(Disattivato)")
         trovati = []
@@ -197,7 +197,7 @@ class Lavori(Utente):
 
     def dalla_console(self):
         nome, bottone, riga = self.caso.choice(CONSOLE_CLIC)
-        self.dice(f"line by doing: {riga}")
+        self.dice(f"line by a command: {riga}")
         self.lista.aggiungi(riga)
         self.clic_console(nome, bottone)
 
@@ -206,7 +206,7 @@ class Lavori(Utente):
         self.dice(f"line by key {tasto}: {riga}")
         self.lista.aggiungi(riga)
         self.davanti(CONSOLE)
-        # In the list branch the latch may still be closed from the last sent key: freed first.
+        # The latch may still be closed by the last key that was sent: another key frees it.
         xdotool("key", "F9")
         self.tasti(tasto)
 
@@ -272,8 +272,8 @@ class Lavori(Utente):
         return os.path.join(self.disco, nome)
 
     def salva(self, nome=None, riesce=True):
-        """Saves, under a name where one is given. A save that the disk has no room for says
-        nothing, keeps the lines, and leaves the file as it was."""
+        """Saves, under a new name if one is given. If the disk has no room, the program says
+        nothing, keeps the lines and leaves the file as it was."""
         self.dice(f"save {nome or self.lista.file}{'' if riesce else ', disk full'}")
         if nome:
             self.menu(SEQUOR, "File", "Salva con nome")
@@ -299,7 +299,7 @@ class Lavori(Utente):
             return None
 
     def giudica_file(self):
-        """Each list file holds what was last saved into it, and nothing half written lies about."""
+        """Each list file must hold what was last saved into it, and there must be no other file."""
         for nome, byte in self.su_disco.items():
             if self.contenuto(nome) != byte:
                 raise Guaio(f"{nome} holds {self.contenuto(nome)!r}, must be {byte!r}")
@@ -336,7 +336,7 @@ class Lavori(Utente):
         self.attese += comandi_della_lista(self.lista.righe)
         self.davanti(SEQUOR)
         self.premi(SEQUOR, "ESEGUI")
-        # A short run may be over before its button is seen: then the robot has been told something.
+        # A short run may be over before its button is seen: then the robot has got commands.
         self.attendi("the run", lambda: self.bottone(SEQUOR, "STOP")
                      or len(self.ascolto.azioni()) > prima)
         if ferma:

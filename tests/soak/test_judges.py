@@ -1,4 +1,4 @@
-"""The judges of the soak are themselves judged: each must be able to say no."""
+"""Tests of the soak's judges: each must be able to complain."""
 
 import os
 import signal
@@ -157,7 +157,7 @@ class Sanitizzatori(unittest.TestCase):
 
 
 class Perdite(unittest.TestCase):
-    """The leak check at an end without end handlers, of a program of three lines."""
+    """The leak check of a program of three lines that ends without end handlers."""
 
     PROGRAMMA = """
         #include <stdlib.h>
@@ -231,7 +231,7 @@ class Fine(unittest.TestCase):
         self.assertTrue(judges.sessione_chiusa(self.CHIUSA))
         self.assertFalse(judges.sessione_chiusa(self.APERTA))
         self.assertFalse(judges.sessione_chiusa([*self.CHIUSA, *self.APERTA]))
-        # The closing of an earlier one may have been lost with the line.
+        # The end of an earlier one may have been lost with the line.
         self.assertTrue(judges.sessione_chiusa([*self.APERTA, *self.CHIUSA]))
         self.assertFalse(judges.sessione_chiusa([*self.CHIUSA, *self.APERTA, (1,)]))
 
@@ -293,7 +293,7 @@ class Ferma(unittest.TestCase):
 
     def test_a_stop_in_time(self):
         self.assertIsNone(judges.stop([(27, 70), self.STOP], 1, 0.4, 0))
-        # What the machine itself was late by is not the program's.
+        # The time by which the machine itself was late does not count.
         self.assertIsNone(judges.stop([self.STOP], 0, 3.0, 2.4))
 
     def test_a_stop_that_fails(self):

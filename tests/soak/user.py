@@ -1,5 +1,5 @@
-"""The user of the soak: finds controls, clicks, waits, and answers each message box that comes up,
-also where nobody expected one."""
+"""The user of the soak: finds controls, clicks, waits, and answers each message box, expected or
+not."""
 
 import subprocess
 import time
@@ -9,17 +9,17 @@ import pyatspi
 from screen import CONSOLE, Schermo, area_di, mostrato, raccogli, xdotool
 
 PAZIENZA = 90.0
-DOPPIO_CLIC = 0.6  # seconds after which a second click is one of its own; the desktop's are 0.4
+DOPPIO_CLIC = 0.6  # seconds after which two clicks are no double click; the desktop's are 0.4
 
 
 class Guaio(Exception):
-    """Something did not come, or came wrong."""
+    """Something did not happen, or happened wrongly."""
 
 
 class Utente(Schermo):
     def __init__(self, cartella_foto, dettagli):
         super().__init__("Lumbra", None, cartella_foto)
-        self.dettagli = dettagli  # a function that keeps a line of the log
+        self.dettagli = dettagli  # a function that writes a line into the log
         self.processo = None
         self.ascolto = None
         self.avvisi_ammessi = ()
@@ -29,13 +29,13 @@ class Utente(Schermo):
         self.azioni = 0
         self.ultimo_clic = None, 0.0
 
-    # Waiting. Whatever is waited for, the program must live and its boxes are answered.
+    # Waiting. During every wait the program must run, and its boxes are answered.
 
     def prova(self, condizione):
         try:
             return condizione()
         except (RuntimeError, LookupError, NotImplementedError, AttributeError, TypeError):
-            return None  # a window that is just going away
+            return None  # a window that is just closing
         except subprocess.CalledProcessError:
             return None
         except Exception as errore:  # GLib's error of the accessibility bus
@@ -80,7 +80,7 @@ class Utente(Schermo):
         return " ".join(t.name for t in trovati if t.name)
 
     def premi_nel_riquadro(self, riquadro, nomi):
-        """Presses the first of these buttons that the box has; returns its name."""
+        """Presses the first of these buttons that the box has, and returns its name."""
         trovati = []
         raccogli(riquadro, "push button", None, trovati)
         per_nome = {p.name.replace("&", ""): p for p in trovati}
@@ -91,7 +91,7 @@ class Utente(Schermo):
         raise Guaio(f"a box without {nomi}: {sorted(per_nome)}")
 
     def rispondi_agli_avvisi(self):
-        """Records and answers a box that is there, if there is one."""
+        """Records and answers the box that is open, if there is one."""
         riquadro = self.prova(self.riquadro)
         if not riquadro:
             return False
@@ -120,7 +120,7 @@ class Utente(Schermo):
         return False
 
     def domanda(self, testo, *risposte):
-        """Waits for the box with this text, and presses."""
+        """Waits for the box with this text, and presses one of these buttons."""
         fine = time.monotonic() + PAZIENZA
         while time.monotonic() < fine:
             riquadro = self.prova(self.riquadro)
@@ -128,7 +128,7 @@ class Utente(Schermo):
                 premuto = self.premi_nel_riquadro(riquadro, risposte)
                 self.avvisi.append(testo)
                 self.dettagli(f"  box [{testo}] -> {premuto}")
-                # A click on a box that the window manager is just placing falls beside it.
+                # A click may miss a box that the window manager is just placing.
                 while not self.entro_senza_avvisi(5, lambda: not self.stesso_riquadro(testo)):
                     if time.monotonic() > fine:
                         raise Guaio(f"the box stays: {testo}")
@@ -156,7 +156,7 @@ class Utente(Schermo):
             "getactivewindow", "getwindowname").startswith(titolo))
 
     def numero_finestra(self, titolo):
-        """The window's number of the X server."""
+        """The X server's number of a window."""
         numeri = self.prova(lambda: xdotool("search", "--onlyvisible", "--name", f"^{titolo}"))
         return numeri.splitlines()[-1] if numeri else None
 
@@ -171,7 +171,7 @@ class Utente(Schermo):
         self.in_primo_piano(titolo)
 
     def mappa(self, titolo):
-        """Where the named controls of a window are, from its upper left corner: it is asked once."""
+        """The places of a window's named controls, from its upper left corner; asked for once."""
         if titolo not in self.posti:
             trovati = []
             finestra = self.attendi(titolo, lambda: self.finestra(titolo))
@@ -223,7 +223,7 @@ class Utente(Schermo):
         self.attendi(f"{titolo!r} gone", lambda: not self.finestra(titolo))
 
     def chiusura(self, titolo, domande):
-        """Closes a window that may ask first, one of these questions."""
+        """Closes a window that may ask one of these questions first."""
         self.davanti(titolo)
         self.tasti("alt+F4")
         prima = self.avvisi_ammessi
@@ -232,7 +232,7 @@ class Utente(Schermo):
         self.avvisi_ammessi = prima
 
     def doppio_clic(self, controllo, dx, cosa, fatto):
-        """Until it has done its work: on a busy machine the two halves may come too far apart."""
+        """Double clicks until it works: on a busy machine the two clicks may be too far apart."""
         for _ in range(4):
             self.clic(controllo(), dx=dx, volte=2)
             if self.entro(25, fatto):
@@ -257,7 +257,7 @@ class Utente(Schermo):
         return [e.name for e in trovate]
 
     def stato(self):
-        """The console's state of the connection."""
+        """The state of the connection that the console shows."""
         for testo in self.etichette(CONSOLE):
             if testo in ("Connesso", "Non connesso", "Ricerca..."):
                 return testo
@@ -272,6 +272,6 @@ class Utente(Schermo):
     # The robot's side, from the recording of the line.
 
     def sincronizza(self):
-        """All that the program has written up to now is in the recording: a later query is."""
+        """Waits until the recording holds all that was written so far: it holds a later poll."""
         gia = self.ascolto.quanti(27)
         self.attendi("the sensor poll", lambda: self.ascolto.quanti(27) >= gia + 2)

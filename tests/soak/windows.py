@@ -17,8 +17,8 @@ class Finestre(Lavori):
     # The runner.
 
     def vigila(self, nome, gradi, vera):
-        """A condition on the temperature for a saved list: it starts by itself where the robot has
-        that temperature, and does not where it has another."""
+        """Sets a condition on the temperature for a saved list, which starts by itself if and only
+        if the robot has that temperature."""
         self.apri("Accedi al Vigilio", VIGILIO)
         self.dice(f"runner: {nome} at {gradi} degrees, {'starts' if vera else 'waits'}")
         self.menu(VIGILIO, "Opzioni", "Deseleziona le liste una volta eseguite")
@@ -37,7 +37,7 @@ class Finestre(Lavori):
         if vera:
             self.attendi_comandi("the list that starts by itself",
                                  PAZIENZA_COMANDO + 3 * durata_della_lista(righe))
-            # The last line has its wait, too.
+            # The last line has a wait, too.
             self.attendi("the run's end", lambda: self.bottone(SEQUOR, "ESEGUI"))
             self.attendi("nothing left to wait for", lambda: self.bottone(VIGILIO, "AVVIA"))
             self.lista.caricata(nome, righe)
@@ -68,7 +68,7 @@ class Finestre(Lavori):
         self.attendi("the options gone", lambda: not self.finestra(OPZIONI))
         with open(self.percorso("Porta COM"), "rb") as file:
             if file.read() != b"1\r\n":
-                raise Guaio("the port's file is spoilt")
+                raise Guaio("the port's file is damaged")
 
     def camera(self):
         self.dice("camera")
@@ -82,7 +82,7 @@ class Finestre(Lavori):
         self.sincronizza()
 
     def sfoglia(self, preleva, riesce=True):
-        """Lists the robot's storage; fetches a photo, which a full disk has no room for."""
+        """Lists the robot's storage, and fetches a photo, which fails on a full disk."""
         self.dice(f"storage{', fetch' if preleva else ''}")
         gia = len(self.ascolto.scelti(RICHIESTE, SESSIONE))
         self.attese.append((40, 16, 0))
@@ -99,7 +99,7 @@ class Finestre(Lavori):
         if not riga and not self.sporca:
             raise Guaio("the listing did not come")
         if not self.sporca:
-            # While the listing runs a double click does nothing.
+            # A double click does nothing while the listing runs.
             self.attendi("the listing's end", lambda: (41,) in [
                 c[:1] for c in self.ascolto.scelti(RICHIESTE, SESSIONE)[gia:]])
         if riga and preleva:
@@ -115,7 +115,7 @@ class Finestre(Lavori):
                 self.attendi("the photo, byte for byte",
                              lambda: os.path.exists(presa) and impronta(presa) == vera)
             else:
-                self.attendi("the failure is told", lambda: "Errore nella lettura dei file!" in
+                self.attendi("the failure is shown", lambda: "Errore nella lettura dei file!" in
                              self.etichette(CONSOLE))
                 if os.path.exists(presa):
                     raise Guaio("half a photo")
@@ -132,7 +132,7 @@ class Finestre(Lavori):
 
     @staticmethod
     def giudica_memoria(comandi, preleva):
-        """One channel for the listing, read to its end and closed; one for the photo."""
+        """One channel for the listing, read to its end and closed, and one for the photo."""
         voci = sum(c[0] == 46 for c in comandi)
         canale = comandi[1][1]
         attesi = [(40, 16, 0), *[(46, canale)] * max(voci, 1), (41, canale)]

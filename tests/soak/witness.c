@@ -1,6 +1,6 @@
-// Loaded before the program of the soak: tells how much of the heap is in use when asked, keeps small
-// what is in use for a while only, and lets the leak check run where the program ends at once,
-// without the end handlers that would run it.
+// Loaded before the program of the soak. Answers how much of the heap is in use, keeps Qt's cache of
+// pictures small, and runs the leak check if the program ends at once, without the end handlers that
+// would run it.
 #define _GNU_SOURCE
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -15,8 +15,8 @@ extern size_t __sanitizer_get_current_allocated_bytes(void) __attribute__((weak)
 extern void __lsan_do_leak_check(void) __attribute__((weak));
 extern void __sanitizer_print_memory_profile(size_t, size_t) __attribute__((weak));
 
-// One byte asks: 'm' bytes in use, 'p' besides a page in the sanitizers' log that says by whom.
-// One line answers.
+// The question is one byte: 'm' for the bytes in use, 'p' also for a page in the sanitizers' log that
+// says who holds them. The answer is one line.
 static void *rispondi(void *senza)
 {
     (void)senza;
@@ -26,7 +26,7 @@ static void *rispondi(void *senza)
     while (domande >= 0 && read(domande, &domanda, 1) == 1) {
         if (domanda == 'p' && __sanitizer_print_memory_profile)
             __sanitizer_print_memory_profile(100, 1000);
-        // A program without the sanitizers asks the C library.
+        // Without the sanitizers the C library knows.
         dprintf(risposte, "%zu\n",
                 __sanitizer_get_current_allocated_bytes
                     ? __sanitizer_get_current_allocated_bytes()
@@ -47,8 +47,8 @@ __attribute__((constructor)) static void comincia(void)
 extern void _ZN12QPixmapCache13setCacheLimitEi(int) __attribute__((weak));
 int _ZN12QApplication4execEv(void);
 
-// Qt keeps up to 10 MB of pictures of buttons and headings that it has drawn once, and takes an hour
-// to fill that; a growth of the program's own would not be seen beside it.
+// Qt keeps up to 10 MB of pictures of buttons and headings, and takes an hour to fill that; a growth
+// of the program itself would be hidden by it.
 int _ZN12QApplication4execEv(void)
 {
     const int kilobyte = 512;
@@ -58,7 +58,7 @@ int _ZN12QApplication4execEv(void)
     return vera();
 }
 
-// How far the leak check came, for the soak to see.
+// Records how far the leak check came.
 static void segna(const char *quanto)
 {
     const char *nome = getenv("SOAK_SEGNI");

@@ -1,5 +1,5 @@
 """The X server as the monkey meets it: the windows as the window manager knows them, real keys and
-buttons, and pictures of a window also while another stands before it."""
+buttons, and pictures of a window even while another one covers it."""
 
 import time
 
@@ -18,9 +18,9 @@ class Finestra:
 
     def __init__(self, x, numero, titolo, tipo, sopra, capo, area, scavalca):
         self.x, self.numero, self.titolo, self.tipo = x, numero, titolo, tipo
-        self.sopra, self.capo = sopra, capo  # whose it says it is, and its client's leader
+        self.sopra, self.capo = sopra, capo  # the parent that it names, and its client's leader
         self.area = area  # left, top, width, height on the screen
-        self.scavalca = scavalca  # not the window manager's: a menu, a list, a tool tip
+        self.scavalca = scavalca  # not under the window manager: a menu, a pop-up list, a tool tip
 
     @property
     def dialogo(self):
@@ -34,7 +34,7 @@ class Finestra:
 class ServitoreX:
     def __init__(self):
         self.d = Display()
-        # A window that has just gone is nothing to speak of.
+        # A window that has just gone is no error.
         self.d.set_error_handler(lambda *_: None)
         self.radice = self.d.screen().root
         self.radice.composite_redirect_subwindows(composite.RedirectAutomatic)
@@ -82,13 +82,13 @@ class ServitoreX:
                         (posto.x, posto.y, misura.width, misura.height), scavalca)
 
     def gestite(self):
-        """The window manager's windows, minimised ones too, the highest last."""
+        """The windows that the window manager knows, minimised ones too, the topmost last."""
         numeri = self.proprieta(self.radice, "_NET_CLIENT_LIST_STACKING")
         return [self.d.create_resource_object("window", n)
                 for n in (numeri if numeri is not None else [])]
 
     def finestre(self):
-        """The program's windows that are shown, the highest last; menus and lists among them."""
+        """The program's shown windows, menus and pop-up lists among them, the topmost last."""
         trovate = []
         for finestra in self.gestite():
             if self.classe(finestra) == NOSTRO and self.mostrata(finestra):
@@ -108,11 +108,11 @@ class ServitoreX:
         return [f for f in trovate if f]
 
     def del_programma(self):
-        """The numbers of all its windows that the window manager knows."""
+        """The numbers of all windows of the program that the window manager knows."""
         return {f.id for f in self.gestite() if self.classe(f) == NOSTRO}
 
     def nostra(self, numero):
-        """Whether a window of that number is the program's, also one that it has hidden."""
+        """Whether a window of that number is the program's, shown or hidden."""
         try:
             return self.classe(self.d.create_resource_object("window", numero)) == NOSTRO
         except errore_x.XError:
@@ -138,7 +138,7 @@ class ServitoreX:
         return self.numero(self.radice, "_NET_ACTIVE_WINDOW")
 
     def sotto_il_puntatore(self, x, y):
-        """The program's window that a click there would meet, None for a frame or the ground."""
+        """The program's window that a click there would reach; None for a frame or the desktop."""
         oggetto = self.radice
         try:
             while True:
@@ -152,7 +152,7 @@ class ServitoreX:
             pass
         return None
 
-    # What one asks of the window manager.
+    # Requests to the window manager.
 
     def manda(self, finestra, nome, *dati):
         messaggio = event.ClientMessage(window=finestra, client_type=self.atomo(nome),
@@ -174,11 +174,11 @@ class ServitoreX:
         self.manda(self.oggetto(numero), "WM_CHANGE_STATE", Xutil.IconicState)
 
     def sposta(self, numero, x, y):
-        # x and y are given, by a user.
+        # Flags: x and y are given, by a user.
         self.manda(self.oggetto(numero), "_NET_MOVERESIZE_WINDOW", 1 | 1 << 8 | 1 << 9 | 2 << 12,
                    x, y)
 
-    # Hands.
+    # Keys and buttons.
 
     def codice(self, tasto):
         return self.d.keysym_to_keycode(XK.string_to_keysym(tasto))
@@ -194,7 +194,7 @@ class ServitoreX:
         self.d.sync()
 
     def tocca(self, *tasti, tempo=0.03):
-        """The keys go down in this order and up in the other."""
+        """Presses the keys in this order and releases them in the other."""
         for tasto in tasti:
             self.premi(tasto)
         time.sleep(tempo)
@@ -229,7 +229,7 @@ class ServitoreX:
             auto_repeat_mode=X.AutoRepeatModeOn if attiva else X.AutoRepeatModeOff)
         self.d.sync()
 
-    # Eyes.
+    # Pictures.
 
     def immagine(self, numero, x, y, larghezza, altezza):
         """The picture of a part of a window, four bytes a pixel; None if it is not shown."""
