@@ -1,14 +1,14 @@
 // Builds the windows, ties them together, starts.
-#include "controls/Applicazione.h"
 #include "base/Cartella.h"
-#include "controls/Comandi.h"
-#include "serial/PortaAsio.h"
 #include "conditional/Orologio.h"
-#include "vision/frmCamera.h"
-#include "movelists/frmEditor.h"
-#include "filebrowser/frmEsploraFile.h"
-#include "console/frmPrincipale.h"
 #include "conditional/frmProcessor.h"
+#include "console/frmPrincipale.h"
+#include "controls/Applicazione.h"
+#include "controls/Comandi.h"
+#include "filebrowser/frmEsploraFile.h"
+#include "movelists/frmEditor.h"
+#include "serial/PortaAsio.h"
+#include "vision/frmCamera.h"
 
 #include <QApplication>
 

@@ -18,9 +18,7 @@ ListeVigilio::ListeVigilio(Elenco &lstFile, ElencoFile &file, Elenco &lstCondizi
 {
     m_lstFile.mostraTag(
         [this] { return m_salvate ? Numeri::TestoLogico(*m_salvate) : u"-1"_s; },
-        [this](const QString &testo) {
-            passaErrori([&] { m_salvate = Numeri::Logico(testo); });
-        });
+        [this](const QString &testo) { passaErrori([&] { m_salvate = Numeri::Logico(testo); }); });
 }
 
 ListeVigilio::~ListeVigilio()

@@ -1,5 +1,5 @@
-// The lists that the Vigilio knows. The file, the condition and the check mark of each one are kept in
-// three parallel controls that show them, and nowhere else; whether they are saved is kept here.
+// The lists that the Vigilio knows. The file, the condition and the check mark of each one are kept
+// in three parallel controls that show them, and nowhere else; whether they are saved is kept here.
 #pragma once
 
 #include "controls/Elenco.h"
@@ -43,8 +43,8 @@ public:
     // Takes over what a project says about the lists that are here; the others stay as they are.
     // Errors are those of reading the file, and of Progetto::leggi.
     void leggiProgetto(const QString &file);
-    // Writes all lists; they count as saved afterwards, even if that failed. No failure is reported.
-    // Lists that could not be filled never replace a project that exists.
+    // Writes all lists; they count as saved afterwards, even if that failed. No failure is
+    // reported. Lists that could not be filled never replace a project that exists.
     void scriviProgetto(const QString &file);
 
     // The first two lists with a check mark that cannot go together, and why.

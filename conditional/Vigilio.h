@@ -1,7 +1,7 @@
 // Whether the Vigilio starts lists, the one start that may be under way, and whether a list that it
-// has started is running. A start waits for the user and for the connection. Meanwhile the Vigilio may
-// be stopped, its window closed, the check marks taken away: a start counts only as long as its Avvio
-// is valid.
+// has started is running. A start waits for the user and for the connection. Meanwhile the Vigilio
+// may be stopped, its window closed, the check marks taken away: a start counts only as long as its
+// Avvio is valid.
 #pragma once
 
 #include <QString>

@@ -2,18 +2,18 @@
 // field, of which only those that are active go into the condition.
 #pragma once
 
+#include "art/Disegni.h"
+#include "conditional/Condizione.h"
+#include "conditional/Orologio.h"
+#include "conditional/TastoTenuto.h"
 #include "controls/ArrayControlli.h"
 #include "controls/CasellaTesto.h"
 #include "controls/Combo.h"
-#include "conditional/Condizione.h"
 #include "controls/Cornice.h"
-#include "art/Disegni.h"
 #include "controls/Elenco.h"
 #include "controls/Finestra.h"
 #include "controls/Grafica.h"
 #include "controls/Pulsanti.h"
-#include "conditional/TastoTenuto.h"
-#include "conditional/Orologio.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,6 @@
 // How the window looks, and its design values.
-#include "shell/AggiungiALista.h"
 #include "conditional/frmImpCondizioni.h"
+#include "shell/AggiungiALista.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>

@@ -3,15 +3,15 @@
 
 #include "conditional/ConsoleVigilio.h"
 #include "conditional/ListeVigilio.h"
+#include "conditional/PulsanteAvvia.h"
+#include "conditional/Vigilio.h"
+#include "conditional/frmImpCondizioni.h"
 #include "controls/Elenco.h"
 #include "controls/ElencoFile.h"
 #include "controls/Finestra.h"
 #include "controls/FinestraFile.h"
-#include "conditional/PulsanteAvvia.h"
-#include "link/Ascoltatori.h"
-#include "conditional/Vigilio.h"
 #include "controls/VoceMenu.h"
-#include "conditional/frmImpCondizioni.h"
+#include "link/Ascoltatori.h"
 
 class frmEditor;
 class Orologio;

@@ -23,10 +23,9 @@ constexpr int cicloFinito = 201;
 template <class Controllo>
 void mostraNumero(Controllo &controllo, int &numero)
 {
-    controllo.mostraTag([&numero] { return QString::number(numero); },
-                        [&numero](const QString &testo) {
-                            passaErrori([&] { numero = Numeri::Intero(testo); });
-                        });
+    controllo.mostraTag(
+        [&numero] { return QString::number(numero); },
+        [&numero](const QString &testo) { passaErrori([&] { numero = Numeri::Intero(testo); }); });
 }
 
 } // namespace

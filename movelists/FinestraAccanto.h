@@ -9,7 +9,10 @@ class FinestraAccanto
 {
 public:
     // finestra opens beside altra.
-    FinestraAccanto(Finestra &finestra, const Finestra &altra) : m_finestra(finestra), m_altra(altra) {}
+    FinestraAccanto(Finestra &finestra, const Finestra &altra)
+        : m_finestra(finestra), m_altra(altra)
+    {
+    }
 
     // Places the window before it is shown.
     void colloca();

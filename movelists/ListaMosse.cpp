@@ -12,9 +12,7 @@ ListaMosse::ListaMosse(Elenco &lstMosse) : m_lstMosse(lstMosse)
 {
     m_lstMosse.mostraTag(
         [this] { return m_salvata ? Numeri::TestoLogico(*m_salvata) : QString(); },
-        [this](const QString &testo) {
-            passaErrori([&] { m_salvata = Numeri::Logico(testo); });
-        });
+        [this](const QString &testo) { passaErrori([&] { m_salvata = Numeri::Logico(testo); }); });
 }
 
 ListaMosse::~ListaMosse()

@@ -1,7 +1,7 @@
 #include "movelists/ModoValore.h"
 
-#include "link/FrasiSuoni.h"
 #include "base/Numeri.h"
+#include "link/FrasiSuoni.h"
 
 using namespace Qt::StringLiterals;
 

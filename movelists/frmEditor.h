@@ -9,8 +9,8 @@
 #include "controls/Grafica.h"
 #include "controls/Temporizzatore.h"
 #include "controls/VoceMenu.h"
-#include "movelists/FinestraAccanto.h"
 #include "movelists/Corsa.h"
+#include "movelists/FinestraAccanto.h"
 #include "movelists/ListaMosse.h"
 #include "movelists/frmValore.h"
 

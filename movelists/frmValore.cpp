@@ -1,9 +1,9 @@
 #include "movelists/frmValore.h"
 
-#include "shell/AggiungiALista.h"
+#include "base/Numeri.h"
 #include "controls/Messaggi.h"
 #include "movelists/ModoValore.h"
-#include "base/Numeri.h"
+#include "shell/AggiungiALista.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>

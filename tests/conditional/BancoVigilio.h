@@ -1,9 +1,9 @@
 // The runner on a bench, with the real editor beneath it; the console is stood in for.
 #pragma once
 
-#include "tests/movelists/BancoEditor.h"
 #include "conditional/frmProcessor.h"
 #include "tests/conditional/OrologioFermo.h"
+#include "tests/movelists/BancoEditor.h"
 
 class CollegamentoFinto : public ConsoleVigilio
 {

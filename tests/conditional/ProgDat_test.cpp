@@ -1,9 +1,9 @@
 // The default condition in "Prog.dat".
 #include "conditional/ProgDat.h"
 
+#include "shell/Gest_File.h"
 #include "tests/support/CartellaDiProva.h"
 #include "tests/support/ErroreDi.h"
-#include "shell/Gest_File.h"
 #include "tests/support/Scritte.h"
 
 #include <gmock/gmock.h>

@@ -1,11 +1,11 @@
 // An evening with the robot: the console, the editor and the runner on a real line, the clock
 // alone is moved by hand. The robot's diary tells which lists ran.
-#include "tests/movelists/BancoEditor.h"
+#include "conditional/frmProcessor.h"
+#include "console/frmPrincipale.h"
 #include "serial/PortaAsio.h"
 #include "simulator/Simulatore.h"
-#include "console/frmPrincipale.h"
-#include "conditional/frmProcessor.h"
 #include "tests/conditional/OrologioFermo.h"
+#include "tests/movelists/BancoEditor.h"
 
 #include <gmock/gmock.h>
 #include <iostream>

@@ -1,12 +1,12 @@
 // The editor on a bench: what it needs of others is stood in for, and notes what it was asked.
 #pragma once
 
+#include "movelists/frmEditor.h"
 #include "tests/support/Attesa.h"
 #include "tests/support/CartellaDiProva.h"
 #include "tests/support/Modali.h"
 #include "tests/support/PortaFinta.h"
 #include "tests/support/Scritte.h"
-#include "movelists/frmEditor.h"
 
 #include <QFileDialog>
 #include <QTest>

@@ -1,13 +1,13 @@
 // Lists on the simulated robot: the console itself, a real line, real timers.
+#include "console/frmPrincipale.h"
+#include "link/ComandiTessaro.h"
+#include "movelists/frmEditor.h"
+#include "serial/PortaAsio.h"
+#include "simulator/Simulatore.h"
 #include "tests/support/Attesa.h"
 #include "tests/support/CartellaDiProva.h"
-#include "link/ComandiTessaro.h"
 #include "tests/support/Modali.h"
-#include "serial/PortaAsio.h"
 #include "tests/support/Scritte.h"
-#include "simulator/Simulatore.h"
-#include "movelists/frmEditor.h"
-#include "console/frmPrincipale.h"
 
 #include <QElapsedTimer>
 #include <gmock/gmock.h>
@@ -104,7 +104,8 @@ TEST_F(CorsaTest, NoLineComesBeforeTheWaitOfTheOneBefore)
     QElapsedTimer orologioDiProva;
     orologioDiProva.start();
     const auto ora = [&] { return static_cast<double>(orologioDiProva.nsecsElapsed()) / 1e6; };
-    // A tick selects its line and sends at once, which asks for the port; the wait begins after that.
+    // A tick selects its line and sends at once, which asks for the port; the wait begins after
+    // that.
     QMap<int, double> primaRichiesta;
     double inizioPausa = 0;
     richiesta = [&] {

@@ -2,9 +2,9 @@
 #include "movelists/FileMosse.h"
 
 #include "base/Archivio.h"
-#include "tests/support/CartellaDiProva.h"
 #include "base/Codifica.h"
 #include "base/Errore.h"
+#include "tests/support/CartellaDiProva.h"
 #include "tests/support/Scritte.h"
 
 #include <gmock/gmock.h>

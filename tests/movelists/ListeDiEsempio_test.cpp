@@ -1,11 +1,11 @@
 // The lists that come with the program.
 #include "base/Archivio.h"
-#include "tests/movelists/BancoEditor.h"
 #include "link/ComandiTessaro.h"
 #include "movelists/FileMosse.h"
 #include "movelists/Mossa.h"
 #include "serial/PortaAsio.h"
 #include "simulator/Simulatore.h"
+#include "tests/movelists/BancoEditor.h"
 
 #include <QDir>
 #include <gmock/gmock.h>

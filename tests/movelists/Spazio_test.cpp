@@ -1,6 +1,6 @@
 // The editor and the value dialog have room for their texts with every desktop's font.
-#include "tests/movelists/BancoEditor.h"
 #include "movelists/ModoValore.h"
+#include "tests/movelists/BancoEditor.h"
 #include "tests/support/Ritaglio.h"
 
 #include <gmock/gmock.h>
