@@ -456,20 +456,21 @@ class Scimmia:
                      if f.titolo.startswith(CONSOLE) and not f.dialogo and not f.scavalca), None)
 
     def lista_attiva(self):
-        """Whether the console's commands may go into the editor's list, minimised or not."""
+        """Whether the editor may be taking the console's commands; a minimised one counts as open.
+        It is known by its check box: a minimised window has no name for screen readers."""
         for finestra in self.u.applicazione() or []:
-            if finestra.name.startswith(SEQUOR):
-                da_vedere = [finestra]
-                while da_vedere:
-                    oggetto = da_vedere.pop()
-                    oggetto.clear_cache()
-                    if oggetto.name == INSERISCI + "(Disattivato)":
-                        return False
-                    da_vedere += list(oggetto)
-                return any(f.titolo.startswith(SEQUOR) for f in self.x.finestre()) or bool(
-                    [f for f in self.x.minimizzate() if self.x.testo(f, "_NET_WM_NAME").startswith(
-                        SEQUOR)])
-        return False
+            da_vedere = [finestra]
+            while da_vedere:
+                oggetto = da_vedere.pop()
+                oggetto.clear_cache()
+                if oggetto.name == INSERISCI + "(Disattivato)":
+                    return False
+                if oggetto.name == INSERISCI + "(Attivato)":
+                    return any(f.titolo.startswith(SEQUOR) for f in self.x.finestre()) or any(
+                        self.x.testo(f, "_NET_WM_NAME").startswith(SEQUOR)
+                        for f in self.x.minimizzate())
+                da_vedere += list(oggetto)
+        return None
 
     def sessione_aperta(self):
         self.u.ascolto.aggiorna()
