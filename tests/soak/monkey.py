@@ -470,7 +470,7 @@ class Scimmia:
                         self.x.testo(f, "_NET_WM_NAME").startswith(SEQUOR)
                         for f in self.x.minimizzate())
                 da_vedere += list(oggetto)
-        return None
+        return False
 
     def sessione_aperta(self):
         self.u.ascolto.aggiorna()
