@@ -39,27 +39,27 @@ function(suite name)
         set(others -${others})
     endif()
     if(P_WAITING)
-        entries(${name} ${name}.waiting "${P_WAITING}" "${P_SHARDS_WAITING}" COST 50)
+        entries(${name} ${name}.waiting "${P_WAITING}" "${P_SHARDS_WAITING}")
     endif()
     if(P_MAY_SKIP)
         gtest_discover_tests(${name} TEST_FILTER ${P_MAY_SKIP} TEST_PREFIX ${name}.
             DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT ${LUMBRA_TEST_TIMEOUT})
     endif()
-    entries(${name} ${name} "*${others}" "${P_SHARDS}" PROCESSORS 2)
+    entries(${name} ${name} "*${others}" "${P_SHARDS}" PROCESSORS 3)
 endfunction()
 
 # enlarged(name): the looks of a test program's windows once more, on finer screens.
 function(enlarged name)
     foreach(scale IN ITEMS 1.5 2)
-        entries(${name} ${name}.Spazio.${scale} Spazio.* "" PROCESSORS 2
+        entries(${name} ${name}.Spazio.${scale} Spazio.* "" PROCESSORS 3
             ENVIRONMENT QT_SCALE_FACTOR=${scale})
     endforeach()
 endfunction()
 
 # entries(program name filter shards PROPERTY VALUE ...): the entries of CTest for the tests that a
 # filter finds; shards is a number or empty. A filter that finds nothing is a failure.
-# PROCESSORS counts half processors: scripts/test gives CTest twice as many as the machine has, so
-# that tests which wait run beside those which compute.
+# PROCESSORS counts quarters of a processor: scripts/test gives CTest four times as many as the
+# machine has. Tests that compute take three, so that others which wait run beside them.
 function(entries program name filter shards)
     if(NOT shards)
         set(shards 1)

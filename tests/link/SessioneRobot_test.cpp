@@ -154,7 +154,7 @@ TEST_F(SessioneRobot, AFileThatIsNotAPortIsReported)
 TEST_F(SessioneRobot, ACommandIsAnsweredAndItsTextShown)
 {
     p.sessione.Collega();
-    p.banco.tmrSensori.setEnabled(false);
+    // What the robot answers is the poll of its sensors, which comes during the wait.
     ComandiTessaro::BaseAvanti(p.banco.COM, 2);
     p.sessione.MostraInvio(u"Tessaro sta andando avanti"_s);
     EXPECT_EQ(p.pannello(3), u"Tessaro sta andando avanti"_s);
