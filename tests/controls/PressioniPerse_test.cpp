@@ -4,6 +4,8 @@
 
 #include <QDialog>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class PressioniPerse : public ::testing::Test
