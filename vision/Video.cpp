@@ -58,8 +58,8 @@ void Video::impostaScala(quint8 scala)
 bool Video::misura(int larghezza)
 {
     const int colonne = m_scala * 8;
-    const int zoom = colonne == 0 ? 0 : larghezza / colonne;
-    const bool altro = zoom != m_zoom;
-    m_zoom = zoom;
+    const int volte = colonne == 0 ? 0 : larghezza / colonne;
+    const bool altro = volte != m_zoom;
+    m_zoom = volte;
     return altro;
 }
