@@ -6,7 +6,7 @@
 project=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 home=       # the temporary folder of this session, removed at the end: make_home
 diary=      # what the simulated robot writes of itself
-out=        # the folder for pictures, set by the script; the diary is copied there at the end
+out=        # the folder for pictures, where the diary is copied at the end: use_out
 patience=60 # seconds that wait_for waits at least
 started=()  # processes that end with the script
 last=       # the latest of them
@@ -45,6 +45,11 @@ use_home() {
     home=$1
     diary=$home/diary.txt
     trap finish EXIT
+}
+
+use_out() { # FOLDER
+    mkdir -p "$1"
+    out=$(realpath "$1")
 }
 
 make_home() {
