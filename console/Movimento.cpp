@@ -1,8 +1,8 @@
 #include "console/Movimento.h"
 
-#include "link/ComandiTessaro.h"
 #include "base/Numeri.h"
 #include "controls/Tasti.h"
+#include "link/ComandiTessaro.h"
 
 #include <array>
 

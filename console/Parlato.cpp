@@ -1,8 +1,8 @@
 #include "console/Parlato.h"
 
+#include "base/Numeri.h"
 #include "link/ComandiTessaro.h"
 #include "link/FrasiSuoni.h"
-#include "base/Numeri.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,14 +1,14 @@
 // The window as a whole: start, end, toolbar, control modes, the send-or-list rule.
 #include "console/frmPrincipale.h"
 
-#include "shell/Abilita_Disabilita.h"
 #include "base/Archivio.h"
 #include "base/Codifica.h"
-#include "console/Collocazione.h"
-#include "shell/FileProgDat.h"
-#include "controls/Messaggi.h"
 #include "base/Numeri.h"
 #include "base/Pompa.h"
+#include "console/Collocazione.h"
+#include "controls/Messaggi.h"
+#include "shell/Abilita_Disabilita.h"
+#include "shell/FileProgDat.h"
 
 #include <QDir>
 #include <QScopedValueRollback>

@@ -1,18 +1,18 @@
 // The console: the main window, from the program's start to its end.
 #pragma once
 
-#include "controls/ArrayControlli.h"
+#include "art/Disegni.h"
 #include "console/Azione.h"
+#include "console/FermoTasti.h"
+#include "console/Targa.h"
+#include "controls/ArrayControlli.h"
 #include "controls/Barre.h"
 #include "controls/Combo.h"
-#include "art/Disegni.h"
 #include "controls/Elenco.h"
-#include "console/FermoTasti.h"
 #include "controls/Finestra.h"
+#include "controls/VoceMenu.h"
 #include "link/MotoreRicezione.h"
 #include "link/Sessione.h"
-#include "console/Targa.h"
-#include "controls/VoceMenu.h"
 #include "movelists/ListaMosse.h"
 #include "shell/frmOpzioni.h"
 

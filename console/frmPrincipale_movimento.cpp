@@ -1,7 +1,7 @@
 // Motion control: keys, arrows, latch, STOP.
 #include "console/Movimento.h"
-#include "controls/Tasti.h"
 #include "console/frmPrincipale.h"
+#include "controls/Tasti.h"
 
 #include <QKeyEvent>
 #include <utility>

@@ -1,8 +1,8 @@
 // The console by keyboard alone. Its keys belong to the robot, whatever has the focus: what has no
 // key stands in a menu, in which the keys are the menu's.
 #include "console/LedTesta.h"
-#include "controls/Tasti.h"
 #include "console/frmPrincipale.h"
+#include "controls/Tasti.h"
 
 #include <QApplication>
 #include <algorithm>

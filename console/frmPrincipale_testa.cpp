@@ -1,8 +1,8 @@
 // Head LEDs, position LED, tools, gripper, photo.
-#include "shell/Abilita_Disabilita.h"
 #include "console/Attrezzi.h"
 #include "console/LedTesta.h"
 #include "console/frmPrincipale.h"
+#include "shell/Abilita_Disabilita.h"
 
 using Attrezzi::Lato;
 

@@ -1,8 +1,8 @@
 // Phrases, sounds, recorded messages, internal programs.
-#include "controls/Messaggi.h"
 #include "base/Numeri.h"
 #include "console/Parlato.h"
 #include "console/frmPrincipale.h"
+#include "controls/Messaggi.h"
 
 void frmPrincipale::collegaVoce()
 {

@@ -45,6 +45,12 @@ bool eAperta(const QWidget &finestra)
     return siVede(finestra) && !finestra.isMinimized();
 }
 
+// A menu or the splash goes away by itself, and would leave a dialog without its window.
+bool resta(const QWidget &finestra)
+{
+    return finestra.windowType() != Qt::Popup && finestra.windowType() != Qt::SplashScreen;
+}
+
 // X11 reports each repeat of a held key as a release and a press with the same time stamp. Qt marks
 // the release as automatic only if the press is already in its queue, which is often not the case
 // while a handler pumps events in a wait. So a release is held back until it is certain.
@@ -103,11 +109,16 @@ QWidget *Finestra::Davanti()
     if (modale && siVede(*modale))
         return modale;
     QWidget *attiva = QApplication::activeWindow();
-    if (attiva && eAperta(*attiva) && attiva->windowType() != Qt::Popup)
+    if (attiva && eAperta(*attiva) && resta(*attiva))
         return attiva;
-    const auto aperta = std::ranges::find_if(perAttivita(), [](auto *f) { return eAperta(*f); });
-    if (aperta != perAttivita().end())
-        return *aperta;
+    const auto prima = [](auto &&condizione) {
+        const auto trovata = std::ranges::find_if(perAttivita(), condizione);
+        return trovata == perAttivita().end() ? nullptr : *trovata;
+    };
+    if (Finestra *aperta = prima([](auto *f) { return eAperta(*f) && resta(*f); }))
+        return aperta;
+    if (Finestra *aperta = prima([](auto *f) { return eAperta(*f); }))
+        return aperta;
     Finestra *ultima = Ultima();
     return ultima ? ultima : perAttivita().value(0);
 }

@@ -48,8 +48,8 @@ public:
     // dialog has closed, and not while another program is in front.
     static Finestra *Ultima();
     // The parent for a message box or a dialog: the modal window if there is one, else the window
-    // that was active last. A minimised window is taken only if no other is visible, a hidden one
-    // only if all are hidden. nullptr only if the program has no window.
+    // that was active last. The splash and a minimised window are taken only if no other is
+    // visible, a hidden one only if all are hidden. nullptr only if the program has no window.
     static QWidget *Davanti();
     // Hides the window and keeps its state.
     void Nascondi() { hide(); }

@@ -1,6 +1,6 @@
 #include "simulator/Opzioni.h"
-#include "simulator/robot/Memoria.h"
 #include "simulator/Simulatore.h"
+#include "simulator/robot/Memoria.h"
 #include "simulator/robot/Telecamera.h"
 #include <QCommandLineParser>
 #include <QFileInfo>

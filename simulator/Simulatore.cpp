@@ -3,8 +3,8 @@
 #include "simulator/line/Linea.h"
 #include "simulator/line/Registrazione.h"
 #include "simulator/line/Riproduttore.h"
-#include "simulator/robot/Telegrammi.h"
 #include "simulator/line/Uscita.h"
+#include "simulator/robot/Telegrammi.h"
 #include <QTimer>
 
 using namespace Qt::StringLiterals;

@@ -1,10 +1,10 @@
 // tessaro-sim: the simulated robot, with a window or without.
-#include "controls/look/Aspetto.h"
 #include "art/Disegni.h"
-#include "simulator/window/FinestraSimulatore.h"
+#include "controls/look/Aspetto.h"
 #include "simulator/Opzioni.h"
 #include "simulator/Segnali.h"
 #include "simulator/Simulatore.h"
+#include "simulator/window/FinestraSimulatore.h"
 #include <QApplication>
 #include <QFile>
 #include <QLibraryInfo>

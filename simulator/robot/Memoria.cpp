@@ -1,6 +1,6 @@
 #include "simulator/robot/Memoria.h"
-#include "simulator/robot/Esempi.h"
 #include "simulator/line/Guasti.h"
+#include "simulator/robot/Esempi.h"
 #include "simulator/robot/Telegrammi.h"
 #include <QDir>
 #include <QTemporaryDir>

@@ -1,11 +1,11 @@
 #include "simulator/window/FinestraSimulatore.h"
+#include "simulator/Simulatore.h"
 #include "simulator/window/PannelloDiario.h"
 #include "simulator/window/PannelloLinea.h"
 #include "simulator/window/PannelloSensori.h"
 #include "simulator/window/PannelloTelecamera.h"
 #include "simulator/window/QuadroRobot.h"
 #include "simulator/window/QuadroStanza.h"
-#include "simulator/Simulatore.h"
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>

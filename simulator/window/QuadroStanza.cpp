@@ -1,7 +1,7 @@
 #include "simulator/window/QuadroStanza.h"
-#include "simulator/window/DisegnoRobot.h"
 #include "simulator/robot/Robot.h"
 #include "simulator/robot/Stanza.h"
+#include "simulator/window/DisegnoRobot.h"
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>

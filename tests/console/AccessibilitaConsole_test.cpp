@@ -1,7 +1,7 @@
 // What a screen reader finds, the keyboard reaches, and the eye can read.
 #include "tests/console/ConsoleInProva.h"
-#include "tests/support/Contrasto.h"
 #include "tests/console/TutteLeAzioni.h"
+#include "tests/support/Contrasto.h"
 
 #include <QAccessible>
 #include <QLineEdit>

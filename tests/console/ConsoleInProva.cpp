@@ -1,7 +1,7 @@
 #include "tests/console/ConsoleInProva.h"
 
-#include "simulator/robot/Memoria.h"
 #include "serial/PortaAsio.h"
+#include "simulator/robot/Memoria.h"
 
 #include <gtest/gtest.h>
 
@@ -34,8 +34,9 @@ ConsoleInProva::ConsoleInProva()
     robot.robot().memoria().impostaRadice(cartella.percorso());
     EXPECT_TRUE(robot.apri()) << robot.errore().toStdString();
     EXPECT_TRUE(robot.collegaPorta(cartella.percorso(), 1)) << robot.errore().toStdString();
-    finestra.impostaFinestre({&frmCamera, &frmEditor, &frmEditor.opzInsComandi, &frmEditor.documento,
-                              &frmProcessor, nullptr, &frmEsploraFile, &frmImmaginiAcquisite});
+    finestra.impostaFinestre({&frmCamera, &frmEditor, &frmEditor.opzInsComandi,
+                              &frmEditor.documento, &frmProcessor, nullptr, &frmEsploraFile,
+                              &frmImmaginiAcquisite});
 }
 
 void ConsoleInProva::mostra()

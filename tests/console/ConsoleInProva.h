@@ -1,12 +1,12 @@
 // The console on the screen, the simulated robot on a real line, stand-ins for the other windows.
 #pragma once
 
+#include "console/frmPrincipale.h"
+#include "simulator/Simulatore.h"
 #include "tests/support/Attesa.h"
 #include "tests/support/CartellaDiProva.h"
 #include "tests/support/Modali.h"
 #include "tests/support/Scritte.h"
-#include "simulator/Simulatore.h"
-#include "console/frmPrincipale.h"
 
 #include <QTest>
 #include <QWindow>

@@ -1,7 +1,7 @@
 // The console's vocabulary beside the one that the simulated robot has of its own.
 #include "link/FrasiSuoni.h"
-#include "tests/support/Scritte.h"
 #include "simulator/robot/Vocabolario.h"
+#include "tests/support/Scritte.h"
 
 #include <gmock/gmock.h>
 

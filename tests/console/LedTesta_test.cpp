@@ -1,5 +1,5 @@
-#include "tests/console/AzioneInProva.h"
 #include "console/LedTesta.h"
+#include "tests/console/AzioneInProva.h"
 
 #include <gmock/gmock.h>
 

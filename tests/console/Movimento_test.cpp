@@ -1,6 +1,6 @@
-#include "tests/console/AzioneInProva.h"
 #include "console/Movimento.h"
 #include "controls/Tasti.h"
+#include "tests/console/AzioneInProva.h"
 
 #include <gtest/gtest.h>
 

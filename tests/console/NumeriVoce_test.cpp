@@ -1,6 +1,6 @@
 // The boxes of phrases and sounds, typed and pasted into as users do.
-#include "tests/console/ConsoleInProva.h"
 #include "simulator/robot/Vocabolario.h"
+#include "tests/console/ConsoleInProva.h"
 
 #include <QClipboard>
 #include <QToolButton>

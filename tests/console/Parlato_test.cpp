@@ -1,6 +1,6 @@
-#include "tests/console/AzioneInProva.h"
-#include "link/FrasiSuoni.h"
 #include "console/Parlato.h"
+#include "link/FrasiSuoni.h"
+#include "tests/console/AzioneInProva.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // The console has room for its texts with every desktop's font, in all that it shows.
 #include "console/Parlato.h"
-#include "tests/support/Ritaglio.h"
 #include "tests/console/TutteLeAzioni.h"
+#include "tests/support/Ritaglio.h"
 
 #include <gmock/gmock.h>
 

@@ -658,3 +658,15 @@ TEST_F(TastiDellaFinestra, HeldEnterAndEscClickOnce)
         }
     }
 }
+
+TEST(Finestra, NothingIsPlacedOverTheSplashWhileAnotherWindowIsOpen)
+{
+    FinestraDiProva console;
+    console.mostraAttiva();
+    FinestraDiProva splash(u"frmSplash"_s);
+    splash.setWindowFlags(Qt::SplashScreen);
+    splash.mostraAttiva();
+    EXPECT_EQ(Finestra::Davanti(), &console);
+    console.Nascondi();
+    EXPECT_EQ(Finestra::Davanti(), &splash);
+}

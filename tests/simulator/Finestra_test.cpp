@@ -1,8 +1,8 @@
 // The simulator's window, worked as a person would.
-#include "tests/simulator/RobotInProva.h"
-#include "simulator/window/FinestraSimulatore.h"
 #include "simulator/Simulatore.h"
 #include "simulator/robot/Stanza.h"
+#include "simulator/window/FinestraSimulatore.h"
+#include "tests/simulator/RobotInProva.h"
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>

@@ -1,5 +1,5 @@
-#include "tests/simulator/RobotInProva.h"
 #include "simulator/line/Guasti.h"
+#include "tests/simulator/RobotInProva.h"
 #include <gtest/gtest.h>
 
 namespace {

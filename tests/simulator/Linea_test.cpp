@@ -1,7 +1,7 @@
 // The whole simulator on a real pseudo-terminal, opened by its path.
+#include "simulator/Simulatore.h"
 #include "simulator/robot/Memoria.h"
 #include "tests/simulator/PortaDiProva.h"
-#include "simulator/Simulatore.h"
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
 // The storage: listing, fetching, and the borders of what a path may reach.
-#include "tests/simulator/RobotInProva.h"
 #include "simulator/robot/Memoria.h"
+#include "tests/simulator/RobotInProva.h"
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>

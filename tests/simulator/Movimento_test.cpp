@@ -1,6 +1,6 @@
 // How the robot moves over time.
-#include "tests/simulator/RobotInProva.h"
 #include "simulator/robot/Stanza.h"
+#include "tests/simulator/RobotInProva.h"
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;

@@ -1,6 +1,6 @@
-#include "tests/simulator/RobotInProva.h"
 #include "simulator/Opzioni.h"
 #include "simulator/Simulatore.h"
+#include "tests/simulator/RobotInProva.h"
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 

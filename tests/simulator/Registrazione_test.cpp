@@ -1,5 +1,5 @@
-#include "tests/simulator/RobotInProva.h"
 #include "simulator/line/Registrazione.h"
+#include "tests/simulator/RobotInProva.h"
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 

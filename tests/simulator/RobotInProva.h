@@ -1,7 +1,7 @@
 #pragma once
-#include "tests/simulator/Attendi.h"
 #include "simulator/robot/Diario.h"
 #include "simulator/robot/Robot.h"
+#include "tests/simulator/Attendi.h"
 #include <QByteArray>
 #include <QString>
 #include <initializer_list>

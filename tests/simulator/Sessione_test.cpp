@@ -1,6 +1,6 @@
 // The session, the telemetry, and what the actuators do to the robot's state.
-#include "tests/simulator/RobotInProva.h"
 #include "simulator/robot/Memoria.h"
+#include "tests/simulator/RobotInProva.h"
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // The simulator's window has room for its texts with every desktop's font.
+#include "simulator/Simulatore.h"
 #include "simulator/window/FinestraSimulatore.h"
 #include "tests/support/Ritaglio.h"
 #include "tests/support/Scritte.h"
-#include "simulator/Simulatore.h"
 
 #include <QScreen>
 #include <gmock/gmock.h>

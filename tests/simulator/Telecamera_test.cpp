@@ -1,6 +1,6 @@
-#include "tests/simulator/RobotInProva.h"
 #include "simulator/robot/Stanza.h"
 #include "simulator/robot/Telecamera.h"
+#include "tests/simulator/RobotInProva.h"
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
