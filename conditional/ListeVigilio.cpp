@@ -30,9 +30,9 @@ void ListeVigilio::riempi(const QString &cartella)
 {
     m_riempite = false;
     m_file.setPath(cartella);
-    const QString condizione = ProgDat::leggiCondizione();
+    const QString predefinita = ProgDat::leggiCondizione();
     for (int i = 0; i < m_file.ListCount(); ++i) {
-        m_lstCondizioni.AddItem(condizione);
+        m_lstCondizioni.AddItem(predefinita);
         m_lstFile.AddItem(scritta(i));
     }
     m_riempite = true;

@@ -108,9 +108,9 @@ QWidget *Finestra::Davanti()
     QWidget *modale = QApplication::activeModalWidget();
     if (modale && siVede(*modale))
         return modale;
-    QWidget *attiva = QApplication::activeWindow();
-    if (attiva && eAperta(*attiva) && resta(*attiva))
-        return attiva;
+    QWidget *inUso = QApplication::activeWindow();
+    if (inUso && eAperta(*inUso) && resta(*inUso))
+        return inUso;
     const auto prima = [](auto &&condizione) {
         const auto trovata = std::ranges::find_if(perAttivita(), condizione);
         return trovata == perAttivita().end() ? nullptr : *trovata;
