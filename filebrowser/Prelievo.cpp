@@ -135,9 +135,9 @@ void Prelievo::stato(quint8 k, quint8 x)
 
 void Prelievo::aperto(quint8 k)
 {
-    if (m_attesa == Attesa::Niente)
+    if (m_attesa == Attesa::Niente || m_canale == k)
         return;
-    if (m_canale && *m_canale != k) {
+    if (m_canale) {
         if (!m_rispostaDovuta) {
             // Nothing will be read from this channel.
             chiudi(k);
@@ -176,8 +176,7 @@ void Prelievo::leggi(quint8 k)
 
 void Prelievo::VisualizzaElenco(quint8 k, quint8 x, const QByteArray &corpo)
 {
-    // Only what belongs to a request that was given up is left out.
-    if (m_canale ? *m_canale != k : m_rispostaDovuta)
+    if (!attesoDa(k, Attesa::Elenco))
         return;
     leggi(k);
     m_finestra.aggiungi(x, Codifica::daByte(corpo));
